@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// An ordered list whose items have a text as key, compared without regard to case.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "base/failure.h"
+#include "base/text.h"
+
+namespace ornavo {
+
+/// Items are held by shared reference and stand in the order of insertion. Positions count from 1.
+template <class T>
+class KeyedCollection {
+public:
+    using Ref = std::shared_ptr<T>;
+
+    int Count() const { return static_cast<int>(items_.size()); }
+    /// Null where there is no such key.
+    Ref Find(std::string_view key) const {
+        const auto found = byKey_.find(LowerText(key));
+        return found == byKey_.end() ? nullptr : found->second;
+    }
+    /// Failure 9 where there is no such position or key.
+    Ref Item(int position) const {
+        CheckPosition(position);
+        return items_[static_cast<std::size_t>(position - 1)].item;
+    }
+    Ref Item(std::string_view key) const {
+        Ref found = Find(key);
+        if (!found) throw NotFound();
+        return found;
+    }
+    /// Failure 457 if the key is there already; nothing changes then.
+    void Insert(std::string_view key, Ref item, int before) {
+        if (before < 1 || before > Count() + 1) throw NotFound();
+        std::string folded = LowerText(key);
+        if (!byKey_.try_emplace(folded, item).second)
+            throw Failure(457, "KeyedCollection", "This key is already associated with an element of this collection");
+        items_.insert(items_.begin() + (before - 1), Entry{std::move(folded), std::move(item)});
+    }
+    void Append(std::string_view key, Ref item) { Insert(key, std::move(item), Count() + 1); }
+    void Remove(int position) {
+        CheckPosition(position);
+        const auto entry = items_.begin() + (position - 1);
+        byKey_.erase(entry->key);
+        items_.erase(entry);
+    }
+    void Remove(std::string_view key) {
+        const std::string folded = LowerText(key);
+        for (std::size_t i = 0; i < items_.size(); ++i)
+            if (items_[i].key == folded) return Remove(static_cast<int>(i) + 1);
+        throw NotFound();
+    }
+
+private:
+    struct Entry {
+        std::string key;  // folded
+        Ref item;
+    };
+
+public:
+    /// Enumeration gives the references, in order.
+    class ConstIterator {
+    public:
+        explicit ConstIterator(typename std::vector<Entry>::const_iterator at) : at_(at) {}
+        const Ref& operator*() const { return at_->item; }
+        ConstIterator& operator++() {
+            ++at_;
+            return *this;
+        }
+        bool operator==(const ConstIterator&) const = default;
+
+    private:
+        typename std::vector<Entry>::const_iterator at_;
+    };
+    ConstIterator begin() const { return ConstIterator(items_.begin()); }
+    ConstIterator end() const { return ConstIterator(items_.end()); }
+
+private:
+    static Failure NotFound() { return Failure(9, "KeyedCollection", "Subscript out of range"); }
+    void CheckPosition(int position) const {
+        if (position < 1 || position > Count()) throw NotFound();
+    }
+    std::vector<Entry> items_;
+    std::unordered_map<std::string, Ref> byKey_;
+};
+
+}  // namespace ornavo

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// Rounding, and numbers as the user's system writes them. Nothing here asks the C locale.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ornavo {
+
+/// How the user's system writes numbers, in UTF-8. Handed in once at start.
+struct NumberSigns {
+    std::string decimal = ".";
+    std::string group = ",";
+};
+const NumberSigns& numberSigns();
+void UseNumberSigns(NumberSigns signs);
+
+double RoundHalfEven(double value);
+/// To 32 and 16 bits, half to even. Failure 6 beyond the range or for what is no number.
+std::int32_t ToLong(double value);
+std::int16_t ToInteger(double value);
+/// The greatest whole number not above the value, in 32 bits. Failure 6 beyond the range.
+std::int32_t FloorToLong(double value);
+
+/// Whether the user's system takes the text for a number: blanks around, a sign in front, group signs,
+/// the decimal sign, an exponent. Not: "nan", "inf", "0x1F", "1_000", "+", "-", "".
+bool IsNumeric(std::string_view text);
+/// The number that such a text stands for. Failure 13 if it stands for none, 6 if it is too large.
+double ToNumber(std::string_view text);
+/// The number at the start of a text with "." as decimal sign, blanks skipped; 0 if there is none.
+double Val(std::string_view text);
+
+/// The plain text of a number: up to 15 digits, no group signs, "1E-05" below 0.0001 and "1E+15" from there
+/// on, with the decimal sign given.
+std::string NumberText(double value, std::string_view decimal = ".");
+std::string NumberText(std::int32_t value);
+
+}  // namespace ornavo

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// The skin: its name and size, its preferences and its layouts.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "document/dblayouts.h"
+#include "document/dbskinprefs.h"
+
+namespace ornavo {
+
+class dbSkin {
+public:
+    dbSkin();  // the whole catalogue with its defaults, no layout
+
+    bool Dirty = false;
+    std::string OldSkinName;
+    std::int32_t SkinHeight = 0, SkinWidth = 0;  // pixels
+    std::string SkinName;
+    std::shared_ptr<ornavo::dbSkinPrefs> dbSkinPrefs;  // never null
+    std::shared_ptr<ornavo::dbLayouts> dbLayouts;      // never null
+
+    const std::string& BasePath() const { return basePath_; }
+    void SetBasePath(std::string_view folder);  // gets a separator at its end
+
+    std::string SkinFolder() const;  // BasePath + SkinName + separator
+    std::string SkinFile() const;    // SkinFolder + "SkinSettings.xml"
+
+    /// Adds each preference of the catalogue that is missing, at the end.
+    void SetupSkinPrefs();
+    dbLayoutRef AddNewLayout(std::string_view name);
+    static std::string GetLayoutKey(std::string_view name);
+
+    /// Fills the skin from its file, by BasePath and SkinName. A file that is not there changes nothing but
+    /// OldSkinName; what can't be read is skipped. SkinName is afterwards a plain folder name.
+    void LoadSkin();
+    /// Gathers the pictures into the skin's folder and writes the file, whole or not at all. Failure when
+    /// it can't; the model is then as it was.
+    void SaveSkin(bool keepExisting);
+
+private:
+    std::string basePath_;
+};
+using dbSkinRef = std::shared_ptr<dbSkin>;
+
+}  // namespace ornavo

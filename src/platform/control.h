@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// The base of every control that a layout owns: name, tag, place, and the mouse handed to one listener.
+#pragma once
+
+#include <QWidget>
+#include <string>
+
+#include "base/colour.h"
+#include "base/geometry.h"
+
+namespace ornavo {
+
+class Control;
+
+struct Mouse {
+    int button = 0;  // 1 left, 2 right, 4 middle; on a move the mask of those held
+    int shift = 0;   // 1 Shift, 2 Ctrl, 4 Alt
+    int x = 0, y = 0;  // pixels of the control
+};
+
+/// What a window hears of its controls.
+class ControlEvents {
+public:
+    virtual ~ControlEvents() = default;
+    virtual void MouseDown(Control&, const Mouse&) {}
+    virtual void MouseMove(Control&, const Mouse&) {}
+    virtual void MouseUp(Control&, const Mouse&) {}
+    virtual void DblClick(Control&) {}
+    virtual void Repeat(Control&) {}  // a button is held
+};
+
+/// Accepts every press, so that nothing falls through to the window behind.
+class Control : public QWidget {
+public:
+    Control(QWidget* parent, std::string name, int index = 0);
+
+    std::string Name;  // of the control or of its pool
+    int Index = 0;     // slot of its pool
+    std::string Tag;   // key of its element; "" is free
+
+    Rect Bounds() const;
+    void Move(const Rect& bounds);  // pixels; Failure 380 on a negative size
+    void ZOrder();                  // to the front
+    virtual void Refresh();         // paints again what has changed
+    void Listen(ControlEvents* events) { events_ = events; }
+
+    Colour BackColor() const { return backColor_; }
+    virtual void SetBackColor(Colour colour);
+
+    /// 0 the default, 2 cross, 6 and 8 the diagonals, 7 and 9 up-down and left-right, 15 size all, 11 hourglass.
+    void SetMousePointer(int shape);
+
+protected:
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
+    ControlEvents* events() const { return events_; }
+
+private:
+    ControlEvents* events_ = nullptr;
+    Colour backColor_ = ButtonFace;
+};
+
+QColor ScreenColour(Colour colour);  // translated; black for what is no colour
+
+}  // namespace ornavo

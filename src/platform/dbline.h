@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// A straight line that is a control of its own and can be hit.
+#pragma once
+
+#include "platform/control.h"
+
+namespace ornavo {
+
+class dbLine : public Control {
+public:
+    dbLine(QWidget* parent, std::string name, int index = 0);
+
+    int X1() const { return x1_; }
+    int Y1() const { return y1_; }
+    int X2() const { return x2_; }
+    int Y2() const { return y2_; }
+    /// Ends in the parent's pixels. Each setter moves only its own axis.
+    void SetX1(int x);
+    void SetX2(int x);
+    void SetY1(int y);
+    void SetY2(int y);
+    /// Places the control so that it just surrounds the line, with 2 pixels to spare each way.
+    void MoveTo(int x1, int y1, int x2, int y2);
+
+    int BorderWidth = 1;
+    Colour BorderColor = ornavo::ColourOf(0x80000008);
+    Rect InnerLine() const { return inner_; }  // left, top to left + width, top + height; signed
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    int x1_ = 0, y1_ = 0, x2_ = 0, y2_ = 0;
+    Rect inner_;
+};
+
+}  // namespace ornavo

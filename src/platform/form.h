@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// A top-level window whose rectangle is kept in twips.
+#pragma once
+
+#include <QWidget>
+#include <string>
+
+#include "base/geometry.h"
+
+namespace ornavo {
+
+/// The metrics of the old desktop, fixed so that saved rectangles mean the same everywhere (pixels).
+struct ScreenMetrics {
+    int SM_CXSCREEN = 0, SM_CYSCREEN = 0, SM_CXFULLSCREEN = 0, SM_CYFULLSCREEN = 0;
+    int SM_CYSIZE = 20, SM_CYSMCAPTION = 19, SM_CXFRAME = 4, SM_CYFRAME = 4;
+};
+const ScreenMetrics& screenMetrics();
+void GetScreenMetrics();
+
+enum WindowStateCode { StateNormal = 0, StateMinimised = 1, StateMaximised = 2 };
+
+class Form : public QWidget {
+public:
+    Form(QWidget* owner, std::string name, Qt::WindowFlags flags);
+
+    std::string Name;
+    int ScaleWidth() const { return width(); }    // inner size, pixels
+    int ScaleHeight() const { return height(); }
+    /// The outer rectangle in twips: frame and title by screenMetrics. Of a maximised window the normal one.
+    Rect TwipBounds() const;
+    /// Moves there; brought back onto a screen when it would not be seen.
+    void MoveTwips(const Rect& twips);
+    int WindowState() const;
+    void SetWindowState(int state);  // of a window not yet shown: the state it comes up in
+
+protected:
+    bool event(QEvent*) override;
+    virtual void Form_Activate() {}
+    virtual void Form_Resize() {}
+    virtual void Form_Unload() {}  // the window closes
+    void resizeEvent(QResizeEvent*) override;
+    void closeEvent(QCloseEvent*) override;
+};
+
+}  // namespace ornavo

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// Picture files become pixels: decoded once, within stated limits, and shared.
+#pragma once
+
+#include <QImage>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+
+namespace ornavo {
+
+inline constexpr std::int64_t PicturePixelLimit = 64'000'000;              // of one picture
+inline constexpr std::int64_t PictureByteLimit = std::int64_t{512} << 20;  // of all pictures in use together
+
+/// A decoded picture. Two Pictures are the same when they are the same object: LoadPicture gives the same one
+/// again while file, size and time are unchanged and somebody holds it or the cache keeps it.
+struct Picture {
+    QImage image;                // as decoded, never null
+    std::filesystem::path path;  // where it came from
+};
+using PictureRef = std::shared_ptr<const Picture>;
+
+/// Null for what is no picture, is too large (refused before memory is taken) or can't be read.
+PictureRef LoadPicture(const std::filesystem::path& path);
+/// Whether the file is a GIF of more than one frame.
+bool IsAnimatedGIF(const std::filesystem::path& path);
+
+}  // namespace ornavo

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// The user's settings: text by section and key, and typed constants over them.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace ornavo {
+
+/// Sections and keys are compared without regard to case.
+std::string GetSetting(std::string_view section, std::string_view key, std::string_view standard);
+void SaveSetting(std::string_view section, std::string_view key, std::string_view value);
+void DeleteSetting(std::string_view section, std::string_view key);
+/// The file to use from now on; the default is in the user's configuration folder.
+void UseSettingsFile(const QString& path);
+
+/// One setting with its key and default. Read fails (Failure 13) on a text that is not of the type, so that
+/// the caller keeps its designed value.
+template <class T>
+struct Setting {
+    const char* section;
+    const char* key;
+    T standard;
+    T Read() const;
+    void Write(const T& value) const;
+};
+template <> int Setting<int>::Read() const;
+template <> void Setting<int>::Write(const int& value) const;
+template <> bool Setting<bool>::Read() const;      // "True", "False", or a number
+template <> void Setting<bool>::Write(const bool& value) const;
+
+}  // namespace ornavo

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// What stands before the first window: environment, style, palette, fonts, number signs.
+#pragma once
+
+class QApplication;
+
+namespace ornavo {
+
+/// Before QApplication: the windowing system's order of choice, whole scale factors.
+void PrepareProcess();
+/// After it: Fusion style, our one light palette, pixel-sized font, font stand-ins, the user's number signs.
+void InitCommonControls(QApplication& application);
+
+}  // namespace ornavo

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// Text on the canvas: a label without ground, and a box with one line of text that can be edited.
+#pragma once
+
+#include "base/font.h"
+#include "platform/control.h"
+
+class QLineEdit;
+
+namespace ornavo {
+
+class TextBox : public Control {
+public:
+    TextBox(QWidget* parent, std::string name);
+
+    void SetFont(const ornavo::Font& font);
+    void SetForeColor(Colour colour);
+    void SetBackColor(Colour colour) override;
+    void SetBorderStyle(int style);  // 0 none, 1 a sunken line
+    void SetText(std::string_view text);
+    QLineEdit& Edit() { return *edit_; }
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
+    bool eventFilter(QObject*, QEvent*) override;  // the edit's mouse goes to the listener
+
+private:
+    QLineEdit* edit_;
+};
+
+}  // namespace ornavo

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// The face of a picture button: plain state in, pixels out. Knows no widget, no mouse and no clock.
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <string>
+#include <vector>
+
+#include "base/colour.h"
+#include "base/font.h"
+#include "base/geometry.h"
+#include "platform/pictures.h"
+
+namespace ornavo {
+
+/// One layer over the button's picture: a text or a small picture.
+struct TileLayer {
+    std::string Key;
+    std::string Text;
+    PictureRef Picture;
+    bool IsText = true;
+    ornavo::Font Font;
+    Colour ForeColor = 0;
+    int Alignment = 2;           // 0 left, 1 right, 2 centre
+    float Left = 0, Top = 0;     // pixels from the button's left and top
+    float RightTrim = 0;         // pixels at the right end of the text area
+    float Height = 0;            // pixels of the text area; its text starts at Top
+    bool Visible = true;
+};
+
+/// The layers of a button, by key without regard to case, drawn in order.
+class TileLayers {
+public:
+    TileLayer& Add(std::string_view key);   // Failure 457 if it is there
+    TileLayer& Item(std::string_view key);  // Failure 9 if it is not
+    void Remove(std::string_view key);
+    void Clear() { layers_.clear(); }
+    int Count() const { return static_cast<int>(layers_.size()); }
+    auto begin() const { return layers_.begin(); }
+    auto end() const { return layers_.end(); }
+
+private:
+    std::vector<TileLayer> layers_;
+};
+
+/// Everything that a button's look depends on but its size and which of its pictures is shown.
+struct TileState {
+    Colour BackColor = ButtonFace;
+    int BackStyle = 1;               // 0 transparent, 1 opaque
+    bool ShowBorder = false;         // one pixel, inside the control
+    Colour BorderColor = 0;
+    bool UseTransparency = false;    // the key colour of the picture is not drawn
+    bool TransColorTopLeft = false;  // it is that of the shown picture's top left pixel, as decoded
+    Colour TransparentColor = ButtonFace;
+    bool ShowSmooth = false;
+    bool UseRotation = false;
+    double Rotation = 0;             // degrees clockwise about the middle, in the control's own size
+    bool UseShadow = false;          // under text layers
+    int ShadowDistance = 0;          // pixels right and down
+    Colour ShadowColor = 0;
+};
+
+/// The key colour that the picture really uses: its top left pixel or the one given.
+Colour KeyColourOf(const TileState& state, const QImage& picture);
+
+/// The picture keyed, stretched to the size, rotated; premultiplied. Keyed first, then stretched.
+QImage FinishedPicture(const QImage& picture, const TileState& state, Size size);
+
+/// The whole face. `picture` is the one to show, may be null. `finished`, when not null, is used in place of
+/// FinishedPicture (the widget's cache).
+void PaintTile(QPainter& painter, const TileState& state, const TileLayers& layers, Size size, const QImage* picture,
+               const QImage* finished = nullptr);
+
+}  // namespace ornavo
