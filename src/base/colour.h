@@ -9,11 +9,21 @@ namespace ornavo {
 using Colour = std::int32_t;  // signed, as it stands in the file
 
 /// A colour constant from its hexadecimal form.
-constexpr Colour ColourOf(std::uint32_t bits) { return static_cast<Colour>(bits); }
-constexpr Colour Rgb(int red, int green, int blue) { return red | green << 8 | blue << 16; }
-constexpr int RedOf(Colour c) { return c & 0xFF; }
-constexpr int GreenOf(Colour c) { return c >> 8 & 0xFF; }
-constexpr int BlueOf(Colour c) { return c >> 16 & 0xFF; }
+constexpr Colour ColourOf(std::uint32_t bits) {
+    return static_cast<Colour>(bits);
+}
+constexpr Colour Rgb(int red, int green, int blue) {
+    return red | green << 8 | blue << 16;
+}
+constexpr int RedOf(Colour c) {
+    return c & 0xFF;
+}
+constexpr int GreenOf(Colour c) {
+    return c >> 8 & 0xFF;
+}
+constexpr int BlueOf(Colour c) {
+    return c >> 16 & 0xFF;
+}
 
 inline constexpr Colour ButtonFace = ColourOf(0x8000000F);
 

@@ -23,7 +23,7 @@ public:
     int Count() const { return static_cast<int>(items_.size()); }
     /// Null where there is no such key.
     Ref Find(std::string_view key) const {
-        const auto found = byKey_.find(LowerText(key));
+        const auto found = byKey_.find(key);
         return found == byKey_.end() ? nullptr : found->second;
     }
     /// Failure 9 where there is no such position or key.
@@ -39,10 +39,10 @@ public:
     /// Failure 457 if the key is there already; nothing changes then.
     void Insert(std::string_view key, Ref item, int before) {
         if (before < 1 || before > Count() + 1) throw NotFound();
-        std::string folded = LowerText(key);
-        if (!byKey_.try_emplace(folded, item).second)
-            throw Failure(457, "KeyedCollection", "This key is already associated with an element of this collection");
-        items_.insert(items_.begin() + (before - 1), Entry{std::move(folded), std::move(item)});
+        if (!byKey_.try_emplace(std::string(key), item).second)
+            throw Failure(457, "KeyedCollection",
+                          "This key is already associated with an element of this collection");
+        items_.insert(items_.begin() + (before - 1), Entry{std::string(key), std::move(item)});
     }
     void Append(std::string_view key, Ref item) { Insert(key, std::move(item), Count() + 1); }
     void Remove(int position) {
@@ -52,16 +52,24 @@ public:
         items_.erase(entry);
     }
     void Remove(std::string_view key) {
-        const std::string folded = LowerText(key);
         for (std::size_t i = 0; i < items_.size(); ++i)
-            if (items_[i].key == folded) return Remove(static_cast<int>(i) + 1);
+            if (EqualText(items_[i].key, key)) return Remove(static_cast<int>(i) + 1);
         throw NotFound();
     }
 
 private:
     struct Entry {
-        std::string key;  // folded
+        std::string key;
         Ref item;
+    };
+    // Both work on the key as it is given, so that finding makes no text of its own.
+    struct SameKey {
+        using is_transparent = void;
+        bool operator()(std::string_view one, std::string_view two) const { return EqualText(one, two); }
+    };
+    struct HashOfKey {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view key) const { return HashText(key); }
     };
 
 public:
@@ -88,7 +96,7 @@ private:
         if (position < 1 || position > Count()) throw NotFound();
     }
     std::vector<Entry> items_;
-    std::unordered_map<std::string, Ref> byKey_;
+    std::unordered_map<std::string, Ref, HashOfKey, SameKey> byKey_;
 };
 
 }  // namespace ornavo

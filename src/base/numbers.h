@@ -25,10 +25,14 @@ std::int32_t FloorToLong(double value);
 
 /// Whether the user's system takes the text for a number: blanks around, a sign in front, group signs,
 /// the decimal sign, an exponent. Not: "nan", "inf", "0x1F", "1_000", "+", "-", "".
+/// A number beyond the range of a double is none. The form without signs takes those of the user.
 bool IsNumeric(std::string_view text);
+bool IsNumeric(std::string_view text, const NumberSigns& signs);
 /// The number that such a text stands for. Failure 13 if it stands for none, 6 if it is too large.
 double ToNumber(std::string_view text);
-/// The number at the start of a text with "." as decimal sign, blanks skipped; 0 if there is none.
+double ToNumber(std::string_view text, const NumberSigns& signs);
+/// The number at the start of a text with "." as decimal sign, blanks skipped anywhere; 0 if there is
+/// none. Failure 6 if it is too large.
 double Val(std::string_view text);
 
 /// The plain text of a number: up to 15 digits, no group signs, "1E-05" below 0.0001 and "1E+15" from there

@@ -2,15 +2,17 @@
 // Text is UTF-8 inside the program and Windows-1252 in the skin file: comparing, trimming, translating.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace ornavo {
 
-bool EqualText(std::string_view one, std::string_view two);     // without regard to case
-std::string LowerText(std::string_view text);                   // every letter that the file can hold
-std::string_view TrimBlanks(std::string_view text);             // blanks (0x20) at both ends
-bool ContainsSeparator(std::string_view text);                  // "\" or "/"
+bool EqualText(std::string_view one, std::string_view two);  // without regard to case
+std::size_t HashText(std::string_view text);                 // the same for texts that are equal but for case
+std::string LowerText(std::string_view text);                // every letter that the file can hold
+std::string_view TrimBlanks(std::string_view text);          // blanks (0x20) at both ends
+bool ContainsSeparator(std::string_view text);               // "\" or "/"
 std::string ReplaceAll(std::string text, std::string_view from, std::string_view to);
 
 /// Windows-1252 bytes to UTF-8. The five undefined bytes become U+0081, U+008D, U+008F, U+0090, U+009D.

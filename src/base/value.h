@@ -25,9 +25,13 @@ public:
 
     bool IsEmpty() const { return std::holds_alternative<std::monostate>(held_); }
     template <class T>
-    bool Is() const { return std::holds_alternative<T>(held_); }
+    bool Is() const {
+        return std::holds_alternative<T>(held_);
+    }
     template <class T>
-    const T& As() const { return std::get<T>(held_); }
+    const T& As() const {
+        return std::get<T>(held_);
+    }
 
     bool ToBoolean() const;
     std::int32_t ToLong() const;

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "base/paths.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "base/text.h"
+
+namespace ornavo {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view Separators = "\\/";
+
+#ifdef _WIN32
+constexpr bool HasDrives = true;
+#else
+constexpr bool HasDrives = false;
+#endif
+
+/// Below a thing that is no folder there never is anything, and nothing can be made there.
+constexpr std::string_view Nowhere = "/dev/null/";
+
+fs::path Native(std::string_view text) {
+    return fs::path(std::u8string(reinterpret_cast<const char8_t*>(text.data()), text.size()));
+}
+
+std::string Utf8(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return std::string(text.begin(), text.end());
+}
+
+bool NamesDrive(std::string_view path) {
+    const auto letter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+    return path.size() >= 2 && letter(path[0]) && path[1] == ':' &&
+           (path.size() == 2 || Separators.find(path[2]) != std::string_view::npos);
+}
+
+std::string_view WithoutTrailingSeparators(std::string_view path) {
+    const std::size_t last = path.find_last_not_of(Separators);
+    return path.substr(0, last == std::string_view::npos ? 0 : last + 1);
+}
+
+std::string_view LastPart(std::string_view path) {
+    const std::string_view whole = WithoutTrailingSeparators(path);
+    const std::size_t at = whole.find_last_of(Separators);
+    return at == std::string_view::npos ? whole : whole.substr(at + 1);
+}
+
+bool Stands(const fs::path& path) {
+    std::error_code ignored;
+    return fs::exists(fs::symlink_status(path, ignored));
+}
+
+/// The name in the folder that equals the wanted one but for case; the first by byte order of several.
+fs::path NameInFolder(const fs::path& folder, const fs::path& wanted) {
+    const std::string lower = LowerText(Utf8(wanted));
+    std::string best;
+    std::error_code error;
+    for (fs::directory_iterator at(folder.empty() ? fs::path(".") : folder, error), end; !error && at != end;
+         at.increment(error)) {
+        std::string name = Utf8(at->path().filename());
+        if (LowerText(name) == lower && (best.empty() || name < best)) best = std::move(name);
+    }
+    return best.empty() ? fs::path() : Native(best);
+}
+
+fs::path FindPartByPart(const fs::path& path) {
+    fs::path found = path.root_path();
+    bool lost = false;
+    for (const fs::path& part : path.relative_path()) {
+        if (part.empty()) continue;
+        fs::path next = found / part;
+        if (!lost && !Stands(next)) {
+            const fs::path other = NameInFolder(found, part);
+            lost = other.empty();
+            if (!lost) next = found / other;
+        }
+        found = std::move(next);
+    }
+    return found;
+}
+
+}  // namespace
+
+std::string GetParentFolderName(std::string_view path) {
+    const std::string_view whole = WithoutTrailingSeparators(path);
+    const std::size_t at = whole.find_last_of(Separators);
+    if (at == std::string_view::npos)  // of a bare name, or of the root itself
+        return whole.empty() && !path.empty() ? std::string(path.substr(0, 1)) : "./";
+    const std::string_view parent = WithoutTrailingSeparators(whole.substr(0, at));
+    return std::string(path.substr(0, parent.size() + 1));
+}
+
+std::string GetFileName(std::string_view path) {
+    return std::string(LastPart(path));
+}
+
+std::string GetBaseName(std::string_view path) {
+    const std::string_view name = LastPart(path);
+    return std::string(name.substr(0, name.rfind('.')));
+}
+
+std::string GetExtensionName(std::string_view path) {
+    const std::string_view name = LastPart(path);
+    const std::size_t point = name.rfind('.');
+    return point == std::string_view::npos ? "" : LowerText(name.substr(point + 1));
+}
+
+std::string GetFileExtension(std::string_view path) {
+    const std::string extension = GetExtensionName(path);
+    return extension.empty() ? "" : "." + extension;
+}
+
+std::string CleanFileName(std::string_view name) {
+    using namespace std::string_view_literals;
+    static constexpr std::pair<std::string_view, std::string_view> Replacements[] = {
+        {"\u00A0"sv, " "sv}, {"/"sv, "_"sv},  {"\\"sv, "_"sv}, {":"sv, ";"sv}, {"*"sv, "."sv}, {"|"sv, "!"sv},
+        {"?"sv, "!"sv},      {"\""sv, "'"sv}, {">"sv, ""sv},   {"<"sv, ""sv},  {"\0"sv, ""sv},
+    };
+    std::string clean(name);
+    for (const auto& [from, to] : Replacements) clean = ReplaceAll(std::move(clean), from, to);
+    return clean;
+}
+
+std::string WithSeparator(std::string_view folder) {
+    if (folder.empty()) return "./";  // a bare separator would be the root of the disk
+    std::string path(folder);
+    if (Separators.find(path.back()) != std::string_view::npos) return path;
+    const bool onlyBackslashes = path.find('\\') != std::string::npos && path.find('/') == std::string::npos;
+    return path + (onlyBackslashes ? '\\' : '/');
+}
+
+bool IsPlainName(std::string_view name) {
+    return !name.empty() && name != "." && name != ".." && CleanFileName(name) == name;
+}
+
+fs::path OnDisk(std::string_view path) {
+    std::string text(path);
+    if (text.find('\0') != std::string::npos) text = ReplaceAll(text, std::string_view("\0", 1), "\uFFFD");
+    if (!HasDrives) std::replace(text.begin(), text.end(), '\\', '/');
+    while (text.size() > 1 && text.back() == '/' && !(HasDrives && text.size() == 3)) text.pop_back();
+    if (!HasDrives && NamesDrive(text)) return Native(std::string(Nowhere) + text);
+    const fs::path exact = Native(text).make_preferred();
+    return exact.empty() || Stands(exact) ? exact : FindPartByPart(exact);
+}
+
+std::string ToText(const fs::path& path) {
+    std::string text = Utf8(path);
+    return !HasDrives && text.starts_with(Nowhere) ? text.substr(Nowhere.size()) : text;
+}
+
+}  // namespace ornavo
