@@ -1,2 +1,65 @@
 // SPDX-License-Identifier: MIT
-int main() { return 0; }
+// Start and stop of the editor.
+#include <QStandardPaths>
+#include <cstdio>
+#include <string_view>
+
+#include "app/program.h"
+#include "base/failure.h"
+#include "base/paths.h"
+#include "platform/startup.h"
+#include "project/own_folder.h"
+
+namespace {
+
+constexpr const char* Usage =
+    "Usage: ornavo [SKIN]\n"
+    "Edits the skins of a touch-screen jukebox.\n\n"
+    "SKIN is the name of a skin in the program's folder \"Skins\", a skin's folder, or the\n"
+    "SkinSettings.xml in it. Without SKIN the editor starts empty.\n\n"
+    "  --help     show this text\n"
+    "  --version  show the version\n";
+
+/// "0.1" of "0.1.0".
+std::string MajorMinor() {
+    const std::string_view version = ORNAVO_VERSION;
+    return std::string(version.substr(0, version.rfind('.')));
+}
+
+/// The whole command line as one text: a skin's name may have blanks.
+std::string CommandLine(const QStringList& arguments) {
+    return arguments.mid(1).join(' ').toStdString();
+}
+
+std::filesystem::path PathOf(const QString& path) {
+    return std::filesystem::path(path.toStdString());
+}
+
+std::string FolderWithSamples() {
+    const std::filesystem::path executable = PathOf(QCoreApplication::applicationDirPath());
+    const std::filesystem::path data =
+        PathOf(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "ornavo";
+    const std::filesystem::path own = ornavo::OwnFolder(executable, data);
+    try {
+        ornavo::BringSamples(ornavo::SampleFolder(executable), own);
+    } catch (const ornavo::Failure& failure) {
+        std::fprintf(stderr, "ornavo: %s\n", failure.what());
+    }
+    return ornavo::ToText(own);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == "--help") return std::fputs(Usage, stdout) < 0;
+        if (argument == "--version") return std::puts("ornavo " ORNAVO_VERSION) < 0;
+    }
+    ornavo::PrepareProcess();
+    QApplication application(argc, argv);
+    ornavo::InitCommonControls(application);
+    ornavo::Program program(MajorMinor(), FolderWithSamples());
+    program.Start(CommandLine(QCoreApplication::arguments()));
+    return QApplication::exec();
+}

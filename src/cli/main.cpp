@@ -1,2 +1,93 @@
 // SPDX-License-Identifier: MIT
-int main() { return 0; }
+// ornavo-cli: the document and the renderer for scripts. Exit 0 done, 1 failed, 2 usage.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <cstdio>
+#include <map>
+
+#include "base/failure.h"
+#include "cli/commands.h"
+#include "platform/startup.h"
+
+namespace ornavo {
+namespace {
+
+constexpr const char* Usage =
+    "Usage: ornavo-cli COMMAND SKIN [OPTIONS]\n"
+    "SKIN is a skin's folder or the SkinSettings.xml in it.\n\n"
+    "  dump SKIN [--raw]                     the skin as JSON; --raw without the preferences that its file "
+    "lacks\n"
+    "  save SKIN [--as NAME] [--keep-existing]\n"
+    "                                        write the skin, also under another name beside it\n"
+    "  place SKIN --layout KEY [--size WxH]  where elements and points stand, as JSON\n"
+    "  render SKIN --layout KEY --out FILE.png [--size WxH] [--view preview|canvas] [--edge soft|hard]\n"
+    "                                        a picture of the layout\n\n"
+    "  --help     show this text\n"
+    "  --version  show the version\n";
+
+struct Command {
+    const char* name;
+    QStringList options;  // with a value; a name that ends in "!" is a switch
+    int (*run)(const Arguments&);
+};
+
+const Command Commands[] = {
+    {"dump", {"raw!"}, Dump},
+    {"save", {"as", "keep-existing!"}, Save},
+    {"place", {"layout", "size"}, Place},
+    {"render", {"layout", "out", "size", "view", "edge"}, Render},
+};
+
+int Misused(const QString& reason) {
+    std::fprintf(stderr, "ornavo-cli: %s\nTry 'ornavo-cli --help'.\n", qPrintable(reason));
+    return 2;
+}
+
+void AddOptions(QCommandLineParser& parser, const Command& command) {
+    for (const QString& name : command.options) {
+        if (name.endsWith('!'))
+            parser.addOption(QCommandLineOption(name.chopped(1)));
+        else
+            parser.addOption(QCommandLineOption(name, {}, name));
+    }
+}
+
+int RunCommand(const Command& command, const QStringList& words) {
+    QCommandLineParser parser;
+    AddOptions(parser, command);
+    if (!parser.parse(words)) return Misused(parser.errorText());
+    if (parser.positionalArguments().size() != 1) return Misused("name one skin");
+    Arguments arguments;
+    arguments.skin = parser.positionalArguments().first().toStdString();
+    for (const QString& name : parser.optionNames())
+        arguments.options[name.toStdString()] = parser.value(name).toStdString();
+    try {
+        return command.run(arguments);
+    } catch (const UsageError& error) {
+        return Misused(QString::fromStdString(error.description()));
+    } catch (const Failure& failure) {
+        std::fprintf(stderr, "ornavo-cli: %s\n", failure.what());
+        return 1;
+    }
+}
+
+int Run(const QStringList& words) {
+    if (words.contains("--help")) return std::fputs(Usage, stdout) < 0;
+    if (words.contains("--version")) return std::puts("ornavo-cli " ORNAVO_VERSION) < 0;
+    if (words.size() < 2) return Misused("no command");
+    for (const Command& command : Commands)
+        if (words[1] == command.name) return RunCommand(command, words.mid(1));
+    return Misused("unknown command '" + words[1] + "'");
+}
+
+}  // namespace
+}  // namespace ornavo
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", "1");
+    ornavo::PrepareProcess();
+    QApplication application(argc, argv);
+    ornavo::InitCommonControls(application);
+    return ornavo::Run(QCoreApplication::arguments());
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/welcome.h"
+
+#include "platform/fonts.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int CardWidth = 400, CardHeight = 132;
+const QColor CardColour(250, 248, 244), EdgeColour(150, 144, 136), InkColour(52, 48, 44),
+    SoftInk(105, 98, 92);
+
+struct Line {
+    int top, height;
+    double points;
+    bool bold;
+    QColor colour;
+    QString text;
+};
+
+void PaintLine(QPainter& painter, const QRect& card, const Line& line) {
+    QFont font = ScreenFont({.Name = "Tahoma", .Size = line.points, .Bold = line.bold});
+    painter.setFont(font);
+    painter.setPen(line.colour);
+    const QRect area(card.left() + 16, card.top() + line.top, card.width() - 32, line.height);
+    painter.drawText(area, Qt::AlignCenter,
+                     QFontMetrics(font).elidedText(line.text, Qt::ElideMiddle, area.width()));
+}
+
+}  // namespace
+
+void PaintWelcome(QPainter& painter, const QRect& window, const std::string& missingSkin) {
+    QRect card(0, 0, CardWidth, CardHeight);
+    card.moveCenter(window.center());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(EdgeColour);
+    painter.setBrush(CardColour);
+    painter.drawRoundedRect(QRectF(card).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+    const QString title =
+        missingSkin.empty()
+            ? QStringLiteral("No skin is open")
+            : QStringLiteral("No skin \u201c%1\u201d was found").arg(QString::fromStdString(missingSkin));
+    const Line lines[] = {
+        {18, 30, 14, true, InkColour, title},
+        {58, 20, 9, false, InkColour,
+         QStringLiteral("Drop a skin\u2019s folder or its SkinSettings.xml here,")},
+        {78, 20, 9, false, InkColour, QStringLiteral("or start Ornavo with the name of a skin.")},
+        {102, 18, 8, false, SoftInk, QStringLiteral("Sample skins: Aurora, Classic")},
+    };
+    for (const Line& line : lines) PaintLine(painter, card, line);
+}
+
+}  // namespace ornavo

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// A function for each command of the tool.
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "base/failure.h"
+
+namespace ornavo {
+
+/// The words of the command line were wrong; exit 2.
+class UsageError : public Failure {
+public:
+    explicit UsageError(std::string reason) : Failure(5, "Command line", std::move(reason)) {}
+};
+
+struct Arguments {
+    std::string skin;
+    std::map<std::string, std::string> options;
+    bool Has(const std::string& name) const { return options.contains(name); }
+    std::string Get(const std::string& name, std::string standard = "") const;
+    std::string Need(const std::string& name) const;  // UsageError if it is not there
+};
+
+/// Each returns the exit code and throws a Failure when it can't do its work.
+int Dump(const Arguments&);
+int Save(const Arguments&);
+int Place(const Arguments&);
+int Render(const Arguments&);
+
+}  // namespace ornavo

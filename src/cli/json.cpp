@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "cli/json.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <cmath>
+
+#include "document/fields.h"
+
+namespace ornavo {
+namespace {
+
+/// A single value in the form that Qt gives it: the only array member without its brackets.
+std::string Scalar(const QJsonValue& value) {
+    const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return array.mid(1, array.size() - 2).toStdString();
+}
+
+std::string Scalar(const Value& value) {
+    if (value.IsEmpty()) return "null";
+    if (value.Is<bool>()) return value.As<bool>() ? "true" : "false";
+    if (value.Is<std::int32_t>()) return std::to_string(value.As<std::int32_t>());
+    if (value.Is<double>()) return Scalar(QJsonValue(value.As<double>()));
+    return Scalar(QJsonValue(QString::fromStdString(value.ToText())));
+}
+
+}  // namespace
+
+void JsonWriter::NextItem(std::string_view name) {
+    if (depth_ > 0) text_ += first_ ? "\n" : ",\n";
+    text_.append(static_cast<std::size_t>(2 * depth_), ' ');
+    if (!name.empty()) text_ += "\"" + std::string(name) + "\": ";
+    first_ = false;
+}
+
+void JsonWriter::Begin(std::string_view name, char bracket) {
+    NextItem(name);
+    text_ += bracket;
+    ++depth_;
+    first_ = true;
+}
+
+void JsonWriter::End(char bracket) {
+    --depth_;
+    if (!first_) {
+        text_ += '\n';
+        text_.append(static_cast<std::size_t>(2 * depth_), ' ');
+    }
+    text_ += bracket;
+    first_ = false;
+}
+
+void JsonWriter::WriteFont(std::string_view name, const FontRef& font) {
+    BeginObject(name);
+    for (const char* field : {"Name", "Size", "Bold", "Italic", "Strikethrough", "Underline"})
+        Write(field, GetField(*font, field));
+    EndObject();
+}
+
+void JsonWriter::Write(std::string_view name, const Value& value) {
+    if (value.Is<FontRef>() && value.As<FontRef>()) return WriteFont(name, value.As<FontRef>());
+    NextItem(name);
+    text_ += value.Is<FontRef>() ? "null" : Scalar(value);
+}
+
+const std::string& JsonWriter::Text() {
+    return text_ += '\n';
+}
+
+}  // namespace ornavo

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "cli/open_skin.h"
+
+#include <charconv>
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int MostPixels = 16384;
+constexpr const char* SettingsFile = "SkinSettings.xml";
+
+bool ReadWhole(std::string_view text, int& number) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() && number >= 1 && number <= MostPixels;
+}
+
+/// The skin's folder with a separator at its end, whichever way it was named.
+std::string FolderOf(const std::string& skin) {
+    std::string path = ToText(std::filesystem::absolute(OnDisk(skin)).lexically_normal());
+    return EqualText(GetFileName(path), SettingsFile) && FileExists(path) ? GetParentFolderName(path)
+                                                                          : WithSeparator(path);
+}
+
+}  // namespace
+
+std::string Arguments::Get(const std::string& name, std::string standard) const {
+    const auto found = options.find(name);
+    return found == options.end() ? standard : found->second;
+}
+
+std::string Arguments::Need(const std::string& name) const {
+    if (!Has(name)) throw UsageError("--" + name + " is missing");
+    return Get(name);
+}
+
+void OpenNamedSkin(const Arguments& arguments, bool upgraded) {
+    const std::string folder = FolderOf(arguments.skin);
+    if (!FileExists(folder + SettingsFile)) throw Failure(53, "Skin", folder + SettingsFile + " not found!");
+    const std::string bare = folder.substr(0, folder.size() - 1);
+    objSkin = std::make_shared<dbSkin>();
+    objCurrentLayout = std::make_shared<dbLayout>();
+    objSkin->SetBasePath(GetParentFolderName(bare));
+    objSkin->SkinName = GetFileName(bare);
+    objSkin->LoadSkin();
+    if (upgraded) objSkin->SetupSkinPrefs();
+}
+
+dbLayoutRef NamedLayout(const Arguments& arguments) {
+    const std::string key = arguments.Need("layout");
+    const dbLayoutRef layout = objSkin->dbLayouts->Find(key);
+    if (!layout) throw Failure(9, "Skin", "The skin has no layout '" + key + "'.");
+    return layout;
+}
+
+Size NamedSize(const Arguments& arguments) {
+    if (!arguments.Has("size")) return {objSkin->SkinWidth, objSkin->SkinHeight};
+    const std::string text = arguments.Get("size");
+    const std::size_t times = text.find('x');
+    Size size;
+    if (times == std::string::npos || !ReadWhole(std::string_view(text).substr(0, times), size.width) ||
+        !ReadWhole(std::string_view(text).substr(times + 1), size.height))
+        throw UsageError("--size takes WIDTHxHEIGHT, 1 to 16384 pixels each");
+    return size;
+}
+
+}  // namespace ornavo

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// The picture of a layout, drawn by the canvas's and the preview's own code without a screen.
+#include <QImage>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <cstdio>
+
+#include "cli/open_skin.h"
+#include "platform/prompts.h"
+#include "render/compose.h"
+#include "render/layout_host.h"
+#include "render/shape.h"
+#include "render/surface.h"
+
+namespace ornavo {
+namespace {
+
+/// Answers on the error stream.
+class ConsolePrompts : public Prompts {
+public:
+    ConsolePrompts() { UsePrompts(this); }
+    ~ConsolePrompts() override { UsePrompts(nullptr); }
+    Answer Message(std::string_view text, std::string_view, Icon, Buttons) override {
+        std::fprintf(stderr, "ornavo-cli: %.*s\n", static_cast<int>(text.size()), text.data());
+        return Answer::Ok;
+    }
+};
+
+class OffscreenTarget : public QWidget, public CompositionTarget {
+public:
+    explicit OffscreenTarget(Size size) : host_(*this, nullptr) {
+        resize(size.width, size.height);
+        show();
+    }
+    int ScaleWidth() const override { return width(); }
+    int ScaleHeight() const override { return height(); }
+    LayoutHost& host() override { return host_; }
+    void ShowGrid() override { surface_.ShowGrid(TargetFrame, 1); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QPainter painter(this);
+        surface_.Paint(painter, rect());
+        event->accept();
+    }
+
+private:
+    LayoutHost host_;
+    Surface surface_;
+};
+
+/// The picture with everything outside the polygon transparent. Soft edges go between the pixels of the
+/// polygon's line, hard ones by the window's region.
+QImage Cut(const QImage& picture, const dbLayout& layout, bool soft) {
+    const QRegion region = ShapeRegion(layout, TargetFrame);
+    if (region.isEmpty()) return picture;
+    QImage cut(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    cut.fill(Qt::transparent);
+    QPainter painter(&cut);
+    if (soft) {
+        QPainterPath path;
+        path.addPolygon(ShapePolygon(layout, TargetFrame, true));
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QBrush(picture));
+        painter.drawPath(path);
+    } else {
+        painter.setClipRegion(region);
+        painter.drawImage(0, 0, picture);
+    }
+    return cut;
+}
+
+bool OneOf(const Arguments& arguments, const std::string& name, const std::string& first,
+           const std::string& second) {
+    const std::string value = arguments.Get(name, first);
+    if (value != first && value != second) throw UsageError("--" + name + " is " + first + " or " + second);
+    return value == first;
+}
+
+}  // namespace
+
+int Render(const Arguments& arguments) {
+    const std::string out = arguments.Need("out");
+    const bool preview = OneOf(arguments, "view", "preview", "canvas");
+    const bool soft = OneOf(arguments, "edge", "soft", "hard");
+    OpenNamedSkin(arguments);
+    objCurrentLayout = NamedLayout(arguments);
+    const Size size = NamedSize(arguments);
+    if (size.width < 1 || size.height < 1)
+        throw Failure(5, "Render", "The skin has no size; give one with --size.");
+    const ConsolePrompts answers;
+    OffscreenTarget target(size);
+    (preview ? ComposePreview : ComposeLayout)(target, objCurrentLayout, objSkin->SkinWidth,
+                                               objSkin->SkinHeight);
+    QImage picture = target.grab().toImage();
+    if (preview) picture = Cut(picture, *objCurrentLayout, soft);
+    if (!picture.save(QString::fromStdString(out), "PNG"))
+        throw Failure(75, "Render", out + " can't be written.");
+    return 0;
+}
+
+}  // namespace ornavo

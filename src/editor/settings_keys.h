@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Every setting with its section, key and default, once. Rectangles are twips.
+#pragma once
+
+#include "platform/settings.h"
+
+namespace ornavo::settings {
+
+inline constexpr Setting<int> OrnavoLeft = {"Ornavo", "Left", 1020};
+inline constexpr Setting<int> OrnavoTop = {"Ornavo", "Top", 135};
+inline constexpr Setting<int> OrnavoWidth = {"Ornavo", "Width", 12120};
+inline constexpr Setting<int> OrnavoHeight = {"Ornavo", "Height", 9435};
+inline constexpr Setting<int> OrnavoWindowState = {"Ornavo", "WindowState", 0};
+inline constexpr Setting<int> GridX = {"Ornavo", "GridX", 10};
+inline constexpr Setting<int> GridY = {"Ornavo", "GridY", 10};
+inline constexpr Setting<bool> ShowLines = {"Ornavo", "ShowLines", false};
+inline constexpr Setting<bool> ShowPoints = {"Ornavo", "ShowPoints", true};
+inline constexpr Setting<bool> ShowShape = {"Ornavo", "ShowShape", true};
+inline constexpr Setting<bool> ShapeInverted = {"Ornavo", "ShapeInverted", true};
+inline constexpr Setting<bool> ShowElements = {"Ornavo", "ShowElements", true};
+inline constexpr Setting<bool> ShowGrid = {"Ornavo", "ShowGrid", true};
+inline constexpr Setting<bool> SnapGrid = {"Ornavo", "SnapGrid", false};
+
+}  // namespace ornavo::settings

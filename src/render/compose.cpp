@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "render/compose.h"
+
+#include <array>
+
+#include "document/codes.h"
+#include "platform/screen.h"
+#include "render/compose_report.h"
+#include "render/element_button.h"
+#include "render/element_info.h"
+#include "render/layout_host.h"
+#include "render/shape.h"
+#include "render/standard_elements.h"
+#include "render/view_switches.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int OwnControl = -1;  // ControlIndex of an element that has a control of its own
+
+class ScreenLock {
+public:
+    ScreenLock() { BeginScreenUpdate(); }
+    ~ScreenLock() { EndScreenUpdate(); }
+    ScreenLock(const ScreenLock&) = delete;
+    ScreenLock& operator=(const ScreenLock&) = delete;
+};
+
+/// Puts the control at its place and ties it to its element. False where there is nothing to show: the
+/// control is then nobody's.
+bool Claim(Control& control, const dbLayoutElement& element) {
+    control.Tag.clear();
+    const Rect bounds = GetElementRect(element, TargetFrame);
+    if (bounds.width < 1 || bounds.height < 1) return false;
+    control.Move(bounds);
+    control.Tag = element.Key;
+    return true;
+}
+
+/// The end of every road.
+void Present(Control& control, bool visible) {
+    control.ZOrder();
+    control.setVisible(visible);
+}
+
+/// A slot of a pool for the element, or -1 with the slot given back.
+template <class T>
+int ClaimSlot(Pool<T>& pool, int slot, dbLayoutElement& element) {
+    element.ControlIndex = slot;
+    try {
+        if (Claim(pool[slot], element)) return slot;
+    } catch (const Failure&) {
+        pool[slot].setVisible(false);
+        throw;
+    }
+    pool[slot].setVisible(false);
+    return -1;
+}
+
+void ComposeButton(dbLayoutElement& element, LayoutHost& host, bool preview) {
+    const int slot = ClaimSlot(host.Element, host.GetFreeElement(), element);
+    if (slot < 0) return;
+    TileButton& button = host.Element[slot];
+    button.Reset();
+    SetupElementButton(button, element, preview);
+    Present(button, element.Visible);
+}
+
+void ComposeInfo(dbLayoutElement& element, LayoutHost& host, bool preview) {
+    const int slot = ClaimSlot(host.pInfo, host.GetFreeInfo(), element);
+    if (slot < 0) return;
+    SetupInfoElement(host.pInfo[slot], element, preview);
+    Present(host.pInfo[slot], element.Visible);
+}
+
+/// The single controls are shown before their size is known, and stay so when they have none.
+bool ClaimSingle(Control& control, dbLayoutElement& element) {
+    element.ControlIndex = OwnControl;
+    control.setVisible(true);
+    return Claim(control, element);
+}
+
+void ComposeMain(dbLayoutElement& element, LayoutHost& host, bool) {
+    if (!ClaimSingle(host.pMain, element)) return;
+    SetupMainPanel(host, element);
+    Present(host.pMain, true);
+}
+
+void ComposeSearchBox(dbLayoutElement& element, LayoutHost& host, bool) {
+    if (!ClaimSingle(host.tbx_Search, element)) return;
+    SetupSearchElement(host.tbx_Search, element);
+    Present(host.tbx_Search, element.Visible);
+}
+
+void ComposeScrollframe(dbLayoutElement& element, LayoutHost& host, bool) {
+    if (!ClaimSingle(host.Scrollframe, element)) return;
+    host.Scrollframe.Reset();
+    SetupScrollElement(host, element);
+    Present(host.Scrollframe, element.Visible);
+    Present(host.ScrollBar, element.Visible);
+}
+
+using Road = void (*)(dbLayoutElement&, LayoutHost&, bool preview);
+constexpr std::array<Road, 7> Roads = {ComposeMain, ComposeButton,    ComposeButton,     ComposeButton,
+                                       ComposeInfo, ComposeSearchBox, ComposeScrollframe};
+
+void ComposeElement(dbLayoutElement& element, bool preview) {
+    const auto type =
+        static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table too
+    if (type < Roads.size()) Roads[type](element, TargetForm->host(), preview);
+}
+
+void SetTarget(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {
+    TargetForm = &form;
+    TargetLayout = std::move(layout);
+    TargetFrame.DesignWidth = skinWidth;
+    TargetFrame.DesignHeight = skinHeight;
+    MeasureTarget();
+}
+
+}  // namespace
+
+void RenderElements(bool preview) {
+    if (ComposeBusy) return;
+    ComposeReport report;
+    {
+        const Raised busy(ComposeBusy);
+        const WaitPointer wait;
+        MeasureTarget();
+        TargetForm->host().ClearElements();
+        if (TargetLayout && (preview || viewSwitches.ShowElements))
+            for (const dbLayoutElementRef& element : *TargetLayout->dbLayoutElements)
+                report.Try([&] { ComposeElement(*element, preview); });
+    }
+    report.Show(TargetLayout);
+}
+
+void ComposeLayout(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {
+    SetTarget(form, std::move(layout), skinWidth, skinHeight);
+    const ScreenLock lock;
+    RenderElements(false);
+    form.ShowShapePoints();
+    form.ShowGrid();
+}
+
+void ComposePreview(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {
+    SetTarget(form, std::move(layout), skinWidth, skinHeight);
+    RenderElements(true);
+    Attempt([] { ShapeForm(); });
+}
+
+void ReleasePreview(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {
+    SetTarget(form, std::move(layout), skinWidth, skinHeight);
+}
+
+}  // namespace ornavo

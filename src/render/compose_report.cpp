@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "render/compose_report.h"
+
+#include <algorithm>
+
+#include "platform/prompts.h"
+
+namespace ornavo {
+namespace {
+
+struct Told {
+    std::weak_ptr<dbLayout> layout;
+    std::vector<std::string> descriptions;
+};
+Told told;  // what the last composition that failed has shown
+
+}  // namespace
+
+void ComposeReport::Keep(const std::string& description) {
+    if (std::find(descriptions_.begin(), descriptions_.end(), description) == descriptions_.end())
+        descriptions_.push_back(description);
+}
+
+void ComposeReport::Show(const dbLayoutRef& layout) const {
+    const bool sameLayout = told.layout.lock() == layout;
+    const bool known = sameLayout && told.descriptions == descriptions_;
+    told = {layout, descriptions_};
+    if (known || descriptions_.empty()) return;
+    std::string text;
+    for (const std::string& description : descriptions_) text += (text.empty() ? "" : "\n") + description;
+    prompts().Message(text, "Ornavo", Icon::None, Buttons::Ok);
+}
+
+}  // namespace ornavo

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "render/element_button.h"
+
+#include "base/failure.h"
+#include "render/skin_picture.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int PointerDefault = 0, PointerSizeDiagonal = 8, PointerSizeAll = 15;
+
+int PointerOf(const dbLayoutElement& element, bool preview) {
+    if (!preview) return PointerDefault;
+    if (element.Dragger) return PointerSizeAll;
+    return element.Resizer ? PointerSizeDiagonal : PointerDefault;
+}
+
+}  // namespace
+
+void SetupElementCaption(TileButton& button, const dbLayoutElement& element) {
+    Attempt([&] { button.Elements.Add("Caption"); });  // it may be there already
+    TileLayer& layer = button.Elements.Item("Caption");
+    layer.Visible = !element.Caption.empty();
+    if (!layer.Visible) return;
+    button.State.UseShadow = element.ShowShadow;
+    button.State.ShadowDistance = element.ShadowDistance;
+    button.State.ShadowColor = element.ShadowColor;
+    layer.Font = element.Font ? *element.Font : Font();
+    layer.ForeColor = element.TextColor;
+    layer.Left = static_cast<float>(element.CaptionX);
+    layer.Top = static_cast<float>(element.CaptionY);
+    layer.Height = static_cast<float>(button.Bounds().height);
+    layer.Text = element.Caption;
+}
+
+void SetupElementGround(TileButton& button, const dbLayoutElement& element) {
+    TileState& state = button.State;
+    state.BorderColor = element.BorderColor;
+    state.ShowBorder = element.ShowBorder;
+    state.BackStyle = element.UseTransparency ? 0 : 1;
+    state.UseTransparency = element.UseTransparency;
+    state.TransColorTopLeft = element.UseTopLeftTransparency;
+    // Also under the top left rule: it is what reads back where there is no picture to ask.
+    state.TransparentColor = element.TransparentColor;
+    state.ShowSmooth = element.ShowSmooth;
+}
+
+void SetupElementButton(TileButton& button, dbLayoutElement& element, bool preview) {
+    SetTilePicture(button.Picture, button.AniPicture, element.PicNormal);
+    SetTilePicture(button.PictureDown, button.AniPictureDown, element.PicDown);
+    SetTilePicture(button.PictureOver, button.AniPictureOver, element.PicOver);
+    SetupElementCaption(button, element);
+    SetupElementGround(button, element);
+    button.State.UseRotation = element.Rotation != 0;
+    button.State.Rotation = element.Rotation;
+    button.SetMousePointer(PointerOf(element, preview));
+    button.Refresh();
+    if (element.UseTopLeftTransparency) element.TransparentColor = button.TransparentColor();
+}
+
+}  // namespace ornavo

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "render/element_info.h"
+
+#include <array>
+#include <cstdlib>
+#include <limits>
+#include <string_view>
+
+#include "base/failure.h"
+#include "platform/clock.h"
+#include "render/prefs.h"
+#include "render/skin_picture.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int InfoUserLabel = 0, InfoSystemTime = 17;
+constexpr double NewFontSize = 10;
+
+constexpr std::array<std::string_view, 19> SampleTexts = {
+    "",
+    "Artist - Song Title",
+    "Song Title",
+    "Artist Name",
+    "Album Name",
+    "",
+    "Album Picture",
+    "Artist Picture",
+    "00:10",
+    "01:00",
+    "03:45",
+    "Song Info",
+    "Repeat Status",
+    "Shuffle Status",
+    "Status",
+    "Credits",
+    "Search Total",
+    "",
+    "Playlist Name",
+};
+
+std::int32_t Absolute(std::int32_t value) {
+    if (value == std::numeric_limits<std::int32_t>::min()) throw Failure(6, "Composition", "Overflow");
+    return std::abs(value);
+}
+
+}  // namespace
+
+std::string InfoSampleText(const dbLayoutElement& element) {
+    if (element.InfoType == InfoUserLabel) return element.InfoField;
+    if (element.InfoType == InfoSystemTime) return clock().Now().toString("HH:mm:ss").toStdString();
+    if (element.InfoType < 0 || element.InfoType >= static_cast<int>(SampleTexts.size())) return "";
+    return std::string(SampleTexts[static_cast<std::size_t>(element.InfoType)]);
+}
+
+void DrawInfoText(PictureBox& box, std::string_view text, const Rect& area) {
+    if (!text.empty()) box.DrawText(text, area);
+}
+
+void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview) {
+    box.SetBackColor(element.BackgroundColor);
+    Attempt([&] { element.CapScrollSpeed = Absolute(element.CapScrollSpeed); });
+    box.SetPicture(LoadSkinPicture(element.PicNormal));
+    box.ForeColor = element.TextColor;
+    box.Font = *GetElementFont(element, NewFontSize);
+    box.Cls();
+    // In the preview only a plain label has its text from the start; the rest is told by what plays.
+    if (preview && element.InfoType != InfoUserLabel) return;
+    const Rect bounds = box.Bounds();
+    DrawInfoText(box, InfoSampleText(element),
+                 {0, element.CaptionY, bounds.width, bounds.height - element.CaptionY});
+}
+
+}  // namespace ornavo

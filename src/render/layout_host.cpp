@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "render/layout_host.h"
+
+#include <initializer_list>
+
+namespace ornavo {
+
+LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
+    : listener_(listener),
+      Element([&window, this](int i) { return Listening(new TileButton(&window, "Element", i)); }),
+      pInfo([&window, this](int i) { return Listening(new PictureBox(&window, "pInfo", i)); }),
+      pMain(*new PictureBox(&window, "pMain")),
+      pMainBack(*new PictureBox(&window, "pMainBack")),
+      tbx_Search(*new TextBox(&window, "tbx_Search")),
+      Scrollframe(*new TileButton(&window, "Scrollframe")),
+      ScrollBar(*new TileButton(&window, "ScrollBar")) {
+    for (Control* single :
+         std::initializer_list<Control*>{&pMain, &pMainBack, &tbx_Search, &Scrollframe, &ScrollBar})
+        Listening(single);
+}
+
+void LayoutHost::ClearElements() {
+    Element.Clear();
+    pInfo.Clear();
+    for (Control* single : std::initializer_list<Control*>{&tbx_Search, &Scrollframe, &ScrollBar, &pMain})
+        single->setVisible(false);
+}
+
+}  // namespace ornavo

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "render/standard_elements.h"
+
+#include <QPainter>
+
+#include "render/element_button.h"
+#include "render/skin_picture.h"
+
+namespace ornavo {
+
+void DrawMainBackground(LayoutHost& host, bool stretch) {
+    PictureBox& panel = host.pMain;
+    panel.Cls();
+    const PictureRef& picture = host.pMainBack.GetPicture();
+    if (!picture) return;
+    const Rect bounds = panel.Bounds();
+    if (stretch) panel.SetBackColor(0);
+    panel.Draw([&](QPainter& painter) {
+        const QRect whole(0, 0, bounds.width, bounds.height);
+        if (stretch) {
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            painter.drawImage(whole, picture->image);
+        } else {
+            painter.fillRect(whole, QBrush(picture->image));
+        }
+    });
+}
+
+void SetupMainPanel(LayoutHost& host, const dbLayoutElement& element) {
+    host.pMain.SetBackColor(element.BackgroundColor);
+    host.pMainBack.SetPicture(LoadSkinPicture(element.PicNormal));
+    DrawMainBackground(host, element.StretchBackground);
+}
+
+void SetupSearchElement(TextBox& box, const dbLayoutElement& element) {
+    if (element.Font) box.SetFont(*element.Font);
+    box.SetForeColor(element.TextColor);
+    box.SetBackColor(element.BackgroundColor);
+    box.SetBorderStyle(element.ShowBorder ? 1 : 0);
+}
+
+Rect ScrollBarRect(const Rect& frame) {
+    constexpr int gap = 15, shortBar = 50, tallFrame = 300, rest = 250;
+    return {frame.left, frame.top + gap, frame.width,
+            frame.height >= tallFrame ? frame.height - rest : shortBar};
+}
+
+void SetupScrollElement(LayoutHost& host, const dbLayoutElement& element) {
+    TileButton& frame = host.Scrollframe;
+    if (element.PicNormal.empty())
+        frame.SetBackColor(element.BackgroundColor);
+    else
+        SetTilePicture(frame.Picture, frame.AniPicture, element.PicNormal);
+    SetupElementGround(frame, element);
+    frame.Refresh();
+    host.ScrollBar.Move(ScrollBarRect(frame.Bounds()));
+    host.ScrollBar.Refresh();
+}
+
+}  // namespace ornavo

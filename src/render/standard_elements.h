@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// The three elements that every layout has: the panel, the search box, and the scroll frame with its bar.
+#pragma once
+
+#include "document/dblayoutelements.h"
+#include "render/layout_host.h"
+
+namespace ornavo {
+
+/// Each sets up everything of its control but the place, which the control has already.
+void SetupMainPanel(LayoutHost& host, const dbLayoutElement& element);
+void SetupSearchElement(TextBox& box, const dbLayoutElement& element);
+void SetupScrollElement(LayoutHost& host, const dbLayoutElement& element);
+
+/// The panel's background picture: tiled from its top left, or stretched over it on black.
+void DrawMainBackground(LayoutHost& host, bool stretch);
+
+/// The bar's place in a frame at these bounds.
+Rect ScrollBarRect(const Rect& frame);
+
+}  // namespace ornavo

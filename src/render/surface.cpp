@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "render/surface.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "document/current_skin.h"
+#include "platform/control.h"
+#include "render/prefs.h"
+#include "render/shape.h"
+#include "render/skin_picture.h"
+#include "render/view_switches.h"
+
+namespace ornavo {
+namespace {
+
+constexpr Colour CanvasColour = ColourOf(0x8000000C);
+constexpr Colour DotColour = Rgb(110, 100, 100);
+constexpr int LeastGrid = 3;  // pixels; with both spacings below it there is no grid
+constexpr int MostGrid = 100'000;
+constexpr int DotsPerLine = 5;
+
+/// The skin's background; null when it has none. Failure when it has one that can't be loaded.
+PictureRef BackgroundPicture() {
+    const std::string name = PrefText("SP_BackgroundPicture");
+    if (name.empty()) return nullptr;
+    PictureRef picture = LoadSkinPicture(name);
+    if (!picture) throw Failure(53, "Surface", "The background picture can't be loaded: " + name);
+    return picture;
+}
+
+// Lines and dots are filled rectangles: whole pixels of the skin at every scale of the screen.
+void DrawLine(QPainter& painter, int x, int y, int width, int height, const QColor& colour) {
+    painter.fillRect(x, y, width, height, colour);
+}
+
+}  // namespace
+
+void DrawGrid(QPainter& painter, int width, int height, int gridX, int gridY) {
+    const QColor dots = ScreenColour(DotColour);
+    if (gridX >= LeastGrid || gridY >= LeastGrid) {
+        const int stepX = std::clamp(gridX, 1, MostGrid), stepY = std::clamp(gridY, 1, MostGrid);
+        const QColor lines = ScreenColour(BlendColor(DotColour, 0, 128));
+        for (int x = 0; x <= width; x += DotsPerLine * stepX) DrawLine(painter, x, 0, 1, height, lines);
+        for (int y = 0; y <= height; y += DotsPerLine * stepY) DrawLine(painter, 0, y, width, 1, lines);
+        for (int x = 0; x <= width; x += stepX)
+            for (int y = 0; y <= height; y += stepY) DrawLine(painter, x, y, 1, 1, dots);
+    }
+    DrawLine(painter, ToLong(width / 2.0), 0, 1, height, dots);
+    DrawLine(painter, 0, ToLong(height / 2.0), width, 1, dots);
+}
+
+void Surface::ShowGrid(const Frame& frame, double devicePixelRatio) {
+    Attempt([&] {
+        const PictureRef background = BackgroundPicture();
+        QPixmap next(QSize(frame.TargetWidth, frame.TargetHeight) * devicePixelRatio);
+        next.setDevicePixelRatio(devicePixelRatio);
+        next.fill(ScreenColour(CanvasColour));
+        QPainter painter(&next);
+        if (background) painter.drawImage(0, 0, background->image);
+        if (viewSwitches.ShowShape)
+            DrawShapeOverlay(painter, *objCurrentLayout, frame, viewSwitches.ShapeInverted);
+        if (viewSwitches.ShowGrid)
+            DrawGrid(painter, frame.TargetWidth, frame.TargetHeight, viewSwitches.GridX, viewSwitches.GridY);
+        painter.end();
+        drawn_ = next;
+    });
+}
+
+void Surface::Paint(QPainter& painter, const QRect& area) const {
+    const QSize covered = drawn_.deviceIndependentSize().toSize();
+    if (!QRect(QPoint(0, 0), covered).contains(area)) painter.fillRect(area, ScreenColour(CanvasColour));
+    painter.drawPixmap(0, 0, drawn_);  // the painter is clipped to what must be painted
+}
+
+}  // namespace ornavo

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "render/view_switches.h"
+
+namespace ornavo {
+
+ViewSwitches viewSwitches;
+
+}  // namespace ornavo

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "render/compose.h"
+
+#include "document/codes.h"
+#include "support/scripted_prompts.h"
+#include "support/skin_fixture.h"
+
+namespace ornavo::testing {
+namespace {
+
+class ComposeTest : public SkinTest {
+protected:
+    ScriptedPrompts prompts_;
+    Target target_{100, 100};
+    LayoutHost& host_ = target_.host();
+    QColor At(int x, int y) { return target_.grab().toImage().pixelColor(x, y); }
+};
+
+TEST_F(ComposeTest, EveryTypeHasItsControlAndItsPlace) {
+    Add("b", TypeButton, {1, 2, 10, 11});
+    Add("p", TypePicture, {2, 2, 10, 11});
+    Add("v", TypeVolume, {3, 2, 10, 11});
+    Add("i", TypeInfo, {4, 2, 10, 11});
+    Add("m", TypeMain, {5, 2, 10, 11});
+    Add("s", TypeSearchBox, {6, 2, 10, 20});
+    Add("f", TypeScrollbar, {7, 2, 10, 320});
+    Add("x", 7, {0, 0, 9, 9});
+    Add("y", -1, {0, 0, 9, 9});
+    Compose(target_);
+    const std::pair<const Control&, Rect> expected[] = {
+        {host_.Element[1], {1, 2, 10, 11}},   {host_.Element[2], {2, 2, 10, 11}},
+        {host_.Element[3], {3, 2, 10, 11}},   {host_.pInfo[1], {4, 2, 10, 11}},
+        {host_.pMain, {5, 2, 10, 11}},        {host_.tbx_Search, {6, 2, 10, 20}},
+        {host_.Scrollframe, {7, 2, 10, 320}}, {host_.ScrollBar, {7, 17, 10, 70}},
+    };
+    for (const auto& [control, bounds] : expected) {
+        EXPECT_EQ(control.Bounds(), bounds) << control.Name;
+        EXPECT_TRUE(control.isVisible()) << control.Name;
+    }
+    std::string tags;
+    for (const auto& [control, bounds] : expected) tags += control.Tag;
+    EXPECT_EQ(tags, "bpvimsf");
+    EXPECT_EQ(objCurrentLayout->dbLayoutElements->Item("v")->ControlIndex, 3);
+    EXPECT_EQ(objCurrentLayout->dbLayoutElements->Item("i")->ControlIndex, 1);
+    EXPECT_EQ(objCurrentLayout->dbLayoutElements->Item("f")->ControlIndex, -1);
+    EXPECT_EQ(host_.Element.Top(), 3);
+    EXPECT_EQ(target_.gridsShown, 1);
+}
+
+TEST_F(ComposeTest, TheLastElementIsInFront) {
+    Picture("red.bmp", Qt::red);
+    Picture("blue.bmp", Qt::blue);
+    Add("back", TypePicture, {10, 10, 20, 20}).PicNormal = "red.bmp";
+    Add("panel", TypeMain, {10, 20, 20, 10}).BackgroundColor = Rgb(0, 255, 0);
+    Add("front", TypePicture, {20, 10, 20, 20}).PicNormal = "blue.bmp";
+    Compose(target_);
+    EXPECT_EQ(At(12, 12), QColor(Qt::red));
+    EXPECT_EQ(At(12, 25), QColor(Qt::green));
+    EXPECT_EQ(At(22, 25), QColor(Qt::blue));
+    objCurrentLayout->dbLayoutElements->Remove("front");
+    objCurrentLayout->dbLayoutElements->Remove("panel");
+    Compose(target_);
+    EXPECT_EQ(At(22, 25), QColor(Qt::red));
+}
+
+TEST_F(ComposeTest, NothingOfTheLayoutBeforeIsLeft) {
+    Picture("red.bmp", Qt::red);
+    dbLayoutElement& rich = Add("rich", TypeButton, {0, 0, 20, 20});
+    rich.PicNormal = rich.PicOver = "red.bmp";
+    rich.Caption = "X";
+    rich.ShowBorder = true;
+    rich.Rotation = 45;
+    Add("one", TypeInfo, {0, 30, 20, 20});
+    Add("two", TypeInfo, {0, 60, 20, 20});
+    Compose(target_);
+    objCurrentLayout = objSkin->dbLayouts->Item(1);
+    objCurrentLayout->dbLayoutElements = std::make_shared<dbLayoutElements>();
+    Add("bare", TypeButton, {0, 0, 20, 20}).UseTransparency = true;
+    Add("one", TypeInfo, {0, 30, 20, 20});
+    const QColor behind = At(50, 90);
+    Compose(target_);
+    for (int x = 0; x < 20; x += 3) EXPECT_EQ(At(x, x), behind) << x;
+    EXPECT_EQ(host_.Element[1].Elements.Count(), 1);
+    EXPECT_FALSE(host_.Element[1].State.UseRotation);
+    EXPECT_TRUE(host_.pInfo[2].Tag.empty());
+    EXPECT_FALSE(host_.pInfo[2].isVisible());
+}
+
+TEST_F(ComposeTest, AnElementWithoutSizeUsesNoSlot) {
+    Add("none", TypeButton, {0, 0, 0, 10});
+    Add("some", TypeButton, {0, 0, 10, 10});
+    Add("flat", TypeMain, {0, 0, 10, 0});
+    host_.pMain.Tag = "before";
+    Compose(target_);
+    EXPECT_EQ(host_.Element[1].Tag, "some");
+    EXPECT_EQ(host_.Element.Top(), 1);
+    EXPECT_EQ(host_.pMain.Tag, "");
+    EXPECT_TRUE(host_.pMain.isVisible());
+}
+
+TEST_F(ComposeTest, VisibleIsObeyedButByThePanel) {
+    for (const auto& [key, type] : {std::pair{"b", 1}, {"i", 4}, {"m", 0}, {"s", 5}, {"f", 6}})
+        Add(key, type, {0, 0, 10, 10}).Visible = false;
+    Compose(target_);
+    EXPECT_TRUE(host_.pMain.isVisible());
+    for (const Control* hidden : std::initializer_list<const Control*>{
+             &host_.Element[1], &host_.pInfo[1], &host_.tbx_Search, &host_.Scrollframe, &host_.ScrollBar})
+        EXPECT_FALSE(hidden->isVisible()) << hidden->Name;
+}
+
+TEST_F(ComposeTest, TheSwitchHidesElementsOnTheCanvasAlone) {
+    Add("b", TypeButton, {0, 0, 10, 10});
+    Add("m", TypeMain, {0, 0, 10, 10});
+    viewSwitches.ShowElements = false;
+    Compose(target_);
+    EXPECT_FALSE(host_.Element[host_.Element.Top()].isVisible());
+    EXPECT_FALSE(host_.pMain.isVisible());
+    ComposePreview(target_, objCurrentLayout, 100, 100);
+    EXPECT_TRUE(host_.Element[1].isVisible());
+}
+
+TEST_F(ComposeTest, WhatTheCompositionWritesToTheModel) {
+    QImage keyed(2, 2, QImage::Format_RGB32);
+    keyed.fill(Qt::green);
+    keyed.setPixelColor(0, 0, QColor(1, 2, 3));
+    ASSERT_TRUE(keyed.save(Path("keyed.bmp")));
+    dbLayoutElement& topLeft = Add("top left", TypePicture, {0, 0, 10, 10});
+    topLeft.PicNormal = "keyed.bmp";
+    topLeft.UseTransparency = topLeft.UseTopLeftTransparency = true;
+    dbLayoutElement& given = Add("given", TypePicture, {0, 0, 10, 10});
+    given.PicNormal = "keyed.bmp";
+    given.TransparentColor = 77;
+    dbLayoutElement& without = Add("without", TypePicture, {0, 0, 10, 10});
+    without.UseTopLeftTransparency = true;
+    without.TransparentColor = 88;
+    dbLayoutElement& info = Add("info", TypeInfo, {0, 0, 10, 10});
+    info.CapScrollSpeed = -3;
+    info.Value = 2.5;
+    Compose(target_);
+    EXPECT_EQ(topLeft.TransparentColor, Rgb(1, 2, 3));
+    EXPECT_EQ(given.TransparentColor, 77);
+    EXPECT_EQ(without.TransparentColor, 88);
+    EXPECT_EQ(info.CapScrollSpeed, 3);
+    ASSERT_TRUE(info.Font);
+    EXPECT_EQ(info.Font->Name, "2.5");
+    EXPECT_EQ(info.Font->Size, 10);
+    EXPECT_FALSE(objSkin->Dirty);
+}
+
+TEST_F(ComposeTest, FailuresAreToldOnceForALayout) {
+    objSkin->SkinWidth = objSkin->SkinHeight = 0;
+    for (const char* key : {"a", "b", "c"}) {
+        dbLayoutElement& scaled = Add(key, TypeButton, {0, 0, 10, 10});
+        scaled.LockLeft = false;
+        scaled.StretchWidth = true;
+    }
+    Add("good", TypeButton, {5, 5, 10, 10});
+    Compose(target_);
+    ASSERT_EQ(prompts_.asked.size(), 1u);
+    EXPECT_EQ(prompts_.asked[0].find('\n'), std::string::npos);
+    EXPECT_EQ(host_.Element[1].Tag, "good");
+    Compose(target_);
+    EXPECT_EQ(prompts_.asked.size(), 1u);
+    objSkin->SkinWidth = objSkin->SkinHeight = 100;
+    Compose(target_);
+    objSkin->SkinWidth = 0;
+    Compose(target_);
+    EXPECT_EQ(prompts_.asked.size(), 2u);
+}
+
+TEST_F(ComposeTest, ASecondCallWhileOneRunsDoesNothing) {
+    Add("b", TypeButton, {0, 0, 10, 10});
+    Compose(target_);
+    const Raised busy(ComposeBusy);
+    host_.Element[1].Tag = "kept";
+    RenderElements(false);
+    EXPECT_EQ(host_.Element[1].Tag, "kept");
+}
+
+TEST_F(ComposeTest, ThePanelIsTiledOrStretched) {
+    QImage half(2, 2, QImage::Format_RGB32);
+    half.fill(Qt::red);
+    half.setPixelColor(1, 0, Qt::blue);
+    half.setPixelColor(1, 1, Qt::blue);
+    ASSERT_TRUE(half.save(Path("half.bmp")));
+    dbLayoutElement& panel = Add("m", TypeMain, {0, 0, 40, 40});
+    panel.PicNormal = "half.bmp";
+    Compose(target_);
+    EXPECT_EQ(At(0, 39), QColor(Qt::red));
+    EXPECT_EQ(At(1, 39), QColor(Qt::blue));
+    EXPECT_EQ(At(38, 0), QColor(Qt::red));
+    panel.StretchBackground = true;
+    Compose(target_);
+    EXPECT_EQ(At(1, 39), QColor(Qt::red));
+    EXPECT_EQ(At(38, 0), QColor(Qt::blue));
+    panel.PicNormal = "gone.bmp";
+    panel.BackgroundColor = Rgb(0, 255, 0);
+    Compose(target_);
+    EXPECT_EQ(At(20, 20), QColor(Qt::green));
+}
+
+TEST_F(ComposeTest, PicturesAreFoundAsTheyLieOnTheDisk) {
+    Picture("Back.BMP", Qt::red);
+    Add("case", TypePicture, {0, 0, 10, 10}).PicNormal = "back.bmp";
+    Add("lost folder", TypePicture, {20, 0, 10, 10}).PicNormal = "c:\\somewhere\\BACK.bmp";
+    Compose(target_);
+    EXPECT_EQ(At(5, 5), QColor(Qt::red));
+    EXPECT_EQ(At(25, 5), QColor(Qt::red));
+}
+
+TEST_F(ComposeTest, ThePreviewIsCutToItsShape) {
+    objCurrentLayout->AddDummyPoints();
+    ComposePreview(target_, objCurrentLayout, 100, 100);
+    EXPECT_EQ(target_.shape, QRegion(0, 0, 100, 100));
+    objCurrentLayout->dbPoints->GetFromOrder(3)->X = 51;
+    objCurrentLayout->dbPoints->GetFromOrder(4)->X = 51;
+    target_.resize(200, 100);
+    ComposePreview(target_, objCurrentLayout, 100, 100);
+    EXPECT_EQ(target_.shape, QRegion(0, 0, 150, 100));
+    objCurrentLayout->dbPoints->Remove(1);
+    objCurrentLayout->dbPoints->Remove(1);
+    ComposePreview(target_, objCurrentLayout, 100, 100);
+    EXPECT_TRUE(target_.shape.isEmpty());
+}
+
+}  // namespace
+}  // namespace ornavo::testing

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "render/placement.h"
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "document/codes.h"
+
+namespace ornavo {
+namespace {
+
+/// Fields 30, 40 of a skin of 100, in windows that differ by an odd and an even number, larger and smaller.
+struct Row {
+    bool near, far, stretch;
+    int window;
+    int left, width;  // worked out by hand
+    int top, height;  // the same for the other direction
+};
+
+constexpr Row Rows[] = {
+    {true, false, false, 105, 30, 40, 30, 40},  {true, false, false, 94, 30, 40, 30, 40},
+    {true, false, true, 105, 30, 42, 30, 42},   {true, false, true, 107, 30, 44, 30, 44},
+    {true, false, true, 94, 30, 37, 30, 37},    {true, false, true, 95, 30, 38, 30, 38},
+    {false, true, false, 105, 75, 40, 75, 40},  {false, true, false, 94, 64, 40, 64, 40},
+    {false, true, true, 105, 73, 42, 73, 42},   {false, true, true, 107, 74, 44, 73, 44},
+    {false, true, true, 94, 67, 37, 67, 37},    {false, true, true, 95, 68, 38, 67, 38},
+    {false, false, true, 105, 32, 42, 32, 42},  {false, false, true, 107, 32, 43, 32, 43},
+    {false, false, true, 95, 28, 38, 28, 38},   {true, true, false, 105, 30, 45, 30, 45},
+    {true, true, true, 94, 30, 34, 30, 34},     {false, false, false, 105, 32, 40, 32, 40},
+    {false, false, false, 107, 34, 40, 34, 40}, {false, false, false, 94, 27, 40, 27, 40},
+    {false, false, false, 95, 28, 40, 28, 40},
+};
+
+dbLayoutElement ElementOf(const Row& row) {
+    dbLayoutElement e;
+    e.LeftX = e.TopY = 30;
+    e.WidthX = e.HeightY = 40;
+    e.LockLeft = e.LockTop = row.near;
+    e.LockRight = e.LockBottom = row.far;
+    e.StretchWidth = e.StretchHeight = row.stretch;
+    return e;
+}
+
+std::string Name(const Row& row) {
+    return std::string(row.near ? "L" : "-") + (row.far ? "R" : "-") + (row.stretch ? "S" : "-") + " " +
+           std::to_string(row.window);
+}
+
+TEST(Placement, EveryRowInBothDirections) {
+    for (const Row& row : Rows) {
+        const Rect at = GetElementRect(ElementOf(row), {row.window, row.window, 100, 100});
+        EXPECT_EQ(at, (Rect{row.left, row.top, row.width, row.height})) << Name(row);
+    }
+}
+
+TEST(Placement, DirectionsAreIndependent) {
+    dbLayoutElement e = ElementOf({.near = true});
+    e.LockTop = false;
+    e.LockBottom = true;
+    EXPECT_EQ(GetElementRect(e, {150, 130, 100, 100}), (Rect{30, 100, 40, 40}));
+}
+
+TEST(Placement, BoundsAreWrittenBackAtEvenDifferences) {
+    for (const Row& row : Rows) {
+        for (const int window : {100, 104, 120, 96, 80}) {
+            const Frame frame = {window, window, 100, 100};
+            const dbLayoutElement before = ElementOf(row);
+            dbLayoutElement after = before;
+            WriteElementBounds(after, GetElementRect(before, frame), frame);
+            // A scaled element may settle a pixel away.
+            const int slack = !row.near && !row.far && row.stretch ? 1 : 0;
+            EXPECT_NEAR(after.LeftX, before.LeftX, slack) << Name(row) << " at " << window;
+            EXPECT_NEAR(after.WidthX, before.WidthX, slack) << Name(row) << " at " << window;
+            EXPECT_NEAR(after.TopY, before.TopY, slack) << Name(row) << " at " << window;
+            EXPECT_NEAR(after.HeightY, before.HeightY, slack) << Name(row) << " at " << window;
+        }
+    }
+}
+
+TEST(Placement, BoundsAtOddDifferencesGoToTheEvenNeighbour) {
+    struct {
+        bool near, far, stretch;
+        int left, width;  // of bounds 30, 40 in a window of 101, skin 100
+    } const rows[] = {
+        {true, false, true, 30, 40},    // 40 - 0.5 -> 40
+        {false, true, true, 70, 40},    // 71 - 0.5 -> 70
+        {false, false, false, 30, 40},  // 30 - 0.5 -> 30
+        {true, true, false, 30, 39},
+    };
+    for (const auto& row : rows) {
+        dbLayoutElement e = ElementOf({row.near, row.far, row.stretch, 0, 0, 0, 0, 0});
+        WriteElementBounds(e, {30, 30, 40, 40}, {101, 101, 100, 100});
+        EXPECT_EQ(e.LeftX, row.left);
+        EXPECT_EQ(e.WidthX, row.width);
+        EXPECT_EQ(e.TopY, row.left);
+        EXPECT_EQ(e.HeightY, row.width);
+    }
+}
+
+TEST(Placement, Corners) {
+    struct {
+        int align, distance, window, plain, region;
+    } const rows[] = {
+        {AlignStart, 10, 121, 10, 10},   {AlignMiddle, 10, 121, 20, 20}, {AlignMiddle, 11, 121, 22, 22},
+        {AlignEnd, 10, 121, 111, 112},   {AlignEnd, 1, 90, 89, 90},      {AlignStretch, 50, 121, 60, 60},
+        {AlignStretch, 50, 123, 62, 62}, {AlignStart, -5, 90, -5, -5},
+    };
+    for (const auto& row : rows) {
+        const dbPoint point = {row.distance, row.distance, row.align, row.align, 1};
+        const Frame frame = {row.window, row.window, 100, 100};
+        EXPECT_EQ(GetPointPosition(point, frame, false), (Point{row.plain, row.plain})) << row.align;
+        EXPECT_EQ(GetPointPosition(point, frame, true), (Point{row.region, row.region})) << row.align;
+    }
+}
+
+TEST(Placement, WhatHasNoNumberIsAFailure) {
+    dbLayoutElement stretched = ElementOf({.stretch = true});
+    EXPECT_THROW(GetElementRect(stretched, {100, 100, 0, 0}), Failure);
+    EXPECT_THROW(WriteElementBounds(stretched, {1, 1, 1, 1}, {0, 0, 100, 100}), Failure);
+    EXPECT_EQ(stretched.LeftX, 30);
+    dbLayoutElement far = ElementOf({.near = true, .far = true});
+    far.WidthX = 2'147'483'647;
+    EXPECT_THROW(GetElementRect(far, {101, 101, 100, 100}), Failure);
+}
+
+}  // namespace
+}  // namespace ornavo

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "render/surface.h"
+
+#include <QPainter>
+
+#include "support/skin_fixture.h"
+
+namespace ornavo::testing {
+namespace {
+
+const QColor Dots(110, 100, 100), Lines(55, 50, 50), Ground(0x80, 0x80, 0x80);
+
+class SurfaceTest : public SkinTest {
+protected:
+    SurfaceTest() { viewSwitches.ShowShape = false; }
+    QImage Shown(int width = 101, int height = 61) {
+        surface_.ShowGrid({width, height, 100, 100}, 1);
+        QImage image(width, height, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        surface_.Paint(painter, image.rect());
+        return image;
+    }
+    void SetBackground(const char* name) { objSkin->dbSkinPrefs->Item("SP_BackgroundPicture")->value = name; }
+    Surface surface_;
+};
+
+TEST_F(SurfaceTest, GridDotsAndGuideLines) {
+    viewSwitches.GridX = 4;
+    viewSwitches.GridY = 6;
+    const QImage image = Shown();
+    const struct {
+        int x, y;
+        QColor colour;
+        const char* what;
+    } rows[] = {
+        {0, 1, Lines, "first line"},
+        {20, 7, Lines, "a line every five spacings"},
+        {4, 6, Dots, "a dot"},
+        {4, 7, Ground, "between dots"},
+        {3, 30, Dots, "the guide line across, 61/2 goes to 30"},
+        {50, 3, Dots, "the guide line down"},
+        {21, 31, Ground, "a field"},
+        {20, 6, Dots, "a dot on a line"},
+        {7, 0, Lines, "the first line across"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(image.pixelColor(row.x, row.y), row.colour) << row.what;
+}
+
+TEST_F(SurfaceTest, SmallSpacingsLeaveTheGuideLinesAlone) {
+    viewSwitches.GridX = viewSwitches.GridY = 2;
+    EXPECT_EQ(Shown().pixelColor(0, 0), Ground);
+    EXPECT_EQ(Shown().pixelColor(50, 7), Dots);
+    viewSwitches.GridY = 3;
+    EXPECT_EQ(Shown().pixelColor(2, 3), Dots);
+    EXPECT_EQ(Shown().pixelColor(10, 4), Lines);
+    EXPECT_EQ(Shown().pixelColor(3, 15), Lines);
+    viewSwitches.GridX = -7;  // settings may hold anything
+    EXPECT_EQ(Shown().pixelColor(1, 3), Dots);
+    viewSwitches.ShowGrid = false;
+    EXPECT_EQ(Shown().pixelColor(50, 7), Ground);
+}
+
+TEST_F(SurfaceTest, ABackgroundThatIsGoneLeavesEverythingAsItWas) {
+    Picture("back.bmp", Qt::blue, 10, 10);
+    viewSwitches.ShowGrid = false;
+    SetBackground("back.bmp");
+    EXPECT_EQ(Shown().pixelColor(9, 9), QColor(Qt::blue));
+    EXPECT_EQ(Shown().pixelColor(10, 9), Ground);
+    SetBackground("gone.bmp");
+    viewSwitches.ShowGrid = true;
+    EXPECT_EQ(Shown().pixelColor(9, 9), QColor(Qt::blue));
+    EXPECT_EQ(Shown().pixelColor(50, 20), Ground);
+    SetBackground("");
+    EXPECT_EQ(Shown().pixelColor(9, 9), Ground);
+}
+
+TEST_F(SurfaceTest, TheOverlayDimsOneSideAndItsLineShowsOnBlackAndOnWhite) {
+    for (const auto& [order, x, y] : {std::tuple{1, 20, 20}, {2, 20, 60}, {3, 60, 60}, {4, 60, 20}}) {
+        const dbPointRef point = objCurrentLayout->dbPoints->Add(order);
+        point->X = x, point->Y = y;
+    }
+    viewSwitches.ShowGrid = false;
+    viewSwitches.ShowShape = true;
+    for (const bool inverted : {false, true}) {
+        viewSwitches.ShapeInverted = inverted;
+        for (const QColor ground : {QColor(Qt::black), QColor(Qt::white)}) {
+            Picture("back.bmp", ground, 101, 101);
+            SetBackground("back.bmp");
+            const QImage image = Shown(101, 101);
+            const QColor inside = image.pixelColor(40, 40), outside = image.pixelColor(5, 90);
+            EXPECT_EQ(inverted ? inside : outside, ground);
+            if (ground == Qt::white) {
+                EXPECT_LT((inverted ? outside : inside).value(), 200);
+                EXPECT_GT((inverted ? outside : inside).value(), 100) << "it dims, it doesn't hide";
+            }
+            int darkest = 255, lightest = 0;
+            for (int x = 15; x < 25; ++x) {
+                darkest = std::min(darkest, image.pixelColor(x, 40).value());
+                lightest = std::max(lightest, image.pixelColor(x, 40).value());
+            }
+            EXPECT_GT(lightest - darkest, 120) << ground.name().toStdString();
+        }
+    }
+}
+
+}  // namespace
+}  // namespace ornavo::testing
