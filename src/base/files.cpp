@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int FileExists = 58;
+constexpr int AlreadyThere = 58;
 constexpr std::size_t Chunk = 1 << 16;
 
 /// The few calls that the systems spell differently.
@@ -89,7 +89,7 @@ int NumberOf(int reason) {
         case ENOENT:
             return 53;
         case EEXIST:
-            return FileExists;
+            return AlreadyThere;
         case ENOSPC:
             return 61;
         default:
@@ -160,7 +160,7 @@ public:
                 file_ = fileLayer().Create(path_);
                 break;
             } catch (const Failure& failure) {
-                if (failure.number() != FileExists || tries == 20) throw;
+                if (failure.number() != AlreadyThere || tries == 20) throw;
             }
         }
         KeepPermissions();
@@ -216,7 +216,9 @@ private:
 fs::path Replaceable(const fs::path& path) {
     fs::path target = BehindLinks(path);
     const fs::file_type type = TypeOf(target);
-    if (target.filename().empty() || IsOther(type)) throw NotAFile();
+    std::error_code ignored;
+    const bool ring = fs::is_symlink(fs::symlink_status(target, ignored));  // of links to each other
+    if (ring || target.filename().empty() || IsOther(type)) throw NotAFile();
     return target;
 }
 

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "base/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "base/failure.h"
+#include "base/paths.h"
+#include "support/failure_number.h"
+#include "support/temporary_folder.h"
+
+namespace ornavo {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The real disk, but the call of one number fails. A failing write has written half.
+class FailingLayer : public FileLayer {
+public:
+    explicit FailingLayer(int failing) : left_(failing) { UseFileLayer(this); }
+    ~FailingLayer() override { UseFileLayer(nullptr); }
+    bool HasFailed() const { return left_ <= 0; }
+
+    int Create(const fs::path& path) override { return Step(), FileLayer::Create(path); }
+    void Write(int file, std::string_view bytes) override {
+        if (left_ == 1) FileLayer::Write(file, bytes.substr(0, bytes.size() / 2));
+        Step();
+        FileLayer::Write(file, bytes);
+    }
+    void Flush(int file) override { Step(), FileLayer::Flush(file); }
+    void Close(int file) override { FileLayer::Close(file), Step(); }
+    void Rename(const fs::path& from, const fs::path& to) override { Step(), FileLayer::Rename(from, to); }
+    void Remove(const fs::path& path) override { Step(), FileLayer::Remove(path); }
+    void MakeFolder(const fs::path& path) override { Step(), FileLayer::MakeFolder(path); }
+    void FlushFolder(const fs::path& path) override { Step(), FileLayer::FlushFolder(path); }
+    int Open(const fs::path& path) override { return Step(), FileLayer::Open(path); }
+    std::size_t ReadSome(int file, char* bytes, std::size_t size) override {
+        return Step(), FileLayer::ReadSome(file, bytes, size);
+    }
+
+private:
+    void Step() {
+        if (--left_ == 0) throw Failure(61, "Files", "No space left on device");
+    }
+    int left_;
+};
+
+/// Lets each call of the action fail in turn. Whatever happens, the target holds the new bytes when the
+/// action ends well and the old ones otherwise, and nothing else lies in the folder.
+template <class Action>
+void ExpectAllOrNothing(const TemporaryFolder& folder, const fs::path& target, const std::string& bytes,
+                        Action&& action) {
+    bool reached = true;
+    int failures = 0;
+    for (int call = 1; reached; ++call) {
+        for (const bool exists : {true, false}) {
+            fs::remove(target);
+            if (exists) folder.Write("target", "old");
+            const std::size_t entries = folder.Entries();
+            bool done = false;
+            {
+                const FailingLayer layer(call);
+                done = Attempt(action);
+                reached = layer.HasFailed();
+            }
+            failures += !done;
+            EXPECT_EQ(fs::exists(target), done || exists) << call;
+            const bool right = TemporaryFolder::Read(target) == (done ? bytes : exists ? "old" : "");
+            EXPECT_TRUE(right) << call;
+            EXPECT_EQ(folder.Entries(), entries + (done && !exists)) << call;
+        }
+    }
+    EXPECT_GE(failures, 10);  // create, write, flush, close and rename at least, with and without an old file
+}
+
+TEST(ReplaceFile, IsAllOrNothingAtEveryStep) {
+    const TemporaryFolder folder;
+    const fs::path target = folder / "target";
+    const std::string bytes(100'000, 'n');
+    ExpectAllOrNothing(folder, target, bytes, [&] { ReplaceFile(target, bytes); });
+}
+
+TEST(CopyFileWhole, IsAllOrNothingAtEveryStep) {
+    const TemporaryFolder folder;
+    const std::string bytes = std::string(200'000, 'a') + std::string("\0\r\n\xFF", 4);
+    const fs::path source = folder.Write("source", bytes);
+    const fs::path target = folder / "target";
+    ExpectAllOrNothing(folder, target, bytes, [&] { CopyFileWhole(source, target); });
+    EXPECT_EQ(TemporaryFolder::Read(source), bytes);
+}
+
+TEST(ReplaceFile, TellsTheUserWhatFailed) {
+    const TemporaryFolder folder;
+    const fs::path target = folder / "My Skin.xml";
+    const FailingLayer layer(2);
+    try {
+        ReplaceFile(target, "x");
+        FAIL();
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.number(), 61);
+        EXPECT_EQ(failure.description(),
+                  "The file \"" + ToText(target) + "\" could not be written: No space left on device");
+    }
+}
+
+TEST(ReplaceFile, KeepsPermissionsAndLinks) {
+    const TemporaryFolder folder;
+    const fs::path real = folder.Write("real/file", "old");
+    fs::permissions(real, fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("real/file", folder / "link");
+    fs::create_symlink("link", folder / "link2");
+    ReplaceFile(folder / "link2", "new");
+    EXPECT_EQ(TemporaryFolder::Read(real), "new");
+    EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_TRUE(fs::is_symlink(folder / "link") && fs::is_symlink(folder / "link2"));
+
+    fs::create_symlink("real/fresh", folder / "dangling");
+    CopyFileWhole(real, folder / "dangling");
+    EXPECT_EQ(TemporaryFolder::Read(folder / "real/fresh"), "new");
+
+    fs::create_symlink("loop", folder / "loop");
+    EXPECT_NE(FailureNumber([&] { ReplaceFile(folder / "loop", "x"); }), 0);
+    EXPECT_TRUE(fs::is_symlink(folder / "loop"));
+}
+
+TEST(Files, OnlyPlainFilesAreReadAndReplaced) {
+    const TemporaryFolder folder;
+    const fs::path plain = folder.Write("plain", "bytes");
+    fs::create_directory(folder / "folder");
+    const fs::path pipe = folder / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    for (const fs::path& other : {pipe, folder / "folder", fs::path("/dev/null")}) {
+        EXPECT_FALSE(FileExists(ToText(other))) << other;
+        EXPECT_EQ(FailureNumber([&] { ReadFile(ToText(other)); }), 75) << other;
+        EXPECT_EQ(FailureNumber([&] { ReplaceFile(other, "x"); }), 75) << other;
+        EXPECT_EQ(FailureNumber([&] { CopyFileWhole(other, folder / "copy"); }), 75) << other;
+        EXPECT_EQ(FailureNumber([&] { CopyFileWhole(plain, other); }), 75) << other;
+    }
+    EXPECT_EQ(FailureNumber([&] { ReadFile(ToText(folder / "none")); }), 53);
+    EXPECT_EQ(FailureNumber([&] { CopyFileWhole(folder / "none", folder / "copy"); }), 53);
+    EXPECT_EQ(FailureNumber([&] { ReplaceFile(folder / "none/file", "x"); }), 53);
+    EXPECT_EQ(folder.Entries(), 3u);
+    CopyFileWhole(plain, plain);
+    EXPECT_EQ(ReadFile(ToText(folder / "PLAIN")), "bytes");
+}
+
+TEST(Files, NamesOfFullLengthAndEmptyFilesWork) {
+    const TemporaryFolder folder;
+    const fs::path longest = folder / std::string(255, 'n');
+    ReplaceFile(longest, "");
+    EXPECT_TRUE(FileExists(ToText(longest)));
+    EXPECT_EQ(ReadFile(ToText(longest)), "");
+    CopyFileWhole(longest, folder / "copy");
+    EXPECT_EQ(fs::file_size(folder / "copy"), 0u);
+}
+
+TEST(Folders, AreMadeWhereTheyAreMissing) {
+    const TemporaryFolder folder;
+    const std::string root = ToText(folder.place());
+    folder.Write("file", "");
+    EXPECT_FALSE(CreateFolderOnce(""));
+    EXPECT_FALSE(CreateFolderOnce(root + "/a/b"));
+    EXPECT_FALSE(CreateFolderOnce(root + "/file"));
+    EXPECT_TRUE(CreateFolderOnce(root + "\\One\\"));
+    EXPECT_TRUE(CreateFolderOnce(root + "/one"));
+
+    EXPECT_TRUE(MakePath(root + "\\ONE\\\\two/Three\\"));
+    EXPECT_TRUE(FolderExists(root + "/One/two/Three"));
+    EXPECT_TRUE(MakePath(root));
+    EXPECT_TRUE(MakePath("/"));
+    EXPECT_FALSE(MakePath(root + "/file/x"));
+    EXPECT_FALSE(MakePath(""));
+    EXPECT_EQ(folder.Entries(), 2u);
+    {
+        const FailingLayer layer(2);
+        EXPECT_FALSE(MakePath(root + "/p/q"));
+    }
+    EXPECT_TRUE(FolderExists(root + "/p"));
+}
+
+TEST(Folders, PathPartsAreCutOffOneByOne) {
+    std::string path = R"(c:\\\Skins\\\\\\Blue\\\)";
+    std::vector<std::string> parts{NextPathPart(path, false)};
+    while (parts.back() != "*eod*") parts.push_back(NextPathPart(path, true));
+    EXPECT_EQ(parts, (std::vector<std::string>{"c:", "Skins", "", "Blue", "*eod*"}));
+}
+
+}  // namespace
+}  // namespace ornavo

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "base/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "support/failure_number.h"
+
+namespace ornavo {
+namespace {
+
+const NumberSigns English{".", ","};
+const NumberSigns German{",", "."};
+const NumberSigns French{",", "\u00A0"};
+
+TEST(Rounding, TiesGoToEven) {
+    EXPECT_EQ(ToLong(0.5), 0);
+    EXPECT_EQ(ToLong(1.5), 2);
+    EXPECT_EQ(ToLong(-2.5), -2);
+    EXPECT_EQ(ToLong(2.51), 3);
+    EXPECT_EQ(FloorToLong(-1.5), -2);
+    EXPECT_EQ(FloorToLong(7.99999), 7);
+}
+
+TEST(Rounding, FailsBeyondTheRange) {
+    EXPECT_EQ(ToLong(2147483647.4), 2147483647);
+    EXPECT_EQ(ToLong(-2147483648.5), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(ToInteger(-32768.5), -32768);
+    for (const double beyond : {2147483647.5, 2147483648.0, -2147483649.0, 1e300, std::nan("")}) {
+        EXPECT_EQ(FailureNumber([&] { ToLong(beyond); }), 6) << beyond;
+        EXPECT_EQ(FailureNumber([&] { ToInteger(beyond); }), 6) << beyond;
+    }
+    EXPECT_EQ(FailureNumber([] { ToInteger(32767.5); }), 6);
+    EXPECT_EQ(FailureNumber([] { FloorToLong(-2147483648.5); }), 6);
+}
+
+TEST(Numeric, TakesWhatTheUserWrites) {
+    const struct {
+        const char* text;
+        NumberSigns signs;
+        double value;
+    } cases[] = {
+        {"7", English, 7},
+        {" -7 ", English, -7},
+        {"+.5", English, 0.5},
+        {"5.", English, 5},
+        {"1,234.5", English, 1234.5},
+        {"1,2,3", English, 123},
+        {"1e3", English, 1000},
+        {"1.5E-2", English, 0.015},
+        {"007", English, 7},
+        {"1.234,5", German, 1234.5},
+        {"8,25", German, 8.25},
+        {"1\u00A0234,5", French, 1234.5},
+        {"1e-999", English, 0},
+        {"0e999", English, 0},
+        {"\t7", English, 7},
+        {"1e308", English, 1e308},
+        {"0.1", English, 0.1},
+        {"123456789012345678", English, 123456789012345678.0},
+    };
+    for (const auto& c : cases) {
+        EXPECT_TRUE(IsNumeric(c.text, c.signs)) << c.text;
+        EXPECT_EQ(ToNumber(c.text, c.signs), c.value) << c.text;
+    }
+    const std::string many = "1" + std::string(400, '0') + "e-400";
+    EXPECT_EQ(ToNumber(many, English), 1);
+}
+
+TEST(Numeric, RefusesWhatOnlyLooksAlike) {
+    for (const char* text :
+         {"",   " ",   "+",   "-",  ".",     "nan",   "inf", "0x1F", "1_000", "1e",         "1e+",
+          "e5", "1 2", "--1", ",5", "1.2.3", "1.2,3", "5-",  "1d5x", "7\n",   "1\u00A0000", "\u0661"}) {
+        EXPECT_FALSE(IsNumeric(text, English)) << text;
+        EXPECT_EQ(FailureNumber([&] { ToNumber(text, English); }), 13) << text;
+    }
+    EXPECT_FALSE(IsNumeric("1e999", English));
+    EXPECT_EQ(FailureNumber([] { ToNumber("-1e999", English); }), 6);
+    EXPECT_EQ(FailureNumber([] { ToNumber("1e99999999999999999999", English); }), 6);
+    EXPECT_FALSE(IsNumeric("1,5", NumberSigns{".", ""}));
+}
+
+TEST(Numeric, UsesTheSignsHandedIn) {
+    EXPECT_EQ(ToNumber("1,5"), 15);
+    UseNumberSigns(German);
+    EXPECT_EQ(ToNumber("1,5"), 1.5);
+    EXPECT_TRUE(IsNumeric("1.000"));
+    UseNumberSigns({});
+    EXPECT_EQ(ToNumber("1,5"), 15);
+}
+
+TEST(Val, ReadsTheNumberAtTheStart) {
+    const struct {
+        const char* text;
+        double value;
+    } cases[] = {{"12abc", 12}, {" 1 2.5 x", 12.5}, {"+7", 7}, {"-.5", -0.5}, {"1,5", 1}, {"abc", 0},
+                 {"", 0},       {"1e2", 100},       {"1e", 1}, {"-", 0},      {".", 0},   {"1.2.3", 1.2}};
+    for (const auto& c : cases) EXPECT_EQ(Val(c.text), c.value) << c.text;
+}
+
+TEST(NumberText, IsPlainUpToFifteenDigits) {
+    const struct {
+        double value;
+        const char* text;
+    } cases[] = {{0, "0"},
+                 {-0.0, "0"},
+                 {120, "120"},
+                 {-1.5, "-1.5"},
+                 {0.1 + 0.2, "0.3"},
+                 {1.0 / 3, "0.333333333333333"},
+                 {0.0001, "0.0001"},
+                 {0.00001, "1E-05"},
+                 {-0.000012345, "-1.2345E-05"},
+                 {999999999999999, "999999999999999"},
+                 {1e15, "1E+15"},
+                 {1.5e300, "1.5E+300"},
+                 {9999999999999999.0, "1E+16"},
+                 {2147483648, "2147483648"}};
+    for (const auto& c : cases) EXPECT_EQ(NumberText(c.value), c.text);
+    EXPECT_EQ(NumberText(-1234.5, ","), "-1234,5");
+    EXPECT_EQ(NumberText(0.05, ","), "0,05");
+    EXPECT_EQ(NumberText(std::numeric_limits<std::int32_t>::min()), "-2147483648");
+}
+
+}  // namespace
+}  // namespace ornavo
