@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+// Composing a layout again, beside as many plain widgets that are hidden, placed, raised, shown and painted.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "document/codes.h"
+#include "document/current_skin.h"
+#include "platform/startup.h"
+#include "render/compose.h"
+#include "render/layout_host.h"
+#include "render/surface.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int Width = 1024, Height = 768, TileWidth = 60, TileHeight = 40;
+
+Rect PlaceOf(int i) {
+    return {i * 37 % (Width - TileWidth), i * 53 % (Height - TileHeight), TileWidth, TileHeight};
+}
+
+class Window : public QWidget, public CompositionTarget {
+public:
+    Window() : host_(*this, nullptr) {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        resize(Width, Height);
+        show();
+        QCoreApplication::processEvents();
+    }
+    int ScaleWidth() const override { return width(); }
+    int ScaleHeight() const override { return height(); }
+    LayoutHost& host() override { return host_; }
+
+protected:
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), Qt::gray); }
+
+private:
+    LayoutHost host_;
+};
+
+class PlainWidget : public QWidget {
+public:
+    PlainWidget(QWidget* parent, const QPixmap& picture) : QWidget(parent), picture_(picture) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, picture_); }
+
+private:
+    QPixmap picture_;
+};
+
+/// A skin with `count` buttons, every second with a caption, all with the same picture.
+class Skin {
+public:
+    explicit Skin(int count) {
+        objSkin->SetBasePath(folder_.path().toStdString());
+        objSkin->SkinName = "Bench";
+        objSkin->SkinWidth = Width;
+        objSkin->SkinHeight = Height;
+        QDir(folder_.path()).mkdir("Bench");
+        QImage picture(32, 32, QImage::Format_RGB32);
+        picture.fill(Qt::darkCyan);
+        picture.save(folder_.filePath("Bench/tile.bmp"));
+        objCurrentLayout = std::make_shared<dbLayout>();
+        objCurrentLayout->Key = "Bench";
+        for (int i = 1; i <= count; ++i) {
+            dbLayoutElement& e =
+                *objCurrentLayout->dbLayoutElements->Add(i, std::to_string(i), TypeButton, 0);
+            const Rect at = PlaceOf(i);
+            e.LeftX = at.left, e.TopY = at.top, e.WidthX = at.width, e.HeightY = at.height;
+            e.LockLeft = e.LockTop = true;
+            e.PicNormal = "tile.bmp";
+            if (i % 2 == 0) e.Caption = "Play";
+        }
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+void ComposeAgain(benchmark::State& state) {
+    const Skin skin(static_cast<int>(state.range(0)));
+    Window window;
+    for (auto _ : state) {
+        ComposeLayout(window, objCurrentLayout, Width, Height);
+        QCoreApplication::processEvents();
+    }
+}
+
+void PlainWidgets(benchmark::State& state) {
+    Window window;
+    QPixmap picture(TileWidth, TileHeight);
+    picture.fill(Qt::darkCyan);
+    std::vector<QWidget*> widgets;
+    for (int i = 0; i < state.range(0); ++i) widgets.push_back(new PlainWidget(&window, picture));
+    for (auto _ : state) {
+        for (QWidget* widget : widgets) widget->hide();
+        for (std::size_t i = 0; i < widgets.size(); ++i) {
+            const Rect at = PlaceOf(static_cast<int>(i) + 1);
+            widgets[i]->setGeometry(at.left, at.top, at.width, at.height);
+            widgets[i]->raise();
+            widgets[i]->show();
+        }
+        QCoreApplication::processEvents();
+    }
+}
+
+BENCHMARK(ComposeAgain)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlainWidgets)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace ornavo
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    ornavo::PrepareProcess();
+    QApplication application(argc, argv);
+    ornavo::InitCommonControls(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
