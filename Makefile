@@ -1,0 +1,21 @@
+# The face of the build; what each command does stands in scripts/.
+.PHONY: help run build test bench fuzz format clean
+
+help:
+	@echo "make run     install what is missing, build, open a sample skin"
+	@echo "make test    install what is missing, build, run all tests, then again under the sanitizers"
+	@echo "make build   install what is missing, build the programs (build/ornavo, build/ornavo-cli) and the tests"
+	@echo "make bench   measure, each figure beside a peer"
+	@echo "make fuzz    feed the readers with garbage for FUZZ_SECONDS (60) each"
+	@echo "make format  lay out the sources"
+	@echo "make clean   remove what was built"
+
+run test bench fuzz format:
+	@scripts/$@
+
+build:
+	@scripts/setup build
+	@scripts/build default -DBUILD_TESTING=ON
+
+clean:
+	rm -rf build build-sanitize build-bench build-fuzz
