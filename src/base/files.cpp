@@ -91,6 +91,9 @@ int NumberOf(int reason) {
         case EEXIST:
             return AlreadyThere;
         case ENOSPC:
+#ifdef EDQUOT
+        case EDQUOT:
+#endif
             return 61;
         default:
             return 75;

@@ -201,7 +201,7 @@ std::string NumberText(double value, std::string_view decimal) {
 
     // "d.dddddddddddddde+XX": fifteen digits that count and the power of the first.
     char buffer[40];
-    const auto end =
+    const char* const end =
         std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value), std::chars_format::scientific, 14)
             .ptr;
     const std::string_view written(buffer, static_cast<std::size_t>(end - buffer));

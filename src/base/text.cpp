@@ -67,7 +67,7 @@ void AppendUtf8(std::string& text, char32_t code) {
 /// The byte of a character in the file, -1 if it has none.
 int FileByte(char32_t code) {
     if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) return static_cast<int>(code);
-    const auto found = std::find(UpperHalf.begin(), UpperHalf.end(), code);
+    const auto* const found = std::find(UpperHalf.begin(), UpperHalf.end(), code);
     return found == UpperHalf.end() ? -1 : 0x80 + static_cast<int>(found - UpperHalf.begin());
 }
 
