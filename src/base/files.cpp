@@ -215,14 +215,20 @@ private:
     int file_;
 };
 
-/// The file that a replacement lands on. Failure 75 where something else than a file stands.
-fs::path Replaceable(const fs::path& path) {
-    fs::path target = BehindLinks(path);
-    const fs::file_type type = TypeOf(target);
+/// The path itself. Failure 75 where something else than a file or a link stands.
+const fs::path& Replaceable(const fs::path& path) {
     std::error_code ignored;
-    const bool ring = fs::is_symlink(fs::symlink_status(target, ignored));  // of links to each other
-    if (ring || target.filename().empty() || IsOther(type)) throw NotAFile();
-    return target;
+    const fs::file_type type = fs::symlink_status(path, ignored).type();
+    if (path.filename().empty() || (IsOther(type) && type != fs::file_type::symlink)) throw NotAFile();
+    return path;
+}
+
+/// What the path leads to. Failure 75 where that is no file, or links lead to each other.
+fs::path ReplaceableBehindLinks(const fs::path& path) {
+    fs::path target = BehindLinks(path);
+    std::error_code ignored;
+    if (fs::is_symlink(fs::symlink_status(target, ignored))) throw NotAFile();
+    return Replaceable(target);
 }
 
 }  // namespace
@@ -317,7 +323,7 @@ std::string ReadFile(std::string_view path) {
 
 void ReplaceFile(const fs::path& path, std::string_view bytes) {
     Named(path, "written", [&] {
-        Scratch scratch(Replaceable(path));
+        Scratch scratch(ReplaceableBehindLinks(path));
         scratch.Write(bytes);
         scratch.TakePlace();
     });

@@ -166,8 +166,13 @@ TEST(ReplaceFile, KeepsPermissionsAndLinks) {
     EXPECT_TRUE(fs::is_symlink(folder / "link") && fs::is_symlink(folder / "link2"));
 
     fs::create_symlink("real/fresh", folder / "dangling");
-    CopyFileWhole(real, folder / "dangling");
-    EXPECT_EQ(TemporaryFolder::Read(folder / "real/fresh"), "new");
+    ReplaceFile(folder / "dangling", "fresh");
+    EXPECT_EQ(TemporaryFolder::Read(folder / "real/fresh"), "fresh");
+
+    CopyFileWhole(folder / "real/fresh", folder / "link");
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder / "link")));
+    EXPECT_EQ(TemporaryFolder::Read(folder / "link"), "fresh");
+    EXPECT_EQ(TemporaryFolder::Read(real), "new");
 
     fs::create_symlink("loop", folder / "loop");
     EXPECT_NE(FailureNumber([&] { ReplaceFile(folder / "loop", "x"); }), 0);
