@@ -123,6 +123,19 @@ std::optional<Decimal> ReadDecimal(std::string_view text, const NumberSigns& sig
     return number;
 }
 
+/// Most numbers of a skin are a few digits and perhaps a sign; a double holds fifteen digits exactly.
+std::optional<double> ReadFewDigits(std::string_view text) {
+    const bool negative = text.starts_with('-');
+    if (negative) text.remove_prefix(1);
+    if (text.empty() || text.size() > 15) return std::nullopt;
+    std::int64_t number = 0;
+    for (const char c : text) {
+        if (!IsDigit(c)) return std::nullopt;
+        number = number * 10 + (c - '0');
+    }
+    return static_cast<double>(negative ? -number : number);
+}
+
 /// Most texts that are asked about are names and captions: those pay for one look at their first byte.
 bool MayBeNumber(std::string_view text, const NumberSigns& signs) {
     const std::size_t first = text.find_first_not_of(" \t");
@@ -159,6 +172,7 @@ bool IsNumeric(std::string_view text) {
 
 bool IsNumeric(std::string_view text, const NumberSigns& signs) {
     if (!MayBeNumber(text, signs)) return false;
+    if (ReadFewDigits(text)) return true;
     const auto number = ReadDecimal(text, signs);
     return number && number->Number();
 }
@@ -168,6 +182,7 @@ double ToNumber(std::string_view text) {
 }
 
 double ToNumber(std::string_view text, const NumberSigns& signs) {
+    if (const auto few = ReadFewDigits(text)) return *few;
     const auto number = ReadDecimal(text, signs);
     if (!number) throw Failure(13, "Numbers", "Type mismatch");
     const auto value = number->Number();
@@ -197,7 +212,8 @@ std::string NumberText(std::int32_t value) {
 std::string NumberText(double value, std::string_view decimal) {
     if (std::isnan(value)) return "NaN";
     if (std::isinf(value)) return value < 0 ? "-Infinity" : "Infinity";
-    if (value == 0) return "0";
+    if (std::fabs(value) < 1e15 && value == std::floor(value))
+        return std::to_string(static_cast<std::int64_t>(value));
 
     // "d.dddddddddddddde+XX": fifteen digits that count and the power of the first.
     char buffer[40];
