@@ -63,7 +63,8 @@ using dbLayoutElementRef = std::shared_ptr<dbLayoutElement>;
 class dbLayoutElements : public KeyedCollection<dbLayoutElement> {
 public:
     /// A new visible element at the end, its transparent colour the button face.
-    dbLayoutElementRef Add(std::int32_t order, std::string_view key, std::int32_t elementType, std::int32_t actionType);
+    dbLayoutElementRef Add(std::int32_t order, std::string_view key, std::int32_t elementType,
+                           std::int32_t actionType);
     void AddObject(dbLayoutElementRef element);
     void AddObjectToFirst(dbLayoutElementRef element);
 };

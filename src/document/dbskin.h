@@ -5,11 +5,14 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "document/dblayouts.h"
 #include "document/dbskinprefs.h"
 
 namespace ornavo {
+
+inline constexpr std::string_view SettingsFileName = "SkinSettings.xml";
 
 class dbSkin {
 public:

@@ -18,6 +18,8 @@ struct Field {
     Value (*get)(const T&);
     void (*set)(T&, const Value&);  // converts; throws a Failure and leaves the field as it was
     bool saved;
+    bool (*take)(T&, std::string_view bytes);      // the short road of TakePlain; false: set has to do it
+    bool (*append)(const T&, std::string& bytes);  // the value in the form of the file, as AppendValue
 };
 
 /// T is Font, dbLayoutElement, dbPoint, dbLayout, dbSkinPref or dbSkin. In declaration order.

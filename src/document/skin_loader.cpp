@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: MIT
+#include <array>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "base/failure.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "document/dbskin.h"
+#include "document/fields.h"
+#include "document/skin_lines.h"
+
+namespace ornavo {
+
+namespace {
+
+/// Finds the field of a line. Lines mostly stand in one order, so the field that followed the last one
+/// when it was seen before is tried first.
+template <class T>
+class FieldFinder {
+public:
+    const Field<T>* Find(std::string_view tag) {
+        const Field<T>* field = next_[last_];
+        if (!field || field->name != tag) {
+            field = FindField<T>(tag);
+            if (!field) return nullptr;
+            next_[last_] = field;
+        }
+        last_ = static_cast<std::size_t>(field - Fields<T>().data()) + 1;
+        return field;
+    }
+    void Restart() { last_ = 0; }
+
+private:
+    std::vector<const Field<T>*> next_ = std::vector<const Field<T>*>(Fields<T>().size() + 1);
+    std::size_t last_ = 0;  // 0 in front of the first field, otherwise one beyond the last one found
+};
+
+using PointsRef = std::shared_ptr<dbPoints>;
+using ElementsRef = std::shared_ptr<dbLayoutElements>;
+using LayoutsRef = std::shared_ptr<dbLayouts>;
+using Object = std::variant<std::monostate, dbSkin*, dbSkinPrefRef, FontRef, LayoutsRef, dbLayoutRef,
+                            PointsRef, dbPointRef, ElementsRef, dbLayoutElementRef>;
+
+/// The objects that are open, the current one on top.
+class LoadStack {
+public:
+    void PushObject(Object object) { objects_.push_back(std::move(object)); }
+    void PopObject() {
+        if (!objects_.empty()) objects_.pop_back();
+    }
+    Object& Current() { return objects_.empty() ? nothing_ : objects_.back(); }
+    Object& ParentObject() { return objects_.size() < 2 ? nothing_ : objects_[objects_.size() - 2]; }
+
+private:
+    std::vector<Object> objects_;
+    Object nothing_;
+};
+
+class Loader {
+public:
+    explicit Loader(dbSkin& skin) : skin_(skin) {}
+    void Load(std::string_view bytes);
+
+private:
+    struct Structure {
+        std::string_view tag;
+        void (Loader::*open)();
+        void (Loader::*close)();
+    };
+    static const std::array<Structure, 10> Structures;
+
+    void ReadLine(std::string_view line);
+    void ReadStructure(std::string_view tag);
+    void AssignToCurrent(std::string_view tag, std::string_view bytes);
+    template <class T>
+    void Assign(FieldFinder<T>& finder, T& object, const TagLine& line);
+
+    void OpenSkin() { stack_.PushObject(&skin_); }
+    void OpenPrefs() {
+        skin_.dbSkinPrefs = std::make_shared<dbSkinPrefs>();
+        stack_.PushObject(skin_.dbLayouts);  // nothing is ever assigned to it
+    }
+    void OpenPref() {
+        prefFields_.Restart();
+        stack_.PushObject(std::make_shared<dbSkinPref>());
+    }
+    void OpenFont() {
+        fontFields_.Restart();
+        stack_.PushObject(std::make_shared<Font>());
+    }
+    void OpenLayouts() {
+        skin_.dbLayouts = std::make_shared<dbLayouts>();
+        stack_.PushObject(skin_.dbLayouts);
+    }
+    void OpenLayout() { stack_.PushObject(std::make_shared<dbLayout>()); }
+    void OpenPoints();
+    void OpenPoint() {
+        pointFields_.Restart();
+        stack_.PushObject(std::make_shared<dbPoint>());
+    }
+    void OpenElements();
+    void OpenElement();
+
+    void Close() { stack_.PopObject(); }
+    void ClosePref();
+    void CloseLayout();
+    void CloseIntoParent();
+    void CloseFont();
+
+    dbSkin& skin_;
+    LoadStack stack_;
+    FieldFinder<dbSkin> skinFields_;
+    FieldFinder<dbSkinPref> prefFields_;
+    FieldFinder<Font> fontFields_;
+    FieldFinder<dbLayout> layoutFields_;
+    FieldFinder<dbPoint> pointFields_;
+    FieldFinder<dbLayoutElement> elementFields_;
+};
+
+const std::array<Loader::Structure, 10> Loader::Structures = {{
+    {"element", &Loader::OpenElement, &Loader::CloseIntoParent},
+    {"font", &Loader::OpenFont, &Loader::CloseFont},
+    {"point", &Loader::OpenPoint, &Loader::CloseIntoParent},
+    {"skinpref", &Loader::OpenPref, &Loader::ClosePref},
+    {"elements", &Loader::OpenElements, &Loader::Close},
+    {"points", &Loader::OpenPoints, &Loader::Close},
+    {"layout", &Loader::OpenLayout, &Loader::CloseLayout},
+    {"layouts", &Loader::OpenLayouts, &Loader::Close},
+    {"skinprefs", &Loader::OpenPrefs, &Loader::Close},
+    {"skin", &Loader::OpenSkin, &Loader::Close},
+}};
+
+void Loader::Load(std::string_view bytes) {
+    const char* at = bytes.data();
+    const char* const end = at + bytes.size();
+    while (at < end) {
+        const auto* stop =
+            static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)));
+        if (!stop) stop = end;
+        ReadLine(std::string_view(at, static_cast<std::size_t>(stop - at)));
+        at = stop + 1;
+    }
+}
+
+void Loader::ReadLine(std::string_view line) {
+    const TagLine parts = GetTag(TrimTag(line));
+    if (parts.tag.empty() || parts.tag[0] == ' ' || parts.tag[0] == '!' || parts.tag[0] == '?') return;
+    if (parts.value)
+        AssignToCurrent(parts.tag, *parts.value);
+    else
+        ReadStructure(parts.tag);
+}
+
+void Loader::ReadStructure(std::string_view tag) {
+    const bool closing = tag[0] == '/';
+    if (closing) tag.remove_prefix(1);
+    for (const Structure& structure : Structures)
+        if (EqualText(structure.tag, tag)) return (this->*(closing ? structure.close : structure.open))();
+}
+
+template <class T>
+void Loader::Assign(FieldFinder<T>& finder, T& object, const TagLine& line) {
+    const Field<T>* field = finder.Find(line.tag);
+    if (!field || field->take(object, *line.value)) return;
+    Attempt([&] { field->set(object, ReadValue(*line.value)); });
+}
+
+void Loader::AssignToCurrent(std::string_view tag, std::string_view bytes) {
+    const TagLine line{tag, bytes};
+    Object& current = stack_.Current();
+    if (auto* element = std::get_if<dbLayoutElementRef>(&current))
+        return Assign(elementFields_, **element, line);
+    if (auto* pref = std::get_if<dbSkinPrefRef>(&current)) return Assign(prefFields_, **pref, line);
+    if (auto* point = std::get_if<dbPointRef>(&current)) return Assign(pointFields_, **point, line);
+    if (auto* font = std::get_if<FontRef>(&current)) return Assign(fontFields_, **font, line);
+    if (auto* layout = std::get_if<dbLayoutRef>(&current)) return Assign(layoutFields_, **layout, line);
+    auto* skin = std::get_if<dbSkin*>(&current);
+    if (!skin) return;
+    // Where the skin lies and whether it was changed is for the program to say, not for a file.
+    const Field<dbSkin>* field = skinFields_.Find(tag);
+    if (field && field->saved) Assign(skinFields_, **skin, line);
+}
+
+// A step that fails is skipped: where there is no layout to give a collection to, what is current is
+// pushed once more, and the closing tag finds its match.
+void Loader::OpenPoints() {
+    Object next = stack_.Current();
+    if (auto* layout = std::get_if<dbLayoutRef>(&next)) {
+        (*layout)->dbPoints = std::make_shared<dbPoints>();
+        next = Object((*layout)->dbPoints);
+    }
+    stack_.PushObject(std::move(next));
+}
+
+void Loader::OpenElements() {
+    Object next = stack_.Current();
+    if (auto* layout = std::get_if<dbLayoutRef>(&next)) {
+        (*layout)->dbLayoutElements = std::make_shared<dbLayoutElements>();
+        next = Object((*layout)->dbLayoutElements);
+    }
+    stack_.PushObject(std::move(next));
+}
+
+void Loader::OpenElement() {
+    elementFields_.Restart();
+    auto element = std::make_shared<dbLayoutElement>();
+    element->Visible = false;
+    stack_.PushObject(std::move(element));
+}
+
+void Loader::ClosePref() {
+    if (auto* pref = std::get_if<dbSkinPrefRef>(&stack_.Current()))
+        Attempt([&] { skin_.dbSkinPrefs->AddObject(*pref); });
+    Close();
+}
+
+void Loader::CloseLayout() {
+    if (auto* layout = std::get_if<dbLayoutRef>(&stack_.Current()))
+        Attempt([&] { skin_.dbLayouts->AddObject(*layout); });
+    Close();
+}
+
+/// Adds the item to the collection when they are of a kind.
+template <class Collection, class Item>
+void AddTo(Object& parent, Object& current) {
+    auto* collection = std::get_if<Collection>(&parent);
+    auto* item = std::get_if<Item>(&current);
+    if (collection && item) Attempt([&] { (*collection)->AddObject(*item); });
+}
+
+void Loader::CloseIntoParent() {
+    Object& parent = stack_.ParentObject();
+    Object& current = stack_.Current();
+    AddTo<ElementsRef, dbLayoutElementRef>(parent, current);
+    AddTo<PointsRef, dbPointRef>(parent, current);
+    AddTo<LayoutsRef, dbLayoutRef>(parent, current);
+    Close();
+}
+
+void Loader::CloseFont() {
+    if (auto* font = std::get_if<FontRef>(&stack_.Current())) {
+        Object& parent = stack_.ParentObject();
+        if (auto* element = std::get_if<dbLayoutElementRef>(&parent)) (*element)->Font = *font;
+        if (auto* pref = std::get_if<dbSkinPrefRef>(&parent)) (*pref)->Font = *font;
+    }
+    Close();
+}
+
+}  // namespace
+
+void dbSkin::LoadSkin() {
+    OldSkinName = SkinName;
+    const std::string file = SkinFile();
+    Attempt([&] {
+        if (!FileExists(file)) throw Failure(513, "LoadSkin", file + " not found!");
+        Loader(*this).Load(ReadFile(file));
+    });
+    if (SkinName == OldSkinName) return;
+    SkinName = CleanFileName(SkinName);
+    if (!IsPlainName(SkinName)) SkinName = OldSkinName;
+}
+
+}  // namespace ornavo
