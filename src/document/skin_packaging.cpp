@@ -86,8 +86,6 @@ std::string SaveSkinPicture(const dbSkin& skin, std::string_view path, bool keep
     std::error_code ignored;
     if (fs::equivalent(source, target, ignored)) return name;
     if (keepExisting && FileExists(folder + name)) return name;
-    // A link in the folder may lead anywhere; a save writes nowhere else.
-    if (fs::is_symlink(fs::symlink_status(target, ignored))) return given;
     return Attempt([&] { CopyFileWhole(source, target); }) ? name : given;
 }
 

@@ -59,12 +59,15 @@ private:
     std::vector<OneLine> lines_;
 };
 
-void AppendFont(std::string& file, int tabs, const FontRef& font) {
+/// Fonts of preferences and of elements stand at different depths.
+template <int Tabs>
+void AppendFont(std::string& file, const FontRef& font) {
+    static const ValueLines<Font> lines(Tabs + 1,
+                                        {"Name", "Size", "Bold", "Italic", "Strikethrough", "Underline"});
     if (!font) return;
-    const ValueLines<Font> lines(tabs + 1, {"Name", "Size", "Bold", "Italic", "Strikethrough", "Underline"});
-    file += Line(tabs, "Font");
+    file += Line(Tabs, "Font");
     lines.Append(file, *font);
-    file += Line(tabs, "/Font");
+    file += Line(Tabs, "/Font");
 }
 
 void AppendPrefs(std::string& file, const dbSkinPrefs& prefs) {
@@ -73,7 +76,7 @@ void AppendPrefs(std::string& file, const dbSkinPrefs& prefs) {
     for (const dbSkinPrefRef& pref : prefs) {
         file += Line(2, "SkinPref");
         lines.Append(file, *pref);
-        AppendFont(file, 3, pref->Font);
+        AppendFont<3>(file, pref->Font);
         file += Line(2, "/SkinPref");
     }
     file += Line(1, "/SkinPrefs");
@@ -158,7 +161,7 @@ void AppendElements(std::string& file, const dbLayoutElements& elements) {
     for (const dbLayoutElementRef& element : InOrder(elements)) {
         file += Line(4, "Element");
         ElementLines().Append(file, *element);
-        AppendFont(file, 5, element->Font);
+        AppendFont<5>(file, element->Font);
         file += Line(4, "/Element");
     }
     file += Line(3, "/Elements");

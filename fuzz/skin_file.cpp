@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// Any bytes as a skin's settings file: nothing breaks, the short roads of reading agree with the long one,
+// and what was loaded and saved once stays the same from then on.
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "base/failure.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "document/current_skin.h"
+#include "document/fields.h"
+#include "document/skin_lines.h"
+
+namespace ornavo {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The real disk but for its waits.
+class QuickLayer : public FileLayer {
+public:
+    void Flush(int) override {}
+    void FlushFolder(const fs::path&) override {}
+};
+
+/// In memory where the system has such a place.
+fs::path MakeFolder() {
+    std::error_code ignored;
+    const fs::path memory = "/dev/shm";
+    std::string name =
+        (fs::is_directory(memory, ignored) ? memory : fs::temp_directory_path()) / "skin_file-XXXXXX";
+    if (!mkdtemp(name.data())) std::abort();
+    return name;
+}
+
+struct Place {
+    fs::path folder = MakeFolder();
+    ~Place() { fs::remove_all(folder); }
+};
+
+void Require(bool holds, const char* what) {
+    if (holds) return;
+    std::fprintf(stderr, "skin_file: %s\n", what);
+    std::abort();
+}
+
+template <class T>
+void Describe(std::string& text, const T& object) {
+    for (const Field<T>& field : Fields<T>()) {
+        const Value value = field.get(object);
+        if (!field.saved || value.Is<FontRef>()) continue;
+        text.append(field.name).append("=").append(value.ToText()).append("\n");
+    }
+    if constexpr (requires { object.Font->Name; })
+        if (object.Font) Describe(text.append("Font\n"), *object.Font);
+}
+
+std::string Describe(const dbSkin& skin) {
+    std::string text;
+    Describe<dbSkin>(text, skin);
+    for (const dbSkinPrefRef& pref : *skin.dbSkinPrefs) Describe(text, *pref);
+    for (const dbLayoutRef& layout : *skin.dbLayouts) {
+        Describe(text, *layout);
+        for (const dbPointRef& point : *layout->dbPoints) Describe(text, *point);
+        for (const dbLayoutElementRef& element : *layout->dbLayoutElements) Describe(text, *element);
+    }
+    return text;
+}
+
+/// Gaps in the orders lose items at each save, as they must; here it is the rest that counts.
+void Renumber(const dbSkin& skin) {
+    for (const dbLayoutRef& layout : *skin.dbLayouts) {
+        std::int32_t order = 0;
+        for (const dbPointRef& point : *layout->dbPoints) point->Order = ++order;
+        order = 0;
+        for (const dbLayoutElementRef& element : *layout->dbLayoutElements) element->Order = ++order;
+    }
+}
+
+/// The skin of that folder and name as its file has it.
+dbSkinRef Load(const fs::path& base, const std::string& name) {
+    objSkin = std::make_shared<dbSkin>();
+    objSkin->dbSkinPrefs =
+        std::make_shared<dbSkinPrefs>();  // the catalogue alone would take most of the time
+    objSkin->SetBasePath(ToText(base));
+    objSkin->SkinName = name;
+    objSkin->LoadSkin();
+    Renumber(*objSkin);
+    return objSkin;
+}
+
+/// A name that no folder can have is refused; then there is nothing to come back to.
+bool Save(dbSkin& skin) {
+    const std::string before = Describe(skin);
+    if (Attempt([&] { skin.SaveSkin(false); })) return true;
+    Require(Describe(skin) == before, "a refused save has changed the skin");
+    return false;
+}
+
+void CompareRoads(std::string_view bytes) {
+    for (const Field<dbLayoutElement>& field : Fields<dbLayoutElement>()) {
+        dbLayoutElement quick, general;
+        if (!field.take(quick, bytes)) continue;
+        field.set(general, ReadValue(bytes));
+        Require(field.get(quick) == field.get(general), "the two roads read a value differently");
+    }
+}
+
+void RoundTrip(const fs::path& base, std::string_view bytes) {
+    fs::create_directory(base / "Fuzz");
+    ReplaceFile(base / "Fuzz" / SettingsFileName, bytes);
+    const dbSkinRef first = Load(base, "Fuzz");
+    Require(IsPlainName(first->SkinName), "a file has given a name that is none");
+    if (!Save(*first)) return;
+    const dbSkinRef second = Load(base, first->SkinName);
+    const std::string expected = Describe(*second);
+    if (!Save(*second)) return;
+    const dbSkinRef third = Load(base, second->SkinName);
+    Require(Describe(*third) == expected, "what was saved comes back changed");
+}
+
+}  // namespace
+}  // namespace ornavo
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace ornavo;
+    static QuickLayer layer;
+    static const Place place;
+    UseFileLayer(&layer);
+    UseNumberSigns(size % 2 == 0 ? NumberSigns{} : NumberSigns{",", "."});
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    CompareRoads(bytes.substr(0, 40));
+    RoundTrip(place.folder, bytes);
+    for (const auto& entry : std::filesystem::directory_iterator(place.folder))
+        std::filesystem::remove_all(entry.path());
+    return 0;
+}
