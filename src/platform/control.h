@@ -13,8 +13,8 @@ namespace ornavo {
 class Control;
 
 struct Mouse {
-    int button = 0;  // 1 left, 2 right, 4 middle; on a move the mask of those held
-    int shift = 0;   // 1 Shift, 2 Ctrl, 4 Alt
+    int button = 0;    // 1 left, 2 right, 4 middle; on a move the mask of those held
+    int shift = 0;     // 1 Shift, 2 Ctrl, 4 Alt
     int x = 0, y = 0;  // pixels of the control
 };
 
@@ -47,7 +47,8 @@ public:
     Colour BackColor() const { return backColor_; }
     virtual void SetBackColor(Colour colour);
 
-    /// 0 the default, 2 cross, 6 and 8 the diagonals, 7 and 9 up-down and left-right, 15 size all, 11 hourglass.
+    /// 0 the default, 2 cross, 6 and 8 the diagonals, 7 and 9 up-down and left-right, 15 size all, 11
+    /// hourglass.
     void SetMousePointer(int shape);
 
 protected:
@@ -60,6 +61,7 @@ protected:
 private:
     ControlEvents* events_ = nullptr;
     Colour backColor_ = ButtonFace;
+    int pointer_ = 0;
 };
 
 QColor ScreenColour(Colour colour);  // translated; black for what is no colour

@@ -31,6 +31,10 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
+    void PlaceAcross();
+    void PlaceDown();
+    void LayInnerLine();
+
     int x1_ = 0, y1_ = 0, x2_ = 0, y2_ = 0;
     Rect inner_;
 };

@@ -2,6 +2,7 @@
 // A top-level window whose rectangle is kept in twips.
 #pragma once
 
+#include <QPoint>
 #include <QWidget>
 #include <string>
 
@@ -24,7 +25,7 @@ public:
     Form(QWidget* owner, std::string name, Qt::WindowFlags flags);
 
     std::string Name;
-    int ScaleWidth() const { return width(); }    // inner size, pixels
+    int ScaleWidth() const { return width(); }  // inner size, pixels
     int ScaleHeight() const { return height(); }
     /// The outer rectangle in twips: frame and title by screenMetrics. Of a maximised window the normal one.
     Rect TwipBounds() const;
@@ -40,6 +41,9 @@ protected:
     virtual void Form_Unload() {}  // the window closes
     void resizeEvent(QResizeEvent*) override;
     void closeEvent(QCloseEvent*) override;
+
+private:
+    QPoint frame_;  // from the frame's corner to the inside, when last seen in the normal state
 };
 
 }  // namespace ornavo

@@ -16,7 +16,7 @@ public:
 
     void SetPicture(PictureRef picture);  // at the box's top left, natural size; null for none
     const PictureRef& GetPicture() const { return picture_; }
-    void Cls();                           // empties the drawn layer
+    void Cls();  // empties the drawn layer
     /// Draws into the layer, which has the box's size.
     void Draw(const std::function<void(QPainter&)>& drawing);
     /// A single line of text, its rectangle's top left given; nothing is broken, "&" is a character.

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 namespace ornavo {
 
@@ -19,6 +20,25 @@ struct Picture {
     std::filesystem::path path;  // where it came from
 };
 using PictureRef = std::shared_ptr<const Picture>;
+
+/// A share of PictureByteLimit, held while pixels are in use and given back with it.
+class PictureMemory {
+public:
+    PictureMemory() = default;
+    PictureMemory(PictureMemory&& other) noexcept : bytes_(std::exchange(other.bytes_, 0)) {}
+    PictureMemory& operator=(PictureMemory&& other) noexcept {
+        std::swap(bytes_, other.bytes_);
+        return *this;
+    }
+    ~PictureMemory() { Give(); }
+    /// For so many pixels; empty where one of the limits stands against it.
+    static PictureMemory Take(std::int64_t pixels);
+    void Give();
+    explicit operator bool() const { return bytes_ > 0; }
+
+private:
+    std::int64_t bytes_ = 0;
+};
 
 /// Null for what is no picture, is too large (refused before memory is taken) or can't be read.
 PictureRef LoadPicture(const std::filesystem::path& path);

@@ -25,9 +25,13 @@ struct Setting {
     T Read() const;
     void Write(const T& value) const;
 };
-template <> int Setting<int>::Read() const;
-template <> void Setting<int>::Write(const int& value) const;
-template <> bool Setting<bool>::Read() const;      // "True", "False", or a number
-template <> void Setting<bool>::Write(const bool& value) const;
+template <>
+int Setting<int>::Read() const;
+template <>
+void Setting<int>::Write(const int& value) const;
+template <>
+bool Setting<bool>::Read() const;  // "True", "False", or a number
+template <>
+void Setting<bool>::Write(const bool& value) const;
 
 }  // namespace ornavo

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Text on the canvas: a label without ground, and a box with one line of text that can be edited.
+// Text on the canvas: a box with one line of text that can be edited.
 #pragma once
+
+#include <QPalette>
 
 #include "base/font.h"
 #include "platform/control.h"
@@ -21,11 +23,18 @@ public:
     QLineEdit& Edit() { return *edit_; }
 
 protected:
+    void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
-    bool eventFilter(QObject*, QEvent*) override;  // the edit's mouse goes to the listener
+    bool eventFilter(QObject*, QEvent*) override;  // the edit's mouse goes to the listener;
+                                                   // the edit has it too unless it is read-only
 
 private:
+    void Paint(QPalette::ColorRole role, Colour colour);
+    void PlaceEdit();
+
     QLineEdit* edit_;
+    ornavo::Font font_;
+    int borderStyle_ = 0;
 };
 
 }  // namespace ornavo

@@ -9,8 +9,6 @@
 #include "platform/control.h"
 #include "platform/tile_face.h"
 
-class QMovie;
-
 namespace ornavo {
 
 class TileButton : public Control {
@@ -19,12 +17,12 @@ public:
     TileButton(QWidget* parent, std::string name, int index = 0);
     ~TileButton() override;
 
-    TileState State;       // takes effect at Refresh
-    TileLayers Elements;   // the same
+    TileState State;      // takes effect at Refresh
+    TileLayers Elements;  // the same
     PictureRef Picture, PictureOver, PictureDown;
     std::string AniPicture, AniPictureOver, AniPictureDown;  // full paths of animated GIFs; "" for none. An
                                                              // animated picture goes before the plain one
-    bool Repeats = false;  // while held: after 300 ms, then every 100 ms
+    bool Repeats = false;                                    // while held: after 300 ms, then every 100 ms
 
     /// Reads back the colour that the control found when the top left pixel rules.
     Colour TransparentColor() const;
@@ -44,12 +42,16 @@ protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
     void showEvent(QShowEvent*) override;
     void hideEvent(QHideEvent*) override;
     void resizeEvent(QResizeEvent*) override;
 
 private:
     struct Look;
+    void ShowSource();
+    void FollowMouse(bool over, bool pressed, bool inside);
+
     std::unique_ptr<Look> look_;  // what was last drawn, and how it is drawn at present
 };
 

@@ -14,7 +14,9 @@
 
 namespace ornavo {
 
-/// One layer over the button's picture: a text or a small picture.
+/// One layer over the button's picture: a text or a small picture. Its area reaches from Left to the button's
+/// width less RightTrim. Alignment is meant within that area: a layer that is centred moves by half of Left,
+/// one at the right end is not moved by it. A text that is wider than its area is cut at the area's ends.
 struct TileLayer {
     std::string Key;
     std::string Text;
@@ -22,11 +24,12 @@ struct TileLayer {
     bool IsText = true;
     ornavo::Font Font;
     Colour ForeColor = 0;
-    int Alignment = 2;           // 0 left, 1 right, 2 centre
-    float Left = 0, Top = 0;     // pixels from the button's left and top
-    float RightTrim = 0;         // pixels at the right end of the text area
-    float Height = 0;            // pixels of the text area; its text starts at Top
+    int Alignment = 2;        // 0 left, 1 right, 2 centre
+    float Left = 0, Top = 0;  // pixels from the button's left and top
+    float RightTrim = 0;      // pixels at the right end of the text area
+    float Height = 0;         // pixels of the text area; its text starts at Top
     bool Visible = true;
+    bool operator==(const TileLayer&) const = default;
 };
 
 /// The layers of a button, by key without regard to case, drawn in order.
@@ -39,6 +42,7 @@ public:
     int Count() const { return static_cast<int>(layers_.size()); }
     auto begin() const { return layers_.begin(); }
     auto end() const { return layers_.end(); }
+    bool operator==(const TileLayers&) const = default;
 
 private:
     std::vector<TileLayer> layers_;
@@ -47,29 +51,35 @@ private:
 /// Everything that a button's look depends on but its size and which of its pictures is shown.
 struct TileState {
     Colour BackColor = ButtonFace;
-    int BackStyle = 1;               // 0 transparent, 1 opaque
-    bool ShowBorder = false;         // one pixel, inside the control
+    int BackStyle = 1;        // 0 transparent, 1 opaque
+    bool ShowBorder = false;  // one pixel, inside the control
     Colour BorderColor = 0;
     bool UseTransparency = false;    // the key colour of the picture is not drawn
     bool TransColorTopLeft = false;  // it is that of the shown picture's top left pixel, as decoded
     Colour TransparentColor = ButtonFace;
     bool ShowSmooth = false;
     bool UseRotation = false;
-    double Rotation = 0;             // degrees clockwise about the middle, in the control's own size
-    bool UseShadow = false;          // under text layers
-    int ShadowDistance = 0;          // pixels right and down
+    double Rotation = 0;     // degrees clockwise about the middle, in the control's own size
+    bool UseShadow = false;  // under text layers
+    int ShadowDistance = 0;  // pixels right and down
     Colour ShadowColor = 0;
+    bool operator==(const TileState&) const = default;
 };
+
+/// A finished picture never has more pixels; what is larger is painted directly.
+inline constexpr std::int64_t FinishedPixelLimit = 16'000'000;
 
 /// The key colour that the picture really uses: its top left pixel or the one given.
 Colour KeyColourOf(const TileState& state, const QImage& picture);
 
-/// The picture keyed, stretched to the size, rotated; premultiplied. Keyed first, then stretched.
-QImage FinishedPicture(const QImage& picture, const TileState& state, Size size);
+/// The picture keyed, stretched to the size, rotated. Keyed first, then stretched. The picture is RGB32 or
+/// premultiplied ARGB32, and so is the result. `scale` is the number of screen pixels to a pixel of the
+/// skin; without smoothness each of these is a square of one colour. Null beyond FinishedPixelLimit.
+QImage FinishedPicture(const QImage& picture, const TileState& state, Size size, int scale = 1);
 
 /// The whole face. `picture` is the one to show, may be null. `finished`, when not null, is used in place of
-/// FinishedPicture (the widget's cache).
-void PaintTile(QPainter& painter, const TileState& state, const TileLayers& layers, Size size, const QImage* picture,
-               const QImage* finished = nullptr);
+/// FinishedPicture (the widget's cache). Opaque without a picture it is a plain raised face.
+void PaintTile(QPainter& painter, const TileState& state, const TileLayers& layers, Size size,
+               const QImage* picture, const QImage* finished = nullptr);
 
 }  // namespace ornavo

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "platform/control.h"
+
+#include <QMouseEvent>
+#include <algorithm>
+#include <array>
+
+#include "base/failure.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int MostPixels = (1 << 24) - 1;  // a place or size beyond it is cut to it
+
+struct Pointer {
+    int shape;
+    Qt::CursorShape cursor;
+};
+constexpr std::array Pointers = {
+    Pointer{1, Qt::ArrowCursor},     Pointer{2, Qt::CrossCursor},      Pointer{3, Qt::IBeamCursor},
+    Pointer{5, Qt::SizeAllCursor},   Pointer{6, Qt::SizeBDiagCursor},  Pointer{7, Qt::SizeVerCursor},
+    Pointer{8, Qt::SizeFDiagCursor}, Pointer{9, Qt::SizeHorCursor},    Pointer{10, Qt::UpArrowCursor},
+    Pointer{11, Qt::WaitCursor},     Pointer{12, Qt::ForbiddenCursor}, Pointer{15, Qt::SizeAllCursor},
+};
+
+/// Ours and Qt's codes of buttons and keys; those of the buttons are the same.
+Mouse MouseOf(const QMouseEvent& event, int button) {
+    const Qt::KeyboardModifiers keys = event.modifiers();
+    const int shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
+                      (keys & Qt::AltModifier ? 4 : 0);
+    const QPoint at = event.position().toPoint();
+    return {button, shift, at.x(), at.y()};
+}
+
+}  // namespace
+
+Control::Control(QWidget* parent, std::string name, int index)
+    : QWidget(parent), Name(std::move(name)), Index(index) {
+    setObjectName(QString::fromStdString(Name));
+    setMouseTracking(true);
+}
+
+Rect Control::Bounds() const {
+    const QRect at = geometry();
+    return {at.x(), at.y(), at.width(), at.height()};
+}
+
+void Control::Move(const Rect& bounds) {
+    if (bounds.width < 0 || bounds.height < 0) throw Failure(380, Name, "Invalid property value");
+    if (bounds == Bounds()) return;
+    setGeometry(std::clamp(bounds.left, -MostPixels, MostPixels),
+                std::clamp(bounds.top, -MostPixels, MostPixels), std::min(bounds.width, MostPixels),
+                std::min(bounds.height, MostPixels));
+}
+
+void Control::ZOrder() {
+    raise();
+}
+
+void Control::Refresh() {
+    update();
+}
+
+void Control::SetBackColor(Colour colour) {
+    if (colour == backColor_) return;
+    backColor_ = colour;
+    update();
+}
+
+void Control::SetMousePointer(int shape) {
+    if (shape == pointer_) return;
+    pointer_ = shape;
+    const auto found = std::find_if(Pointers.begin(), Pointers.end(),
+                                    [shape](const Pointer& one) { return one.shape == shape; });
+    if (found == Pointers.end())
+        unsetCursor();
+    else
+        setCursor(found->cursor);
+}
+
+void Control::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    if (events_) events_->MouseDown(*this, MouseOf(*event, event->button()));
+}
+
+void Control::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    if (events_) events_->MouseMove(*this, MouseOf(*event, event->buttons()));
+}
+
+void Control::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    if (events_) events_->MouseUp(*this, MouseOf(*event, event->button()));
+}
+
+void Control::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+    if (events_) events_->DblClick(*this);
+}
+
+QColor ScreenColour(Colour colour) {
+    const Colour plain = TranslateColor(colour);
+    if (plain < 0) return Qt::black;
+    return QColor(RedOf(plain), GreenOf(plain), BlueOf(plain));
+}
+
+}  // namespace ornavo

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "platform/dbline.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
+namespace ornavo {
+namespace {
+
+constexpr int Spare = 2;  // keeps the control of a level or upright line from being empty
+
+int Extent(int one, int two) {
+    const std::int64_t distance = std::abs(std::int64_t{one} - two);
+    return static_cast<int>(std::min<std::int64_t>(distance, std::numeric_limits<int>::max() - Spare));
+}
+
+}  // namespace
+
+dbLine::dbLine(QWidget* parent, std::string name, int index) : Control(parent, std::move(name), index) {
+    MoveTo(0, 0, 0, 0);
+}
+
+void dbLine::SetX1(int x) {
+    x1_ = x;
+    PlaceAcross();
+}
+
+void dbLine::SetX2(int x) {
+    x2_ = x;
+    PlaceAcross();
+}
+
+void dbLine::SetY1(int y) {
+    y1_ = y;
+    PlaceDown();
+}
+
+void dbLine::SetY2(int y) {
+    y2_ = y;
+    PlaceDown();
+}
+
+void dbLine::PlaceAcross() {
+    const Rect now = Bounds();
+    Move({std::min(x1_, x2_), now.top, Extent(x1_, x2_) + Spare, now.height});
+    LayInnerLine();
+}
+
+void dbLine::PlaceDown() {
+    const Rect now = Bounds();
+    Move({now.left, std::min(y1_, y2_), now.width, Extent(y1_, y2_) + Spare});
+    LayInnerLine();
+}
+
+void dbLine::MoveTo(int x1, int y1, int x2, int y2) {
+    x1_ = x1, y1_ = y1, x2_ = x2, y2_ = y2;
+    Move({std::min(x1, x2), std::min(y1, y2), Extent(x1, x2) + Spare, Extent(y1, y2) + Spare});
+    LayInnerLine();
+}
+
+/// From corner to corner, in the direction of the ends.
+void dbLine::LayInnerLine() {
+    const int width = Extent(x1_, x2_), height = Extent(y1_, y2_);
+    const Rect before = inner_;
+    inner_.left = x1_ >= x2_ ? width : 0;
+    inner_.width = x1_ >= x2_ ? -width : width;
+    inner_.top = y1_ >= y2_ ? height : 0;
+    inner_.height = y1_ >= y2_ ? -height : height;
+    if (inner_ != before) update();
+}
+
+void dbLine::resizeEvent(QResizeEvent*) {
+    LayInnerLine();
+}
+
+void dbLine::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(QPen(ScreenColour(BorderColor), BorderWidth));
+    painter.drawLine(inner_.left, inner_.top, inner_.left + inner_.width, inner_.top + inner_.height);
+}
+
+}  // namespace ornavo

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "platform/fonts.h"
+
+#include <QFontDatabase>
+#include <algorithm>
+#include <array>
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "platform/symbol_fonts.h"
+
+namespace ornavo {
+namespace {
+
+constexpr const char* DefaultFace = "Tahoma";
+constexpr const char* LastResort = "DejaVu Sans";
+constexpr const char* SymbolFace = "Symbola";
+constexpr double DotsPerPoint = 96.0 / 72.0;
+constexpr double MostPoints = 2000;
+
+struct StandIn {
+    const char* asked;
+    const char* used;
+    int stretch = QFont::AnyStretch;  // where the stand-in runs wider than what was asked
+};
+
+constexpr std::array StandIns = {
+    StandIn{"Tahoma", "DejaVu Sans", QFont::SemiCondensed},
+    StandIn{"MS Sans Serif", "DejaVu Sans", QFont::SemiCondensed},
+    StandIn{"MS Shell Dlg", "DejaVu Sans", QFont::SemiCondensed},
+    StandIn{"Microsoft Sans Serif", "DejaVu Sans", QFont::SemiCondensed},
+    StandIn{"Segoe UI", "DejaVu Sans", QFont::SemiCondensed},
+    StandIn{"Trebuchet MS", "DejaVu Sans", QFont::SemiCondensed},
+    StandIn{"Verdana", "DejaVu Sans"},
+    StandIn{"Lucida Console", "DejaVu Sans Mono"},
+    StandIn{"Arial", "Liberation Sans"},
+    StandIn{"Helvetica", "Liberation Sans"},
+    StandIn{"Arial Narrow", "Liberation Sans Narrow"},
+    StandIn{"Times", "Liberation Serif"},
+    StandIn{"Times New Roman", "Liberation Serif"},
+    StandIn{"Georgia", "DejaVu Serif"},
+    StandIn{"Courier", "Liberation Mono"},
+    StandIn{"Courier New", "Liberation Mono"},
+    StandIn{"Fixedsys", "Liberation Mono"},
+};
+
+const StandIn* StandInOf(std::string_view name) {
+    const auto found = std::find_if(StandIns.begin(), StandIns.end(),
+                                    [&](const StandIn& one) { return EqualText(one.asked, name); });
+    return found == StandIns.end() ? nullptr : &*found;
+}
+
+/// A name that is none gives the default face.
+std::string FaceOf(std::string_view name) {
+    const std::string_view face = TrimBlanks(name);
+    return face.empty() || IsNumeric(face) ? DefaultFace : std::string(face);
+}
+
+int PixelSize(double points) {
+    const double known = points > 0 ? std::min(points, MostPoints) : 0;  // no number is 0 too
+    return std::max(1, static_cast<int>(std::lround(known * DotsPerPoint)));
+}
+
+}  // namespace
+
+QFont ScreenFont(const Font& font) {
+    const std::string face = FaceOf(font.Name);
+    const bool symbols = IsSymbolFont(face);
+    QFont screen;
+    screen.setFamilies({symbols ? QString(SymbolFace) : QString::fromStdString(face), QString(LastResort)});
+    screen.setPixelSize(PixelSize(font.Size));
+    const StandIn* standIn = StandInOf(face);
+    if (standIn && standIn->stretch != QFont::AnyStretch &&
+        !QFontDatabase::hasFamily(screen.families().front()))
+        screen.setStretch(standIn->stretch);
+    screen.setBold(font.Bold);
+    screen.setItalic(font.Italic);
+    screen.setUnderline(font.Underline);
+    screen.setStrikeOut(font.Strikethrough);
+    screen.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    screen.setHintingPreference(QFont::PreferVerticalHinting);
+    return screen;
+}
+
+QString ShownText(const Font& font, std::string_view text) {
+    const QString plain = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const std::string face = FaceOf(font.Name);
+    return IsSymbolFont(face) ? SymbolText(face, plain) : plain;
+}
+
+void InstallFontSubstitutes() {
+    for (const StandIn& one : StandIns) QFont::insertSubstitutions(one.asked, {one.used, LastResort});
+}
+
+}  // namespace ornavo

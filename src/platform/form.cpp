@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "platform/form.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+
+namespace ornavo {
+namespace {
+
+constexpr int MostPixels = 8192;      // each way, inside
+constexpr QSize Graspable = {64, 8};  // so much of the title must lie on a screen
+ScreenMetrics metrics;
+
+int FrameWidth() {
+    return 2 * metrics.SM_CXFRAME;
+}
+
+int FrameHeight() {
+    return 2 * metrics.SM_CYFRAME + metrics.SM_CYSIZE + 1;
+}
+
+int Pixels(int twips) {
+    return static_cast<int>(std::lround(twips / static_cast<double>(TwipsPerPixel)));
+}
+
+bool CanBeGrasped(const QRect& title) {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        const QRect seen = screen->availableGeometry() & title;
+        return seen.width() >= std::min(Graspable.width(), title.width()) &&
+               seen.height() >= Graspable.height();
+    });
+}
+
+/// The corner of a window of that outer size, moved onto the first screen if its title can't be grasped.
+QPoint VisibleCorner(QPoint corner, const QSize& outer) {
+    const QScreen* first = QGuiApplication::primaryScreen();
+    if (!first || CanBeGrasped({corner, QSize(outer.width(), metrics.SM_CYSIZE)})) return corner;
+    const QRect room = first->availableGeometry();
+    const auto within = [](int at, int low, int high) { return std::max(low, std::min(at, high)); };
+    return {within(corner.x(), room.left(), room.right() + 1 - outer.width()),
+            within(corner.y(), room.top(), room.bottom() + 1 - outer.height())};
+}
+
+}  // namespace
+
+const ScreenMetrics& screenMetrics() {
+    return metrics;
+}
+
+void GetScreenMetrics() {
+    const QScreen* first = QGuiApplication::primaryScreen();
+    if (!first) return;
+    metrics.SM_CXSCREEN = first->size().width();
+    metrics.SM_CYSCREEN = first->size().height();
+    metrics.SM_CXFULLSCREEN = first->availableSize().width();
+    metrics.SM_CYFULLSCREEN = first->availableSize().height() - metrics.SM_CYSIZE;
+}
+
+Form::Form(QWidget* owner, std::string name, Qt::WindowFlags flags)
+    : QWidget(owner, flags), Name(std::move(name)) {
+    setObjectName(QString::fromStdString(Name));
+}
+
+Rect Form::TwipBounds() const {
+    const bool normal = !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen));
+    const QRect inside = normal ? geometry() : normalGeometry();
+    const QPoint corner = normal ? pos() : inside.topLeft() - frame_;
+    return {corner.x() * TwipsPerPixel, corner.y() * TwipsPerPixel,
+            (inside.width() + FrameWidth()) * TwipsPerPixel,
+            (inside.height() + FrameHeight()) * TwipsPerPixel};
+}
+
+void Form::MoveTwips(const Rect& twips) {
+    const QSize inside(std::clamp(Pixels(twips.width) - FrameWidth(), 1, MostPixels),
+                       std::clamp(Pixels(twips.height) - FrameHeight(), 1, MostPixels));
+    const QSize outer = inside + QSize(FrameWidth(), FrameHeight());
+    resize(inside);
+    move(VisibleCorner({Pixels(twips.left), Pixels(twips.top)}, outer));
+}
+
+int Form::WindowState() const {
+    const Qt::WindowStates states = windowState();
+    if (states & Qt::WindowMinimized) return StateMinimised;
+    return states & Qt::WindowMaximized ? StateMaximised : StateNormal;
+}
+
+void Form::SetWindowState(int state) {
+    constexpr Qt::WindowStates all = Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen;
+    Qt::WindowStates wanted = windowState() & ~all;
+    if (state == StateMinimised) wanted |= Qt::WindowMinimized;
+    if (state == StateMaximised) wanted |= Qt::WindowMaximized;
+    setWindowState(wanted);
+}
+
+bool Form::event(QEvent* event) {
+    const bool taken = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate) Form_Activate();
+    if (event->type() == QEvent::Move && WindowState() == StateNormal) frame_ = geometry().topLeft() - pos();
+    return taken;
+}
+
+void Form::resizeEvent(QResizeEvent*) {
+    Form_Resize();
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    Form_Unload();
+    QWidget::closeEvent(event);
+}
+
+}  // namespace ornavo

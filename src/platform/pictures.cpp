@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pictures.h"
+
+#include <QImageReader>
+#include <array>
+#include <atomic>
+#include <list>
+#include <map>
+
+namespace ornavo {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::int64_t KeptBytes = std::int64_t{64} << 20;  // of pictures that nobody holds at present
+constexpr int DecoderMegabytes = 256;                       // PicturePixelLimit at 4 bytes fits in
+
+std::int64_t bytesInUse = 0;
+
+/// A file as it was when it was read. A changed one differs in size or time.
+struct Stamp {
+    std::string path;
+    std::uintmax_t size = 0;
+    fs::file_time_type time;
+    auto operator<=>(const Stamp&) const = default;
+};
+
+struct Shelf {
+    std::map<Stamp, std::weak_ptr<const Picture>> known;
+    std::list<PictureRef> kept;  // the last used in front
+    std::int64_t keptBytes = 0;
+};
+
+Shelf& shelf() {
+    static Shelf only;
+    return only;
+}
+
+/// False for what is not there or is no plain file: a pipe would never end, a folder has no bytes.
+bool StampOf(const fs::path& path, Stamp& stamp) {
+    std::error_code error;
+    if (!fs::is_regular_file(path, error) || error) return false;
+    stamp.path = path.string();
+    stamp.size = fs::file_size(path, error);
+    if (error) return false;
+    stamp.time = fs::last_write_time(path, error);
+    return !error;
+}
+
+QString FileName(const fs::path& path) {
+    return QString::fromStdString(path.string());
+}
+
+std::int64_t PixelsOf(const QSize& size) {
+    return std::int64_t{size.width()} * size.height();
+}
+
+void PrepareReader(QImageReader& reader) {
+    QImageReader::setAllocationLimit(DecoderMegabytes);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(false);
+}
+
+void DropUntil(std::int64_t most) {
+    Shelf& all = shelf();
+    while (all.keptBytes > most && !all.kept.empty()) {
+        all.keptBytes -= all.kept.back()->image.sizeInBytes();
+        all.kept.pop_back();
+    }
+}
+
+void Keep(const PictureRef& picture) {
+    Shelf& all = shelf();
+    const auto there = std::find(all.kept.begin(), all.kept.end(), picture);
+    if (there != all.kept.end()) {
+        all.kept.splice(all.kept.begin(), all.kept, there);
+        return;
+    }
+    all.kept.push_front(picture);
+    all.keptBytes += picture->image.sizeInBytes();
+    DropUntil(KeptBytes);
+}
+
+QImage Decoded(QImageReader& reader) {
+    QImage image;
+    reader.read(&image);  // of a truncated file it may have a part in spite of a failure
+    if (image.isNull() || PixelsOf(image.size()) > PicturePixelLimit) return {};
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    image.setDevicePixelRatio(1);
+    return image;
+}
+
+PictureRef Decode(const fs::path& path) {
+    QImageReader reader(FileName(path));
+    PrepareReader(reader);
+    const QSize size = reader.size();
+    const std::int64_t pixels = size.isValid() ? PixelsOf(size) : PicturePixelLimit;
+    PictureMemory memory = PictureMemory::Take(pixels);
+    if (!memory) return nullptr;
+    QImage image = Decoded(reader);
+    memory.Give();
+    if (image.isNull()) return nullptr;
+    memory = PictureMemory::Take(PixelsOf(image.size()));
+    if (!memory) return nullptr;
+    struct Counted {
+        Picture picture;
+        PictureMemory memory;
+    };
+    auto counted = std::make_shared<Counted>(Counted{{std::move(image), path}, std::move(memory)});
+    return PictureRef(counted, &counted->picture);
+}
+
+}  // namespace
+
+PictureMemory PictureMemory::Take(std::int64_t pixels) {
+    PictureMemory memory;
+    if (pixels <= 0 || pixels > PicturePixelLimit) return memory;
+    const std::int64_t bytes = pixels * 4;
+    if (bytesInUse + bytes > PictureByteLimit) DropUntil(0);
+    if (bytesInUse + bytes > PictureByteLimit) return memory;
+    bytesInUse += bytes;
+    memory.bytes_ = bytes;
+    return memory;
+}
+
+void PictureMemory::Give() {
+    bytesInUse -= std::exchange(bytes_, 0);
+}
+
+PictureRef LoadPicture(const fs::path& path) {
+    Stamp stamp;
+    if (!StampOf(path, stamp)) return nullptr;
+    std::weak_ptr<const Picture>& known = shelf().known[stamp];
+    PictureRef picture = known.lock();
+    if (!picture) known = picture = Decode(path);
+    if (picture) Keep(picture);
+    return picture;
+}
+
+bool IsAnimatedGIF(const fs::path& path) {
+    Stamp stamp;
+    if (!StampOf(path, stamp)) return false;
+    QImageReader reader(FileName(path));
+    PrepareReader(reader);
+    if (reader.format() != "gif" || !reader.supportsAnimation()) return false;
+    const QSize size = reader.size();
+    return size.isValid() && PixelsOf(size) <= PicturePixelLimit && reader.imageCount() > 1;
+}
+
+}  // namespace ornavo

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "platform/tile_button.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <array>
+
+#include "platform/tile_cache.h"
+#include "platform/tile_movie.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int FirstRepeat = 300, NextRepeat = 100;  // milliseconds
+enum Kind { Normal, Over, Down };
+
+}  // namespace
+
+struct TileButton::Look {
+    struct Source {
+        PictureRef picture;
+        std::string animated;
+        bool IsEmpty() const { return !picture && animated.empty(); }
+        bool operator==(const Source&) const = default;
+    };
+    TileState state;
+    TileLayers layers;
+    std::array<Source, 3> sources;  // by Kind
+    std::unique_ptr<TileMovie> movie;
+    QImage frame;  // finished picture of the movie's present frame; null until it is painted
+    Size frameSize;
+    QTimer repeat;
+    bool over = false;
+    bool pressed = false;
+    bool inside = false;
+
+    /// The one that the mouse asks for, the normal one where there is none.
+    const Source& Shown() const {
+        const Kind kind = pressed && inside ? Down : over ? Over : Normal;
+        return sources[kind].IsEmpty() ? sources[Normal] : sources[kind];
+    }
+    const QImage* ShownImage() const {
+        if (movie) return &movie->Frame();
+        const Source& shown = Shown();
+        return shown.picture ? &shown.picture->image : nullptr;
+    }
+};
+
+TileButton::TileButton(QWidget* parent, std::string name, int index)
+    : Control(parent, std::move(name), index), look_(std::make_unique<Look>()) {
+    look_->repeat.setParent(this);
+    connect(&look_->repeat, &QTimer::timeout, this, [this] {
+        look_->repeat.setInterval(NextRepeat);
+        if (events()) events()->Repeat(*this);
+    });
+}
+
+TileButton::~TileButton() {
+    look_->repeat.setParent(nullptr);  // it is freed with the look
+}
+
+bool TileButton::IsAnimatedGIF(const std::string& path) const {
+    return ornavo::IsAnimatedGIF(path);
+}
+
+Colour TileButton::TransparentColor() const {
+    const Look::Source& normal = look_->sources[Normal];
+    if (look_->movie && look_->movie->Path() == normal.animated)
+        return KeyColourOf(look_->state, look_->movie->Frame());
+    return KeyColourOf(look_->state, normal.picture ? normal.picture->image : QImage());
+}
+
+void TileButton::Refresh() {
+    // An animated picture goes before the plain one.
+    const auto source = [](const PictureRef& picture, const std::string& animated) {
+        return Look::Source{animated.empty() ? picture : nullptr, animated};
+    };
+    std::array<Look::Source, 3> sources = {source(Picture, AniPicture), source(PictureOver, AniPictureOver),
+                                           source(PictureDown, AniPictureDown)};
+    const bool fileChanged = look_->movie && look_->movie->IsStale();
+    if (State == look_->state && Elements == look_->layers && sources == look_->sources && !fileChanged)
+        return;
+    look_->state = State;
+    look_->layers = Elements;
+    look_->sources = std::move(sources);
+    look_->frame = QImage();
+    if (fileChanged) look_->movie.reset();
+    ShowSource();
+    update();
+}
+
+/// Lets the movie of the shown picture run, if it is one and can be seen.
+void TileButton::ShowSource() {
+    const std::string& path = look_->Shown().animated;
+    if (!look_->movie || look_->movie->Path() != path) {
+        look_->movie.reset();
+        look_->frame = QImage();
+        if (!path.empty())
+            look_->movie = std::make_unique<TileMovie>(path, [this] {
+                look_->frame = QImage();
+                update();
+            });
+    }
+    if (look_->movie) look_->movie->Run(isVisible());
+}
+
+/// The mouse has come, gone, pressed or let go.
+void TileButton::FollowMouse(bool over, bool pressed, bool inside) {
+    const Look::Source* before = &look_->Shown();
+    look_->over = over;
+    look_->pressed = pressed;
+    look_->inside = inside;
+    if (&look_->Shown() == before) return;
+    ShowSource();
+    update();
+}
+
+void TileButton::SetBackColor(Colour colour) {
+    State.BackColor = colour;
+    Control::SetBackColor(colour);
+    if (look_->state.BackColor == colour) return;
+    look_->state.BackColor = colour;
+    update();
+}
+
+void TileButton::Reset() {
+    State = TileState();
+    Elements.Clear();
+    Picture = PictureOver = PictureDown = nullptr;
+    AniPicture.clear(), AniPictureOver.clear(), AniPictureDown.clear();
+    Repeats = false;
+    SetMousePointer(0);
+}
+
+bool TileButton::IsRunning() const {
+    return look_->movie && look_->movie->IsRunning();
+}
+
+void TileButton::paintEvent(QPaintEvent*) {
+    const Size size = {width(), height()};
+    const int scale = std::max(1, static_cast<int>(std::ceil(devicePixelRatioF())));
+    const QImage* image = look_->ShownImage();
+    std::shared_ptr<const QImage> finished;
+    if (look_->movie && (look_->frame.isNull() || look_->frameSize != size)) {
+        look_->frame = FinishedPicture(*image, look_->state, size, scale);
+        look_->frameSize = size;
+    }
+    if (!look_->movie) finished = FinishedTile(look_->Shown().picture, look_->state, size, scale);
+    QPainter painter(this);
+    PaintTile(painter, look_->state, look_->layers, size, image,
+              look_->movie ? &look_->frame : finished.get());
+}
+
+void TileButton::enterEvent(QEnterEvent* event) {
+    FollowMouse(true, look_->pressed, look_->inside);
+    Control::enterEvent(event);
+}
+
+void TileButton::leaveEvent(QEvent* event) {
+    FollowMouse(false, look_->pressed, look_->inside);
+    Control::leaveEvent(event);
+}
+
+void TileButton::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        FollowMouse(look_->over, true, true);
+        if (Repeats) look_->repeat.start(FirstRepeat);
+    }
+    Control::mousePressEvent(event);
+}
+
+void TileButton::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) FollowMouse(look_->over, true, true);
+    Control::mouseDoubleClickEvent(event);
+}
+
+void TileButton::mouseMoveEvent(QMouseEvent* event) {
+    if (look_->pressed) FollowMouse(look_->over, true, rect().contains(event->position().toPoint()));
+    Control::mouseMoveEvent(event);
+}
+
+void TileButton::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        look_->repeat.stop();
+        FollowMouse(rect().contains(event->position().toPoint()), false, false);
+    }
+    Control::mouseReleaseEvent(event);
+}
+
+void TileButton::showEvent(QShowEvent*) {
+    if (look_->movie) look_->movie->Run(true);
+}
+
+void TileButton::hideEvent(QHideEvent*) {
+    look_->repeat.stop();
+    FollowMouse(false, false, false);  // a hidden control hears of no release
+    if (look_->movie) look_->movie->Run(false);
+}
+
+void TileButton::resizeEvent(QResizeEvent*) {
+    update();
+}
+
+}  // namespace ornavo

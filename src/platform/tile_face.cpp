@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+#include "platform/tile_face.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "base/failure.h"
+#include "base/text.h"
+#include "platform/control.h"
+#include "platform/fonts.h"
+
+namespace ornavo {
+namespace {
+
+constexpr Colour EdgeLight = Rgb(255, 255, 255), EdgeDark = 0;
+constexpr int LightAlpha = 170, DarkAlpha = 90;
+
+bool IsOpaque(QRgb pixel) {
+    return qAlpha(pixel) == 255;
+}
+
+Colour ColourOfPixel(QRgb pixel) {
+    return Rgb(qRed(pixel), qGreen(pixel), qBlue(pixel));
+}
+
+/// Whether there is a key colour at all. A top left pixel that can be seen through rules out nothing: such a
+/// picture brings its own transparency.
+bool IsKeyed(const TileState& state, const QImage& picture) {
+    if (!state.UseTransparency) return false;
+    if (state.TransColorTopLeft) return IsOpaque(picture.pixel(0, 0));
+    return TranslateColor(state.TransparentColor) >= 0;
+}
+
+QImage Keyed(const QImage& picture, const TileState& state) {
+    if (picture.isNull() || !IsKeyed(state, picture)) return picture;
+    const Colour key = TranslateColor(KeyColourOf(state, picture));
+    const QRgb hidden = qRgb(RedOf(key), GreenOf(key), BlueOf(key));
+    QImage keyed = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < keyed.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(keyed.scanLine(y));
+        std::replace(line, line + keyed.width(), hidden, QRgb{0});
+    }
+    return keyed;
+}
+
+/// Every pixel of the result is that pixel of the picture that lies under its middle.
+QImage Stretched(const QImage& picture, const QSize& size) {
+    if (picture.size() == size) return picture;
+    QImage result(size, picture.format());
+    if (result.isNull()) return result;
+    std::vector<int> from(static_cast<std::size_t>(size.width()));
+    const auto under = [](int at, int source, int target) {
+        return static_cast<int>((2 * std::int64_t{at} + 1) * source / (2 * std::int64_t{target}));
+    };
+    for (int x = 0; x < size.width(); ++x)
+        from[static_cast<std::size_t>(x)] = under(x, picture.width(), size.width());
+    for (int y = 0; y < size.height(); ++y) {
+        const auto* source =
+            reinterpret_cast<const QRgb*>(picture.constScanLine(under(y, picture.height(), size.height())));
+        auto* target = reinterpret_cast<QRgb*>(result.scanLine(y));
+        for (const int x : from) *target++ = source[x];
+    }
+    return result;
+}
+
+double QuarterTurns(const TileState& state) {
+    if (!state.UseRotation || !std::isfinite(state.Rotation)) return 0;
+    const double turns = std::fmod(state.Rotation, 360.0) / 90.0;
+    return turns < 0 ? turns + 4 : turns;
+}
+
+/// Cosine and sine, exact at quarter turns.
+std::pair<double, double> Direction(double quarterTurns) {
+    if (quarterTurns == std::floor(quarterTurns)) {
+        constexpr int wave[] = {1, 0, -1, 0, 1, 0};
+        const int turn = static_cast<int>(quarterTurns) % 4;
+        return {wave[turn], turn == 1 ? 1 : turn == 3 ? -1 : 0};
+    }
+    const double angle = quarterTurns * std::numbers::pi / 2;
+    return {std::cos(angle), std::sin(angle)};
+}
+
+/// Whole pixels moved: each pixel of the result is the one that the turn brings under its middle.
+QImage TurnedHard(const QImage& picture, double quarterTurns) {
+    const QImage source = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QImage result(source.size(), source.format());
+    const auto [cosine, sine] = Direction(quarterTurns);
+    const double middleX = source.width() / 2.0, middleY = source.height() / 2.0;
+    for (int y = 0; y < result.height(); ++y) {
+        auto* target = reinterpret_cast<QRgb*>(result.scanLine(y));
+        const double down = y + 0.5 - middleY;
+        for (int x = 0; x < result.width(); ++x) {
+            const double right = x + 0.5 - middleX;
+            const double fromX = std::floor(right * cosine + down * sine + middleX);
+            const double fromY = std::floor(down * cosine - right * sine + middleY);
+            const bool inside = fromX >= 0 && fromY >= 0 && fromX < source.width() && fromY < source.height();
+            target[x] = inside ? reinterpret_cast<const QRgb*>(
+                                     source.constScanLine(static_cast<int>(fromY)))[static_cast<int>(fromX)]
+                               : 0;
+        }
+    }
+    return result;
+}
+
+QImage TurnedSoft(const QImage& picture, double quarterTurns) {
+    QImage result(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
+    painter.translate(picture.width() / 2.0, picture.height() / 2.0);
+    painter.rotate(quarterTurns * 90);
+    painter.translate(-picture.width() / 2.0, -picture.height() / 2.0);
+    painter.drawImage(0, 0, picture);
+    return result;
+}
+
+/// Quarter turns move whole pixels where the sides allow it, so that nothing is blurred needlessly.
+QImage Turned(const QImage& picture, double quarterTurns, bool smooth) {
+    if (quarterTurns == 0) return picture;
+    const bool whole = quarterTurns == std::floor(quarterTurns) &&
+                       (quarterTurns == 2 || (picture.width() - picture.height()) % 2 == 0);
+    return smooth && !whole ? TurnedSoft(picture, quarterTurns) : TurnedHard(picture, quarterTurns);
+}
+
+/// A size for which no image of its own is made: painted through the painter's own transformation.
+void PaintLarge(QPainter& painter, const QImage& picture, const TileState& state, const QRectF& area) {
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, state.ShowSmooth);
+    painter.translate(area.center());
+    painter.rotate(QuarterTurns(state) * 90);
+    painter.translate(-area.center());
+    painter.drawImage(area, Keyed(picture, state));
+    painter.restore();
+}
+
+void PaintPicture(QPainter& painter, const TileState& state, Size size, const QImage& picture,
+                  const QImage* finished) {
+    const QRect area(0, 0, size.width, size.height);
+    if (finished && !finished->isNull()) {
+        painter.drawImage(area.topLeft(), *finished);
+        return;
+    }
+    const QImage made = FinishedPicture(picture, state, size);
+    if (made.isNull())
+        PaintLarge(painter, picture, state, area);
+    else
+        painter.drawImage(area.topLeft(), made);
+}
+
+void PaintFrame(QPainter& painter, Size size, const QColor& leftTop, const QColor& rightBottom) {
+    painter.fillRect(0, 0, size.width, 1, leftTop);
+    painter.fillRect(0, 0, 1, size.height, leftTop);
+    painter.fillRect(0, size.height - 1, size.width, 1, rightBottom);
+    painter.fillRect(size.width - 1, 0, 1, size.height, rightBottom);
+}
+
+void PaintGround(QPainter& painter, const TileState& state, Size size, bool plain) {
+    if (state.BackStyle == 0) return;
+    painter.fillRect(0, 0, size.width, size.height, ScreenColour(state.BackColor));
+    if (plain)
+        PaintFrame(painter, size, ScreenColour(BlendColor(EdgeLight, state.BackColor, LightAlpha)),
+                   ScreenColour(BlendColor(EdgeDark, state.BackColor, DarkAlpha)));
+}
+
+/// Where something of that width stands between Left and the trimmed right end.
+int AlignedLeft(const TileLayer& layer, Size size, int width) {
+    const double left = static_cast<double>(layer.Left);
+    const double right = size.width - static_cast<double>(layer.RightTrim);
+    const double at = layer.Alignment == 0   ? left
+                      : layer.Alignment == 1 ? right - width
+                                             : (left + right - width) / 2;
+    return static_cast<int>(std::floor(std::clamp(at, -1e8, 1e8)));
+}
+
+void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer, Size size) {
+    if (layer.Text.empty()) return;
+    painter.save();
+    painter.setFont(ScreenFont(layer.Font));
+    const QString text = ShownText(layer.Font, layer.Text);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int width = metrics.horizontalAdvance(text);
+    const int room =
+        static_cast<int>(std::clamp(static_cast<double>(size.width) - static_cast<double>(layer.RightTrim) -
+                                        static_cast<double>(layer.Left),
+                                    0.0, 1e8));
+    const int top = static_cast<int>(std::lround(std::clamp(layer.Top, -1e8F, 1e8F)));
+    const QPoint at(AlignedLeft(layer, size, width), top + metrics.ascent());
+    const auto draw = [&](int offset, Colour colour) {
+        if (width > room)  // what is too long ends where its area ends
+            painter.setClipRect(QRect(static_cast<int>(layer.Left) + offset, 0, room, size.height));
+        painter.setPen(ScreenColour(colour));
+        painter.drawText(at + QPoint(offset, offset), text);
+    };
+    if (state.UseShadow) draw(std::clamp(state.ShadowDistance, -10000, 10000), state.ShadowColor);
+    draw(0, layer.ForeColor);
+    painter.restore();
+}
+
+void PaintLayer(QPainter& painter, const TileState& state, const TileLayer& layer, Size size) {
+    if (!layer.Visible) return;
+    if (layer.IsText) {
+        PaintText(painter, state, layer, size);
+    } else if (layer.Picture) {
+        const int top = static_cast<int>(std::lround(std::clamp(layer.Top, -1e8F, 1e8F)));
+        painter.drawImage(AlignedLeft(layer, size, layer.Picture->image.width()), top, layer.Picture->image);
+    }
+}
+
+}  // namespace
+
+TileLayer& TileLayers::Add(std::string_view key) {
+    for (const TileLayer& layer : layers_)
+        if (EqualText(layer.Key, key)) throw Failure(457, "TileButton", "This key is already in use");
+    layers_.emplace_back().Key = key;
+    return layers_.back();
+}
+
+TileLayer& TileLayers::Item(std::string_view key) {
+    for (TileLayer& layer : layers_)
+        if (EqualText(layer.Key, key)) return layer;
+    throw Failure(9, "TileButton", "Subscript out of range");
+}
+
+void TileLayers::Remove(std::string_view key) {
+    const TileLayer& found = Item(key);
+    layers_.erase(layers_.begin() + (&found - layers_.data()));
+}
+
+Colour KeyColourOf(const TileState& state, const QImage& picture) {
+    if (!state.TransColorTopLeft || picture.isNull()) return state.TransparentColor;
+    return ColourOfPixel(picture.pixel(0, 0));
+}
+
+QImage FinishedPicture(const QImage& picture, const TileState& state, Size size, int scale) {
+    const std::int64_t pixels = std::int64_t{size.width} * size.height * scale * scale;
+    if (picture.isNull() || size.width < 1 || size.height < 1 || pixels > FinishedPixelLimit) return {};
+    const QSize target(size.width, size.height);
+    QImage image = Keyed(picture, state);
+    const double turns = QuarterTurns(state);
+    if (state.ShowSmooth) {
+        if (image.size() != target * scale)
+            image = image.scaled(target * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        image = Turned(image, turns, true);
+    } else {
+        // One pixel of the skin is a square of whole pixels of the screen.
+        image = Stretched(Turned(Stretched(image, target), turns, false), target * scale);
+    }
+    image.setDevicePixelRatio(scale);
+    return image;
+}
+
+void PaintTile(QPainter& painter, const TileState& state, const TileLayers& layers, Size size,
+               const QImage* picture, const QImage* finished) {
+    if (size.width < 1 || size.height < 1) return;
+    const bool plain = !picture || picture->isNull();
+    PaintGround(painter, state, size, plain);
+    if (!plain) PaintPicture(painter, state, size, *picture, finished);
+    for (const TileLayer& layer : layers) PaintLayer(painter, state, layer, size);
+    if (!state.ShowBorder) return;
+    const QColor border = ScreenColour(state.BorderColor);
+    PaintFrame(painter, size, border, border);
+}
+
+}  // namespace ornavo

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "platform/tile_movie.h"
+
+#include <QImageReader>
+
+namespace ornavo {
+namespace {
+
+constexpr int ImagesInUse = 3;  // the decoder's, the movie's and ours
+
+std::filesystem::file_time_type TimeOf(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::last_write_time(path, error);
+}
+
+}  // namespace
+
+TileMovie::TileMovie(std::string path, std::function<void()> onFrame)
+    : path_(std::move(path)), time_(TimeOf(path_)) {
+    if (!IsAnimatedGIF(path_)) return;
+    const QString name = QString::fromStdString(path_);
+    const QSize size = QImageReader(name, "gif").size();
+    memory_ = PictureMemory::Take(std::int64_t{ImagesInUse} * size.width() * size.height());
+    if (!memory_) return;
+    movie_.setCacheMode(QMovie::CacheNone);
+    movie_.setFormat("gif");
+    movie_.setFileName(name);
+    movie_.jumpToFrame(0);
+    TakeFrame();
+    QObject::connect(&movie_, &QMovie::frameChanged, &movie_, [this, onFrame = std::move(onFrame)] {
+        TakeFrame();
+        onFrame();
+    });
+}
+
+void TileMovie::TakeFrame() {
+    QImage next = movie_.currentImage();
+    if (next.isNull()) return;
+    next.convertTo(next.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    frame_ = std::move(next);
+}
+
+void TileMovie::Run(bool run) {
+    if (!memory_ || run == IsRunning()) return;
+    if (!run)
+        movie_.setPaused(true);
+    else if (movie_.state() == QMovie::Paused)
+        movie_.setPaused(false);
+    else
+        movie_.start();
+}
+
+bool TileMovie::IsStale() const {
+    return TimeOf(path_) != time_;
+}
+
+}  // namespace ornavo
