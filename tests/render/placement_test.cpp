@@ -11,10 +11,10 @@ namespace {
 
 /// Fields 30, 40 of a skin of 100, in windows that differ by an odd and an even number, larger and smaller.
 struct Row {
-    bool near, far, stretch;
-    int window;
-    int left, width;  // worked out by hand
-    int top, height;  // the same for the other direction
+    bool near = false, far = false, stretch = false;
+    int window = 100;
+    int left = 0, width = 0;  // worked out by hand
+    int top = 0, height = 0;  // the same for the other direction
 };
 
 constexpr Row Rows[] = {

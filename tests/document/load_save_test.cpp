@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "document/fields.h"
+#include "support.h"
+
+namespace ornavo {
+namespace {
+
+using LoadSave = SkinTest;
+
+TEST_F(LoadSave, AnyOrderAndCaseBecomesTheOneForm) {
+    const dbSkinRef skin = LoadBytes(Fixture("messy.xml"), "Folder");
+    EXPECT_EQ(skin->SkinName, "Messy");
+    EXPECT_EQ(skin->OldSkinName, "Folder");
+    EXPECT_EQ(skin->BasePath(), folder.string() + "/");
+    EXPECT_FALSE(skin->Dirty);
+    EXPECT_EQ(skin->dbLayouts->Item(1)->LayoutName, "Große Party €");
+    skin->Dirty = true;
+    skin->SaveSkin(false);
+    EXPECT_EQ(BytesOf(folder / "Messy/SkinSettings.xml"), Fixture("messy_saved.xml"));
+    EXPECT_EQ(skin->OldSkinName, "Messy");
+    EXPECT_FALSE(skin->Dirty);
+    // What stands in the one form comes back as it was.
+    LoadBytes(Fixture("messy_saved.xml"), "Messy")->SaveSkin(false);
+    EXPECT_EQ(BytesOf(folder / "Messy/SkinSettings.xml"), Fixture("messy_saved.xml"));
+    EXPECT_EQ(BytesOf(folder / "Folder/SkinSettings.xml"), Fixture("messy.xml"));
+}
+
+/// The keys of the layouts, each with those of its elements and the orders of its points.
+std::string Outline(const dbSkin& skin) {
+    std::string text;
+    for (const dbLayoutRef& layout : *skin.dbLayouts) {
+        text += layout->Key + "(";
+        for (const dbLayoutElementRef& element : *layout->dbLayoutElements) text += element->Key;
+        for (const dbPointRef& point : *layout->dbPoints) text += std::to_string(point->Order);
+        text += ")";
+    }
+    for (const dbSkinPrefRef& pref : *skin.dbSkinPrefs) text += pref->Key + "=" + pref->value.ToText();
+    return text;
+}
+
+TEST_F(LoadSave, TheScannerRepairsNothing) {
+    const std::string open = "<Skin>\n<Layouts>\n<Layout>\n<Key>L</Key>\n";
+    const std::string close = "</Layout>\n</Layouts>\n</Skin>\n";
+    const std::string a = "<Element>\n<Key>a</Key>\n", b = "<Element>\n<Key>b</Key>\n", end = "</Element>\n";
+    const std::pair<std::string, const char*> rows[] = {
+        {"", ""},
+        {"no tag in sight\n", ""},
+        {open + "<Elements>\n" + a + end + b + end + "</Elements>\n" + close, "L(ab)"},
+        {open + "<Elements>\n" + a + b + end + "</Elements>\n" + close, ""},             // one end missing
+        {open + "<Elements>\n" + a + end + end + b + end + "</Elements>\n" + close, ""},  // one too many
+        {open + "<Elements>\n" + a + "</Point>\n" + b + end + "</Elements>\n" + close, "L(ab)"},
+        {open + "<Elements>\n" + a + "<Key>A</Y>\n" + end + b + end + "</Elements>\n" + close, "L(Ab)"},
+        {open + "<Elements>\n" + a + end + a + end + "</Elements>\n" + close, "L(a)"},
+        {open + "<Elements>\n<Element>\n</Element>\n<Element>\n</Element>\n" + b + end + "</Elements>\n" + close,
+         "L(b)"},
+        {open + "<Elements>\n" + a + end, ""},  // cut short
+        {open + "<Points>\n<Point>\n<Order>1</Order>\n</Point>\n</Points>\n<Points></Points>\n" + close, "L(1)"},
+        {open + "<Points>\n<Point>\n<Order>1</Order>\n</Point>\n<Point>\n<Order>1</Order>\n</Point>\n</Points>\n" +
+             close,
+         "L(1)"},
+        {open + close + open + close, "L()"},
+        {"</Skin>\n</Element>\n</Layout>\n</Font>\n</SkinPref>\n" + open + close, "L()"},
+        {"<SkinPrefs>\n<SkinPref>\n<Key>k</Key>\n<Value>a</Value>\n</SkinPref>\n<SkinPref>\n<Key>K</Key>\n"
+         "<Value>b</Value>\n</SkinPref>\n</SkinPrefs>\n",
+         "k=a"},
+        {"<SkinPrefs>\n<Points>\n<SkinPref>\n<Key>k</Key>\n</SkinPref>\n</Points>\n</SkinPrefs>\n", "k="},
+        {"<SKIN>\r\n<LAYOUTS>\r\n<LAYOUT>\r\n<KEY>L</KEY>\r\n</LAYOUT>", "L()"},
+    };
+    for (const auto& [bytes, outline] : rows) EXPECT_EQ(Outline(*LoadBytes(bytes)), outline) << bytes;
+    EXPECT_EQ(LoadBytes(open + "<Elements>\n" + b + end + end + close)->dbLayouts->Count(), 0);
+}
+
+TEST_F(LoadSave, OneEndTooManyLosesTheLayout) {
+    const std::string file =
+        "<Skin>\n<Layouts>\n<Layout>\n<Key>L</Key>\n<Elements>\n<Element>\n</Element>\n</Element>\n"
+        "</Elements>\n</Layout>\n</Layouts>\n</Skin>\n";
+    EXPECT_EQ(LoadBytes(file)->dbLayouts->Count(), 0);
+}
+
+TEST_F(LoadSave, ALineIsOfAnyLength) {
+    const std::string caption(3'000'000, 'x');
+    const dbSkinRef skin =
+        LoadBytes("<SkinPrefs>\n<SkinPref>\n<Key>k</Key>\n<Value>" + caption + "</Value>\n</SkinPref>");
+    EXPECT_EQ(skin->dbSkinPrefs->Item("k")->value, Value(caption));
+}
+
+TEST_F(LoadSave, AFieldKeepsWhatItHadWhenAValueDoesNotFit) {
+    const dbSkinRef skin = LoadBytes(
+        "<Skin>\n<SkinWidth>640</SkinWidth>\n<SkinWidth>2147483648</SkinWidth>\n<SkinWidth>wide</SkinWidth>\n"
+        "<SkinHeight>480</SkinHeight>\n<SkinHeight>True</SkinHeight>\n");
+    EXPECT_EQ(skin->SkinWidth, 640);
+    EXPECT_EQ(skin->SkinHeight, -1);
+}
+
+TEST_F(LoadSave, AFileNamesNoPlaceButAFolder) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"Red", "Red"}, {"../../etc", ".._.._etc"}, {"a\\b:c", "a_b;c"}, {"**", "Blue"}, {"..", "Blue"},
+        {".", "Blue"},  {"", "Blue"},               {"<>", "Blue"},      {"007", "7"},
+    };
+    for (const auto& [name, expected] : rows)
+        EXPECT_EQ(LoadBytes("<Skin>\n<SkinName>" + std::string(name) + "</SkinName>\n")->SkinName, expected);
+    objSkin->SkinName = "../Out";
+    EXPECT_THROW(objSkin->SaveSkin(false), Failure);
+    EXPECT_FALSE(fs::exists(folder.parent_path() / "Out"));
+}
+
+TEST_F(LoadSave, AMissingFileChangesNothing) {
+    objSkin->SkinWidth = 5;
+    objSkin->AddNewLayout("One");
+    objSkin->LoadSkin();
+    EXPECT_EQ(objSkin->SkinWidth, 5);
+    EXPECT_EQ(objSkin->dbLayouts->Count(), 1);
+    EXPECT_EQ(objSkin->OldSkinName, "Blue");
+}
+
+TEST_F(LoadSave, TheSettingsFileIsFoundInAnyCase) {
+    Put(folder / "Blue/skinSETTINGS.xml", "<Skin>\n<SkinWidth>5</SkinWidth>\n");
+    const dbSkinRef skin = NewSkin("blue");
+    skin->LoadSkin();
+    EXPECT_EQ(skin->SkinWidth, 5);
+    skin->SaveSkin(false);
+    EXPECT_EQ(Snapshot(folder).size(), 1u);
+    EXPECT_NE(BytesOf(folder / "Blue/skinSETTINGS.xml").find("<SkinName>blue<"), std::string::npos);
+}
+
+TEST_F(LoadSave, ManyOrdersTakeOnePass) {
+    const dbLayoutRef layout = objSkin->AddNewLayout("Many");
+    constexpr int Count = 100'000;
+    for (int order = Count; order > 0; --order) layout->dbPoints->Add(order);
+    objSkin->SaveSkin(false);
+    const dbSkinRef read = NewSkin("Blue");
+    read->LoadSkin();
+    const dbPoints& points = *read->dbLayouts->Item(1)->dbPoints;
+    ASSERT_EQ(points.Count(), Count);
+    for (const int place : {1, 2, 77'777, Count}) EXPECT_EQ(points.Item(place)->Order, place);
+}
+
+}  // namespace
+}  // namespace ornavo

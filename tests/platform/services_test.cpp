@@ -1,0 +1,345 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <QFontMetrics>
+#include <QLineEdit>
+#include <QRawFont>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "base/numbers.h"
+#include "platform/clock.h"
+#include "platform/dbline.h"
+#include "platform/fonts.h"
+#include "platform/form.h"
+#include "platform/picture_box.h"
+#include "platform/prompts.h"
+#include "platform/screen.h"
+#include "platform/settings.h"
+#include "platform/symbol_fonts.h"
+#include "platform/text_controls.h"
+#include "support/failure_number.h"
+
+namespace ornavo {
+namespace {
+
+class Settings : public ::testing::Test {
+protected:
+    Settings() { UseSettingsFile(folder_.filePath("one.ini")); }
+    /// As the next run of the program finds it.
+    void Reopen() {
+        UseSettingsFile(folder_.filePath("other.ini"));
+        UseSettingsFile(folder_.filePath("one.ini"));
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+TEST_F(Settings, AwkwardValuesComeBack) {
+    const std::vector<std::string> values = {
+        "",      " outer ",     "\"q\"",      "a;b,c",      "%20",
+        "\\n\\", "@Variant(x)", "@Invalid()", "two\nlines", "\xC3\xA9\xE2\x82\xAC",
+        "1,5",   "True",        "=",          "[x]"};
+    const std::vector<std::string> names = {"General", "a/b",          "a",        "/",
+                                            "",        "Skin-Preview", "%General", "back\\slash"};
+    for (const std::string& section : names)
+        for (std::size_t i = 0; i < values.size(); ++i)
+            SaveSetting(section, names[i % 8] + std::to_string(i), values[i]);
+    Reopen();
+    for (const std::string& section : names)
+        for (std::size_t i = 0; i < values.size(); ++i)
+            EXPECT_EQ(GetSetting(section, names[i % 8] + std::to_string(i), "?"), values[i]) << section;
+}
+
+TEST_F(Settings, KeysHaveNoCase) {
+    SaveSetting("Ornavo", "Left", "1");
+    SaveSetting("ORNAVO", "left", "2");
+    Reopen();
+    EXPECT_EQ(GetSetting("ornavo", "LEFT", "?"), "2");
+    DeleteSetting("oRNAVO", "lEFT");
+    EXPECT_EQ(GetSetting("Ornavo", "Left", "?"), "?");
+}
+
+TEST_F(Settings, TypedOnes) {
+    constexpr Setting<int> number = {"S", "Number", 7};
+    constexpr Setting<bool> flag = {"S", "Flag", true};
+    EXPECT_EQ(number.Read(), 7);
+    EXPECT_TRUE(flag.Read());
+    number.Write(-12);
+    flag.Write(false);
+    EXPECT_EQ(GetSetting("S", "Number", ""), "-12");
+    EXPECT_EQ(GetSetting("S", "Flag", ""), "False");
+    EXPECT_EQ(number.Read(), -12);
+    EXPECT_FALSE(flag.Read());
+    SaveSetting("S", "Flag", "-1");
+    EXPECT_TRUE(flag.Read());
+    SaveSetting("S", "Flag", "perhaps");
+    SaveSetting("S", "Number", "wide");
+    EXPECT_EQ(FailureNumber([&] { flag.Read(); }), 13);
+    EXPECT_EQ(FailureNumber([&] { number.Read(); }), 13);
+    SaveSetting("S", "Number", "99999999999");
+    EXPECT_EQ(FailureNumber([&] { number.Read(); }), 6);
+}
+
+TEST(Fonts, PointsAndAttributes) {
+    struct Case {
+        double points;
+        int pixels;
+    };
+    for (const Case& one :
+         {Case{7, 9}, Case{8, 11}, Case{8.25, 11}, Case{10, 13}, Case{22, 29}, Case{0, 1}, Case{-5, 1}})
+        EXPECT_EQ(ScreenFont({"Arial", one.points}).pixelSize(), one.pixels) << one.points;
+    EXPECT_EQ(ScreenFont({"Arial", std::numeric_limits<double>::quiet_NaN()}).pixelSize(), 1);
+    const QFont all = ScreenFont({"Arial", 8, true, true, true, true});
+    EXPECT_TRUE(all.bold() && all.italic() && all.underline() && all.strikeOut());
+    EXPECT_FALSE(ScreenFont({}).bold());
+}
+
+TEST(Fonts, StandInsHaveTheRightWidths) {
+    const auto width = [](const char* name) {
+        return QFontMetrics(ScreenFont({name, 10})).horizontalAdvance("The quick brown fox jumps");
+    };
+    EXPECT_NEAR(width("Tahoma"), width("Verdana") * 0.89, 5) << "narrower than the face that stands in";
+    EXPECT_EQ(width("Tahoma"), width("tahoma"));
+    EXPECT_EQ(width("Tahoma"), width(""));
+    EXPECT_EQ(width("Tahoma"), width("14"));
+    EXPECT_EQ(width("Courier New"),
+              25 * QFontMetrics(ScreenFont({"courier new", 10})).horizontalAdvance('i'));
+    EXPECT_LT(width("Times New Roman"), width("Arial"));
+    EXPECT_EQ(QFontInfo(ScreenFont({"No such face", 10})).family(), "DejaVu Sans");
+}
+
+TEST(Fonts, SymbolsHaveTheirGlyphs) {
+    const QRawFont first = QRawFont::fromFont(QFont("Symbola")),
+                   second = QRawFont::fromFont(QFont("DejaVu Sans"));
+    struct Range {
+        const char* font;
+        int missing;
+    };
+    for (const Range& one : {Range{"Wingdings", 0}, Range{"Webdings", 0}, Range{"Symbol", 35}}) {
+        int missing = 0;
+        for (int code = 0x21; code <= 0xFF; ++code) {
+            const char32_t symbol = SymbolOf(one.font, code);
+            if (!symbol)
+                ++missing;
+            else
+                EXPECT_TRUE(first.supportsCharacter(symbol) || second.supportsCharacter(symbol))
+                    << one.font << " " << std::hex << code << " " << static_cast<unsigned>(symbol);
+        }
+        EXPECT_EQ(missing, one.missing) << one.font;
+        EXPECT_EQ(SymbolOf(one.font, 0x20), 0u);
+    }
+}
+
+TEST(Fonts, SymbolsOfCharacters) {
+    struct Case {
+        const char* font;
+        const char* text;
+        char32_t symbol;
+    };
+    for (const Case& one : {Case{"Wingdings", "\u00EC", 0x1F87D}, Case{"wingdings", "\u00E9", 0x1F879},
+                            Case{"Wingdings", "\u00D5", 0x232B}, Case{"Webdings", "i", 0x1F6C8},
+                            Case{"Wingdings", "\uF0D6", 0x2326}, Case{"Wingdings", "J", 0x263A},
+                            Case{"Wingdings", "\u2020", 0x277B}, Case{"Wingdings", "\u20AC", 0x24EA},
+                            Case{"Webdings", "\u00FF", 0x1F54A}, Case{"Symbol", "p", 0x3C0}})
+        EXPECT_EQ(ShownText({one.font}, one.text), QString::fromUcs4(&one.symbol, 1)) << one.text;
+    EXPECT_EQ(ShownText({"Arial"}, "i\u00EC"), QString::fromUtf8("i\u00EC"));
+    EXPECT_EQ(ShownText({"Wingdings"}, " \u4E2D"), QString::fromUtf8(" \u4E2D")) << "no code, no symbol";
+}
+
+TEST(Controls, KeepTheirPlace) {
+    QWidget window;
+    Control control(&window, "Element", 3);
+    control.Move({-5, 6, 7, 0});
+    EXPECT_EQ(control.Bounds(), (Rect{-5, 6, 7, 0}));
+    EXPECT_EQ(FailureNumber([&] { control.Move({0, 0, -1, 5}); }), 380);
+    EXPECT_EQ(FailureNumber([&] { control.Move({0, 0, 5, -1}); }), 380);
+    EXPECT_EQ(control.Bounds(), (Rect{-5, 6, 7, 0}));
+    constexpr int most = std::numeric_limits<int>::max();
+    control.Move({most, -most, most, most});
+    EXPECT_LT(control.Bounds().left, most);
+    control.SetMousePointer(15);
+    EXPECT_EQ(control.cursor().shape(), Qt::SizeAllCursor);
+    control.SetMousePointer(0);
+    EXPECT_EQ(control.cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(ScreenColour(Rgb(1, 2, 3)), QColor(1, 2, 3));
+    EXPECT_EQ(ScreenColour(-1), QColor(Qt::black));
+}
+
+class Listener : public ControlEvents {
+public:
+    void MouseDown(Control& control, const Mouse& m) override { Note("down", control, m); }
+    void MouseMove(Control& control, const Mouse& m) override { Note("move", control, m); }
+    void MouseUp(Control& control, const Mouse& m) override { Note("up", control, m); }
+    std::vector<std::string> heard;
+
+private:
+    void Note(const char* what, const Control& control, const Mouse& m) {
+        heard.push_back(std::string(what) + " " + control.Name + " " + std::to_string(m.button) + " " +
+                        std::to_string(m.shift) + " " + std::to_string(m.x) + "," + std::to_string(m.y));
+    }
+};
+
+TEST(Controls, TheMouseStopsAtTheFrontOne) {
+    struct Window : QWidget {
+        int pressed = 0;
+        void mousePressEvent(QMouseEvent*) override { ++pressed; }
+    } window;
+    window.resize(100, 100);
+    Listener listener;
+    Control back(&window, "back"), front(&window, "front");
+    TextBox text(&window, "text");
+    for (Control* control : {&back, &front, static_cast<Control*>(&text)}) control->Listen(&listener);
+    back.Move({0, 0, 50, 50});
+    front.Move({20, 20, 50, 20});
+    text.Move({0, 60, 50, 20});
+    text.SetBorderStyle(1);
+    text.Edit().setReadOnly(true);
+    window.show();
+    QTest::mousePress(window.windowHandle(), Qt::RightButton, Qt::ShiftModifier | Qt::AltModifier, {25, 25});
+    QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {}, {25, 25});
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::ControlModifier, {10, 70});
+    EXPECT_EQ(listener.heard, (std::vector<std::string>{"down front 2 5 5,5", "up front 2 0 5,5",
+                                                        "down text 1 2 10,10", "up text 1 2 10,10"}));
+    back.ZOrder();
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {25, 25});
+    EXPECT_EQ(listener.heard[4], "down back 1 0 25,25");
+    EXPECT_EQ(window.pressed, 0);
+}
+
+TEST(PictureBox, GroundPictureLayer) {
+    PictureBox box(nullptr, "pInfo");
+    box.Move({0, 0, 4, 2});
+    box.SetBackColor(Rgb(255, 0, 0));
+    QImage image(2, 1, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    box.SetPicture(std::make_shared<Picture>(Picture{image, {}}));
+    box.Draw([](QPainter& painter) { painter.fillRect(1, 0, 1, 2, Qt::blue); });
+    const auto row = [&](int y) {
+        std::string colours;
+        const QImage seen = box.grab().toImage();
+        for (int x = 0; x < 4; ++x) {
+            const QColor at = seen.pixelColor(x, y);
+            colours += at == Qt::red ? 'r' : at == Qt::green ? 'g' : at == Qt::blue ? 'b' : '?';
+        }
+        return colours;
+    };
+    EXPECT_EQ(row(0), "gbrr");
+    EXPECT_EQ(row(1), "rbrr");
+    box.Cls();
+    EXPECT_EQ(row(0), "ggrr");
+    box.SetPicture(nullptr);
+    EXPECT_EQ(row(0), "rrrr");
+}
+
+TEST(dbLine, SurroundsItsLine) {
+    QWidget window;
+    dbLine line(&window, "cPoint");
+    line.MoveTo(10, 10, 10, 100);
+    EXPECT_EQ(line.Bounds(), (Rect{10, 10, 2, 92}));
+    struct Case {
+        int x1, y1, x2, y2;
+        Rect bounds, inner;
+    };
+    for (const Case& one :
+         {Case{0, 0, 5, 7, {0, 0, 7, 9}, {0, 0, 5, 7}}, Case{5, 7, 0, 0, {0, 0, 7, 9}, {5, 7, -5, -7}},
+          Case{5, 0, 0, 7, {0, 0, 7, 9}, {5, 0, -5, 7}}, Case{-3, 9, 4, 2, {-3, 2, 9, 9}, {0, 7, 7, -7}}}) {
+        line.MoveTo(one.x1, one.y1, one.x2, one.y2);
+        EXPECT_EQ(line.Bounds(), one.bounds);
+        EXPECT_EQ(line.InnerLine(), one.inner);
+    }
+    line.MoveTo(0, 0, 10, 10);
+    line.SetX1(20);
+    EXPECT_EQ(line.Bounds(), (Rect{10, 0, 12, 12}));
+    EXPECT_EQ(line.InnerLine(), (Rect{10, 0, -10, 10}));
+    line.SetY2(-10);
+    EXPECT_EQ(line.Bounds(), (Rect{10, -10, 12, 12}));
+    EXPECT_EQ(line.InnerLine(), (Rect{10, 10, -10, -10}));
+    constexpr int most = std::numeric_limits<int>::max();
+    line.MoveTo(-most, most, most, -most);
+    EXPECT_GE(line.InnerLine().left, 0);
+}
+
+class Window : public Form {
+public:
+    Window() : Form(nullptr, "frm", Qt::Window) {}
+    int resized = 0, unloaded = 0;
+
+protected:
+    void Form_Resize() override { ++resized; }
+    void Form_Unload() override { ++unloaded; }
+};
+
+TEST(Forms, TwipsAreOutside) {
+    GetScreenMetrics();
+    Window window;
+    window.MoveTwips({1020, 135, 12120, 9435});
+    EXPECT_EQ(window.ScaleWidth(), 800);
+    EXPECT_EQ(window.ScaleHeight(), 600);
+    EXPECT_EQ(window.pos(), QPoint(68, 9));
+    EXPECT_EQ(window.TwipBounds(), (Rect{1020, 135, 12120, 9435}));
+    window.show();
+    EXPECT_EQ(window.TwipBounds(), (Rect{1020, 135, 12120, 9435}));
+    EXPECT_GT(window.resized, 0);
+    window.SetWindowState(StateMinimised);
+    EXPECT_EQ(window.WindowState(), StateMinimised);
+    window.SetWindowState(StateNormal);
+    window.close();
+    EXPECT_EQ(window.unloaded, 1);
+}
+
+TEST(Forms, ComeUpMaximisedAndGoBack) {
+    Window window;
+    const Rect saved = {300, 450, 6000, 4500};
+    window.MoveTwips(saved);
+    window.SetWindowState(StateMaximised);
+    window.show();
+    EXPECT_EQ(window.WindowState(), StateMaximised);
+    EXPECT_GT(window.ScaleWidth(), 600);
+    EXPECT_EQ(window.TwipBounds(), saved);
+    window.SetWindowState(StateNormal);
+    EXPECT_EQ(window.TwipBounds(), saved);
+}
+
+TEST(Forms, APlaceOffEveryScreenComesBack) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const Rect& lost :
+         {Rect{900000, 0, 4500, 4500}, Rect{0, -90000, 4500, 4500}, Rect{-90000, 900000, 4500, 4500},
+          Rect{-2147483647, 2147483647, 2147483647, 2147483647}}) {
+        Window window;
+        window.MoveTwips(lost);
+        EXPECT_TRUE(screen.contains(QRect(window.pos(), QSize(100, 20)))) << lost.left;
+        EXPECT_LE(window.ScaleWidth(), 8192);
+    }
+    Window partly;
+    partly.MoveTwips({-1500, 0, 4500, 4500});
+    EXPECT_EQ(partly.pos().x(), -100) << "can still be grasped";
+}
+
+TEST(Services, PromptsClockAndLock) {
+    EXPECT_EQ(FailureNumber([] { prompts().Message("", "", Icon::None, Buttons::Ok); }), 91);
+    struct Noon : Clock {
+        QDateTime Now() const override { return QDateTime({2020, 1, 2}, {12, 0}); }
+    } noon;
+    UseClock(&noon);
+    EXPECT_EQ(clock().Now().time().hour(), 12);
+    UseClock(nullptr);
+    EXPECT_GT(clock().Now().date().year(), 2020);
+    BeginScreenUpdate();
+    BeginScreenUpdate();
+    EndScreenUpdate();
+    EXPECT_EQ(ScreenUpdateDepth(), 1);
+    EndScreenUpdate();
+    EndScreenUpdate();
+    EXPECT_EQ(ScreenUpdateDepth(), 0);
+    {
+        const WaitPointer wait;
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    }
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+}  // namespace
+}  // namespace ornavo

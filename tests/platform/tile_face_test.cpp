@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+#include "platform/tile_face.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "platform/control.h"
+#include "platform/fonts.h"
+#include "support/failure_number.h"
+
+namespace ornavo {
+namespace {
+
+using Art = std::vector<std::string>;
+
+// One letter to a pixel.
+const std::map<char, QRgb> Paint = {
+    {'.', 0},          {'k', 0xFF000000}, {'w', 0xFFFFFFFF}, {'r', 0xFFFF0000}, {'g', 0xFF00FF00},
+    {'b', 0xFF0000FF}, {'m', 0xFFFF00FF}, {'n', 0xFFFF00FE}, {'y', 0xFFFFFF00},
+};
+
+QImage Drawn(const Art& art) {
+    QImage image(static_cast<int>(art[0].size()), static_cast<int>(art.size()),
+                 QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) image.setPixel(x, y, Paint.at(art[y][x]));
+    return image;
+}
+
+Art Read(const QImage& image) {
+    Art art;
+    for (int y = 0; y < image.height(); ++y) {
+        art.emplace_back();
+        for (int x = 0; x < image.width(); ++x) {
+            const auto found = std::find_if(Paint.begin(), Paint.end(),
+                                            [&](const auto& one) { return one.second == image.pixel(x, y); });
+            art.back() += found == Paint.end() ? '?' : found->first;
+        }
+    }
+    return art;
+}
+
+Art Face(const TileState& state, Size size, const QImage* picture, const TileLayers& layers = {}) {
+    QImage image(size.width, size.height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    PaintTile(painter, state, layers, size, picture);
+    painter.end();
+    return Read(image);
+}
+
+TileState Seen(double rotation = 0) {
+    TileState state;
+    state.BackStyle = 0;
+    state.UseRotation = rotation != 0;
+    state.Rotation = rotation;
+    return state;
+}
+
+TEST(Face, StretchesWithoutMixing) {
+    const QImage picture = Drawn({"rg", "bw"});
+    EXPECT_EQ(Face(Seen(), {4, 4}, &picture), (Art{"rrgg", "rrgg", "bbww", "bbww"}));
+    EXPECT_EQ(Face(Seen(), {5, 1}, &picture), (Art{"bbwww"}));
+    EXPECT_EQ(Face(Seen(), {1, 2}, &picture), (Art{"g", "w"}));
+}
+
+TEST(Face, SmoothnessMixesNeighbours) {
+    const QImage picture = Drawn({"kw"});
+    TileState state = Seen();
+    EXPECT_EQ(Face(state, {8, 1}, &picture), (Art{"kkkkwwww"}));
+    state.ShowSmooth = true;
+    const QImage smooth = FinishedPicture(picture, state, {8, 1});
+    EXPECT_LT(qRed(smooth.pixel(0, 0)), 64);
+    EXPECT_GT(qRed(smooth.pixel(7, 0)), 191);
+    for (int x = 1; x < 8; ++x) EXPECT_GE(qRed(smooth.pixel(x, 0)), qRed(smooth.pixel(x - 1, 0)));
+    EXPECT_EQ(Face(state, {2, 1}, &picture), (Art{"kw"})) << "nothing to stretch";
+}
+
+TEST(Face, KeyColour) {
+    const QImage picture = Drawn({"mnrm", "rmmr"});
+    TileState state = Seen();
+    EXPECT_EQ(Face(state, {4, 2}, &picture), (Art{"mnrm", "rmmr"})) << "no key without UseTransparency";
+    state.UseTransparency = true;
+    state.TransparentColor = Rgb(255, 0, 0);
+    EXPECT_EQ(Face(state, {4, 2}, &picture), (Art{"mn.m", ".mm."}));
+    state.TransColorTopLeft = true;
+    EXPECT_EQ(Face(state, {4, 2}, &picture), (Art{".nr.", "r..r"})) << "the comparison is exact";
+    EXPECT_EQ(KeyColourOf(state, picture), Rgb(255, 0, 255));
+    EXPECT_EQ(KeyColourOf(state, QImage()), Rgb(255, 0, 0));
+    const QImage clear = Drawn({".k", "kr"});
+    EXPECT_EQ(Face(state, {2, 2}, &clear), (Art{".k", "kr"})) << "a clear corner hides no black";
+}
+
+TEST(Face, KeyGoesBeforeStretching) {
+    const QImage picture = Drawn({"mmrr", "mmrr"});
+    TileState state = Seen();
+    state.UseTransparency = state.TransColorTopLeft = state.ShowSmooth = true;
+    const QImage wide = FinishedPicture(picture, state, {16, 8});
+    for (int x = 0; x < 16; ++x) {
+        EXPECT_EQ(qBlue(wide.pixel(x, 4)), 0) << "no rim of the key colour at " << x;
+        EXPECT_EQ(qRed(wide.convertToFormat(QImage::Format_RGB32).pixel(x, 4)), qAlpha(wide.pixel(x, 4)));
+    }
+}
+
+TEST(Face, QuarterTurnsAreExact) {
+    const QImage square = Drawn({
+        "rgb",
+        "kwy",
+        "...",
+    });
+    struct Case {
+        double degrees;
+        Art expected;
+    };
+    for (bool smooth : {false, true})
+        for (const Case& one : {Case{90, {".kr", ".wg", ".yb"}}, Case{180, {"...", "ywk", "bgr"}},
+                                Case{270, {"by.", "gw.", "rk."}}, Case{-90, {"by.", "gw.", "rk."}},
+                                Case{450, {".kr", ".wg", ".yb"}}, Case{360, {"rgb", "kwy", "..."}}}) {
+            TileState state = Seen(one.degrees);
+            state.ShowSmooth = smooth;
+            EXPECT_EQ(Face(state, {3, 3}, &square), one.expected) << one.degrees;
+        }
+    const QImage wide = Drawn({"rggb", "kwwy"});
+    EXPECT_EQ(Face(Seen(90), {4, 2}, &wide), (Art{".wg.", ".wg."})) << "cut by the control's own size";
+    EXPECT_EQ(Face(Seen(180), {4, 2}, &wide), (Art{"ywwk", "bggr"}));
+}
+
+TEST(Face, OtherTurnsKeepTheMiddle) {
+    QImage picture(15, 15, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    for (bool smooth : {false, true}) {
+        TileState state = Seen(45);
+        state.ShowSmooth = smooth;
+        const QImage turned = FinishedPicture(picture, state, {15, 15});
+        EXPECT_EQ(turned.pixel(7, 7), qRgb(255, 0, 0));
+        EXPECT_EQ(turned.pixel(7, 0), qRgb(255, 0, 0));
+        for (const QPoint corner : {QPoint(0, 0), QPoint(14, 0), QPoint(0, 14), QPoint(14, 14)})
+            EXPECT_EQ(qAlpha(turned.pixel(corner)), 0);
+    }
+}
+
+TEST(Face, ScreenWithTwoPixelsToOne) {
+    const QImage picture = Drawn({"rg", "bw"});
+    EXPECT_EQ(Read(FinishedPicture(picture, Seen(90), {2, 2}, 2)), (Art{"bbrr", "bbrr", "wwgg", "wwgg"}));
+    TileState smooth = Seen();
+    smooth.ShowSmooth = true;
+    EXPECT_EQ(FinishedPicture(picture, smooth, {8, 8}, 2).size(), QSize(16, 16));
+}
+
+TEST(Face, GroundAndBorder) {
+    const QImage picture = Drawn({"r.", ".r"});
+    TileState state;
+    state.BackColor = Rgb(0, 0, 255);
+    EXPECT_EQ(Face(state, {4, 4}, &picture), (Art{"rrbb", "rrbb", "bbrr", "bbrr"}));
+    state.ShowBorder = true;
+    state.BorderColor = Rgb(255, 255, 0);
+    EXPECT_EQ(Face(state, {4, 4}, &picture), (Art{"yyyy", "yrby", "ybry", "yyyy"}));
+    EXPECT_EQ(Face(state, {4, 3}, nullptr), (Art{"yyyy", "ybby", "yyyy"}));
+    state.BackStyle = 0;
+    EXPECT_EQ(Face(state, {4, 3}, nullptr), (Art{"yyyy", "y..y", "yyyy"}));
+    state.ShowBorder = false;
+    EXPECT_EQ(Face(state, {2, 1}, nullptr), (Art{".."}));
+    state.BackStyle = 1;
+    EXPECT_EQ(Face(state, {4, 4}, nullptr), (Art{"????", "?bb?", "?bb?", "????"})) << "a raised edge";
+}
+
+TEST(Face, PictureLayers) {
+    TileLayers layers;
+    TileLayer& layer = layers.Add("one");
+    layer.IsText = false;
+    layer.Picture = std::make_shared<Picture>(Picture{Drawn({"rg"}), {}});
+    layer.Top = 1;
+    struct Case {
+        int alignment;
+        float left, trim;
+        Art expected;
+    };
+    for (const Case& one :
+         {Case{0, 0, 0, {"........", "rg......"}}, Case{0, 3, 2, {"........", "...rg..."}},
+          Case{1, 0, 0, {"........", "......rg"}}, Case{1, 3, 2, {"........", "....rg.."}},
+          Case{2, 0, 0, {"........", "...rg..."}}, Case{2, 4, 0, {"........", ".....rg."}}}) {
+        layer.Alignment = one.alignment;
+        layer.Left = one.left;
+        layer.RightTrim = one.trim;
+        EXPECT_EQ(Face(Seen(), {8, 2}, nullptr, layers), one.expected) << one.alignment;
+    }
+    layer.Visible = false;
+    EXPECT_EQ(Face(Seen(), {2, 1}, nullptr, layers), (Art{".."}));
+}
+
+/// The box of the pixels of one colour; text comes with soft edges, so near it counts.
+QRect BoxOf(const TileState& state, const TileLayers& layers, const QColor& colour) {
+    QImage image(120, 40, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    PaintTile(painter, state, layers, {120, 40}, nullptr);
+    painter.end();
+    QRect box;
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 120; ++x)
+            if (image.pixelColor(x, y) == colour) box |= QRect(x, y, 1, 1);
+    return box;
+}
+
+TEST(Face, TextStandsInItsArea) {
+    TileState state = Seen();
+    TileLayers layers;
+    TileLayer& layer = layers.Add("Caption");
+    layer.Text = "HIIH";
+    layer.Font = {"Arial", 12, true};
+    layer.ForeColor = Rgb(255, 0, 0);
+    layer.Alignment = 0;
+    const QRect left = BoxOf(state, layers, Qt::red);
+    EXPECT_LE(left.left(), 4);
+    layer.Alignment = 1;
+    const QRect right = BoxOf(state, layers, Qt::red);
+    EXPECT_GE(right.right(), 115);
+    layer.Alignment = 2;
+    const QRect middle = BoxOf(state, layers, Qt::red);
+    EXPECT_NEAR(middle.center().x(), 60, 2);
+    EXPECT_EQ(middle.size(), left.size());
+    layer.Top = 10;
+    layer.Left = 20;
+    EXPECT_EQ(BoxOf(state, layers, Qt::red), middle.translated(10, 10));
+
+    state.UseShadow = true;
+    state.ShadowDistance = 5;
+    state.ShadowColor = Rgb(0, 0, 255);
+    const QRect shadow = BoxOf(state, layers, Qt::blue);
+    EXPECT_EQ(shadow.bottomRight(), middle.translated(15, 15).bottomRight());
+    EXPECT_EQ(BoxOf(state, layers, Qt::red), middle.translated(10, 10)) << "the text lies over its shadow";
+
+    state.UseShadow = false;
+    layer.Alignment = 0;
+    layer.RightTrim = 90;
+    EXPECT_LT(BoxOf(state, layers, Qt::red).right(), 30) << "cut at the end of its area";
+}
+
+TEST(Face, LayersHaveKeys) {
+    TileLayers layers;
+    layers.Add("Caption").Text = "a";
+    EXPECT_EQ(FailureNumber([&] { layers.Add("CAPTION"); }), 457);
+    EXPECT_EQ(layers.Item("caption").Text, "a");
+    EXPECT_EQ(FailureNumber([&] { layers.Item("other"); }), 9);
+    EXPECT_EQ(FailureNumber([&] { layers.Remove("other"); }), 9);
+    layers.Remove("caption");
+    EXPECT_EQ(layers.Count(), 0);
+}
+
+TEST(Face, HugeSizesTakeNoHugeImage) {
+    const QImage picture = Drawn({"rg", "bw"});
+    EXPECT_TRUE(FinishedPicture(picture, Seen(), {100000, 100000}).isNull());
+    QImage image(4, 4, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    painter.translate(-9998, -9998);
+    PaintTile(painter, Seen(), {}, {20000, 20000}, &picture);
+    painter.end();
+    EXPECT_EQ(Read(image), (Art{"rrgg", "rrgg", "bbww", "bbww"}));
+}
+
+}  // namespace
+}  // namespace ornavo
