@@ -35,6 +35,11 @@ bool CanBeGrasped(const QRect& title) {
     });
 }
 
+/// The desktop may tell a window's frame only some time after it was shown.
+bool TellsFrame(QEvent::Type type) {
+    return type == QEvent::Move || type == QEvent::Show || type == QEvent::Paint || type == QEvent::WindowActivate;
+}
+
 /// The corner of a window of that outer size, moved onto the first screen if its title can't be grasped.
 QPoint VisibleCorner(QPoint corner, const QSize& outer) {
     const QScreen* first = QGuiApplication::primaryScreen();
@@ -99,7 +104,7 @@ void Form::SetWindowState(int state) {
 bool Form::event(QEvent* event) {
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate) Form_Activate();
-    if (event->type() == QEvent::Move && WindowState() == StateNormal) frame_ = geometry().topLeft() - pos();
+    if (TellsFrame(event->type()) && WindowState() == StateNormal) frame_ = geometry().topLeft() - pos();
     return taken;
 }
 

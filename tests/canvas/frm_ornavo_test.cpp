@@ -76,6 +76,7 @@ TEST_F(CanvasTest, TheEndSavesPlaceAndSwitches) {
         frm_Ornavo form(windows_, "0.1");
         form.MoveTwips({1500, 1200, 12000, 9600});
         form.Start("");
+        QCoreApplication::processEvents();
         form.SetWindowState(state);
         viewSwitches.GridX = 20 + state;
         viewSwitches.ShowLines = true;
