@@ -80,10 +80,16 @@ int Run(const QStringList& words) {
     return Misused("unknown command '" + words[1] + "'");
 }
 
+/// The error stream is for reasons; what Qt thinks of the environment is none.
+void OnQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "ornavo-cli: %s\n", qPrintable(text));
+}
+
 }  // namespace
 }  // namespace ornavo
 
 int main(int argc, char** argv) {
+    qInstallMessageHandler(ornavo::OnQtMessage);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "1");
     ornavo::PrepareProcess();

@@ -66,10 +66,12 @@ int PixelSize(double points) {
 QFont ScreenFont(const Font& font) {
     const std::string face = FaceOf(font.Name);
     const bool symbols = IsSymbolFont(face);
-    QFont screen;
-    screen.setFamilies({symbols ? QString(SymbolFace) : QString::fromStdString(face), QString(LastResort)});
-    screen.setPixelSize(PixelSize(font.Size));
     const StandIn* standIn = StandInOf(face);
+    QFont screen;
+    QStringList faces = {symbols ? QString(SymbolFace) : QString::fromStdString(face)};
+    if (standIn) faces << standIn->used;
+    screen.setFamilies(faces << LastResort);
+    screen.setPixelSize(PixelSize(font.Size));
     if (standIn && standIn->stretch != QFont::AnyStretch &&
         !QFontDatabase::hasFamily(screen.families().front()))
         screen.setStretch(standIn->stretch);

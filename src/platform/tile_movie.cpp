@@ -19,22 +19,21 @@ TileMovie::TileMovie(std::string path, std::function<void()> onFrame)
     : path_(std::move(path)), time_(TimeOf(path_)) {
     if (!IsAnimatedGIF(path_)) return;
     const QString name = QString::fromStdString(path_);
-    const QSize size = QImageReader(name, "gif").size();
+    QImageReader reader(name, "gif");
+    const QSize size = reader.size();
     memory_ = PictureMemory::Take(std::int64_t{ImagesInUse} * size.width() * size.height());
     if (!memory_) return;
     movie_.setCacheMode(QMovie::CacheNone);
     movie_.setFormat("gif");
     movie_.setFileName(name);
-    movie_.jumpToFrame(0);
-    TakeFrame();
+    TakeFrame(reader.read());  // the movie's own start comes to its first frame by itself
     QObject::connect(&movie_, &QMovie::frameChanged, &movie_, [this, onFrame = std::move(onFrame)] {
-        TakeFrame();
+        TakeFrame(movie_.currentImage());
         onFrame();
     });
 }
 
-void TileMovie::TakeFrame() {
-    QImage next = movie_.currentImage();
+void TileMovie::TakeFrame(QImage next) {
     if (next.isNull()) return;
     next.convertTo(next.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     frame_ = std::move(next);

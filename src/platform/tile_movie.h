@@ -24,7 +24,7 @@ public:
     bool IsStale() const;  // the file is no longer the one that was opened
 
 private:
-    void TakeFrame();
+    void TakeFrame(QImage next);
 
     std::string path_;
     std::filesystem::file_time_type time_;

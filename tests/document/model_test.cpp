@@ -60,8 +60,8 @@ TEST(Model, TheCatalogueIsWholeAndUpgrades) {
         keys.insert(row.key);
     }
     EXPECT_EQ(keys.size(), 181u);
-    EXPECT_EQ(counts, (std::map<int, int>{{0, 27}, {1, 35}, {2, 36}, {3, 9}, {4, 16}, {5, 35}, {6, 5}, {11, 11},
-                                          {14, 7}}));
+    EXPECT_EQ(counts, (std::map<int, int>{
+                          {0, 27}, {1, 35}, {2, 36}, {3, 9}, {4, 16}, {5, 35}, {6, 5}, {11, 11}, {14, 7}}));
     dbSkin skin;
     skin.dbSkinPrefs = std::make_shared<dbSkinPrefs>();
     skin.dbSkinPrefs->Add("sp_collight", "Hell", 5, 1);

@@ -30,22 +30,43 @@ TEST(SkinLines, ALineIsTakenApart) {
         const TagLine parts = GetTag(TrimTag(row.line));
         EXPECT_EQ(parts.tag, row.tag) << row.line;
         EXPECT_EQ(parts.value.has_value(), row.value != nullptr) << row.line;
-        if (parts.value && row.value) EXPECT_EQ(*parts.value, row.value) << row.line;
+        if (parts.value && row.value) {
+            EXPECT_EQ(*parts.value, row.value) << row.line;
+        }
     }
 }
 
 TEST(SkinLines, AValueIsTypedByItsLook) {
     const std::pair<const char*, Value> rows[] = {
-        {"True", true},        {"Wahr", true},        {"False", false},
-        {"Falsch", false},     {"true", "true"},      {"WAHR", "WAHR"},
-        {"007", 7.0},          {"1e3", 1000.0},       {" 5 ", 5.0},
-        {"+5", 5.0},           {"+8.25", 8.25},       {"+-2.5", -1.5},
-        {"+7.", 7.0},          {"+0.05", 0.05},       {"+abc.def", 0.0},
-        {"+abc.5", 0.5},       {"+1.99999999999", 1.0}, {"+.5", 0.5},
-        {"1,234.5", 1234.5},   {"nan", "nan"},        {"inf", "inf"},
-        {"0x1F", "0x1F"},      {"1_000", "1_000"},    {"+", "+"},
-        {"-", "-"},            {"", ""},              {" a ", " a "},
-        {"\x80\xE4", "\u20AC\u00E4"}, {"3000000000", 3e9},
+        {"True", true},
+        {"Wahr", true},
+        {"False", false},
+        {"Falsch", false},
+        {"true", "true"},
+        {"WAHR", "WAHR"},
+        {"007", 7.0},
+        {"1e3", 1000.0},
+        {" 5 ", 5.0},
+        {"+5", 5.0},
+        {"+8.25", 8.25},
+        {"+-2.5", -1.5},
+        {"+7.", 7.0},
+        {"+0.05", 0.05},
+        {"+abc.def", 0.0},
+        {"+abc.5", 0.5},
+        {"+1.99999999999", 1.0},
+        {"+.5", 0.5},
+        {"1,234.5", 1234.5},
+        {"nan", "nan"},
+        {"inf", "inf"},
+        {"0x1F", "0x1F"},
+        {"1_000", "1_000"},
+        {"+", "+"},
+        {"-", "-"},
+        {"", ""},
+        {" a ", " a "},
+        {"\x80\xE4", "\u20AC\u00E4"},
+        {"3000000000", 3e9},
     };
     for (const auto& [bytes, value] : rows)
         EXPECT_EQ(ReadValue(bytes), value) << '"' << bytes << "\" gives " << ReadValue(bytes).ToText();
@@ -65,10 +86,21 @@ TEST(SkinLines, TheUsersSignsCountForPlainNumbersOnly) {
 
 TEST(SkinLines, NumbersAreWrittenByTheirFloor) {
     const std::pair<Value, const char*> rows[] = {
-        {8.25, "+8.25"},       {-1.5, "+-2.5"},   {0.05, "+0.05"},        {120.0, "120"},
-        {-3, "-3"},            {7.99999, "+7."},  {0.00005, "5E-05"},     {0.03125, "+0.0312"},
-        {0.09375, "+0.0938"},  {0.0001, "+0.0001"}, {2147483647.5, "+2147483647.5"}, {"12.50", "+12.5"},
-        {"120", "120"},        {1.00001, "1.00001"}, {-0.25, "+-1.75"},
+        {8.25, "+8.25"},
+        {-1.5, "+-2.5"},
+        {0.05, "+0.05"},
+        {120.0, "120"},
+        {-3, "-3"},
+        {7.99999, "+7."},
+        {0.00005, "5E-05"},
+        {0.03125, "+0.0312"},
+        {0.09375, "+0.0938"},
+        {0.0001, "+0.0001"},
+        {2147483647.5, "+2147483647.5"},
+        {"12.50", "+12.5"},
+        {"120", "120"},
+        {1.00001, "1.00001"},
+        {-0.25, "+-1.75"},
     };
     for (const auto& [value, text] : rows) {
         EXPECT_EQ(GetNumericValue(value), text);
@@ -80,7 +112,7 @@ TEST(SkinLines, NumbersAreWrittenByTheirFloor) {
 }
 
 TEST(SkinLines, ValuesWithoutALine) {
-    const std::pair<Value, int> rows[] = {{false, 513}, {"", 513},           {Value(), 513},
+    const std::pair<Value, int> rows[] = {{false, 513}, {"", 513},         {Value(), 513},
                                           {3e9, 6},     {"3000000000", 6}, {-2147483649.0, 6}};
     for (const auto& [value, number] : rows) {
         try {
@@ -93,10 +125,11 @@ TEST(SkinLines, ValuesWithoutALine) {
 
 /// The short road of each field against the general one, on what may look like something else.
 TEST(SkinLines, BothRoadsAgree) {
-    const char* const odd[] = {"True",  "Wahr",  "False", "Falsch", "true",  "Truely", "",     "0",    "-0",
-                               "007",   "-5",    "--5",   "+5",     "5-",    " 5",     "1e3",  "e3",   "12.5",
-                               "+7.",   "-",     "+",     ".",      "1,000", "nan",    "inf",  "x y",  "A<B",
-                               "\xE4x", "x\xE4", "x\x81", "999999999", "2147483648", "-2147483648",   "W"};
+    const char* const odd[] = {"True",  "Wahr",  "False",     "Falsch",     "true",        "Truely", "",
+                               "0",     "-0",    "007",       "-5",         "--5",         "+5",     "5-",
+                               " 5",    "1e3",   "e3",        "12.5",       "+7.",         "-",      "+",
+                               ".",     "1,000", "nan",       "inf",        "x y",         "A<B",    "\xE4x",
+                               "x\xE4", "x\x81", "999999999", "2147483648", "-2147483648", "W"};
     int taken = 0;
     for (const char* bytes : odd)
         for (const Field<dbLayoutElement>& field : Fields<dbLayoutElement>()) {
@@ -112,7 +145,9 @@ TEST(SkinLines, BothRoadsAgree) {
     EXPECT_GT(taken, 200);
     for (const char* bytes : odd) {
         Value quick;
-        if (TakePlain(bytes, quick)) EXPECT_EQ(quick, ReadValue(bytes)) << bytes;
+        if (TakePlain(bytes, quick)) {
+            EXPECT_EQ(quick, ReadValue(bytes)) << bytes;
+        }
     }
 }
 
