@@ -86,7 +86,9 @@ std::string SaveSkinPicture(const dbSkin& skin, std::string_view path, bool keep
     std::error_code ignored;
     if (fs::equivalent(source, target, ignored)) return name;
     if (keepExisting && FileExists(folder + name)) return name;
-    return Attempt([&] { CopyFileWhole(source, target); }) ? name : given;
+    if (Attempt([&] { CopyFileWhole(source, target); })) return name;
+    // A bare name found in the folder that the skin had before would lead nowhere from now on.
+    return ContainsSeparator(path) && OnDisk(path) == source ? given : ToText(source);
 }
 
 }  // namespace ornavo

@@ -39,7 +39,7 @@ private:
 std::string StorableSkinName(const dbSkin& skin);
 
 /// Copies one picture into the skin's folder, whole or not at all, and returns the name under which it is
-/// stored. "" for a picture that is nowhere, the path as it came where no copy can be made. keepExisting
+/// stored. "" for a picture that is nowhere; a path that leads to it where no copy can be made. keepExisting
 /// leaves what has the name in the skin's folder.
 std::string SaveSkinPicture(const dbSkin& skin, std::string_view path, bool keepExisting);
 

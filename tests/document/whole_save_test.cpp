@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+// A save that is broken off at any step leaves the old skin or the new one.
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "support.h"
+
+namespace ornavo {
+namespace {
+
+class WholeSave : public SkinTest {
+protected:
+    /// "Blue" on the disk, loaded, changed and renamed or not; two pictures are new, one of them replaces.
+    void Prepare(const std::string& name) {
+        fs::remove_all(folder);
+        Put(folder / "Pics/new.png", "new picture");
+        Put(folder / "Pics/same.png", "the other picture of that name");
+        Put(folder / "Blue/same.png", "same");
+        Put(folder / "Blue/old.png", "old");
+        objSkin = NewSkin("Blue");
+        objSkin->AddNewLayout("One")->dbLayoutElements->Item(1)->PicNormal = "old.png";
+        objSkin->SaveSkin(false);
+        objSkin = NewSkin("Blue");
+        objSkin->LoadSkin();
+        Element().PicOn = folder / "Pics/new.png";
+        Element().PicOver = folder / "Pics/same.png";
+        objSkin->dbSkinPrefs->Add("P", "", (folder / "Pics/new.png").string(), 5);
+        objSkin->SkinName = name;
+        objSkin->Dirty = true;
+    }
+    static dbLayoutElement& Element() { return *objSkin->dbLayouts->Item(1)->dbLayoutElements->Item(1); }
+    static std::string Model() {
+        return objSkin->SkinName + "," + objSkin->OldSkinName + "," + (objSkin->Dirty ? "dirty" : "clean") +
+               "," + Element().PicNormal + "," + Element().PicOn + "," + Element().PicOver + "," +
+               objSkin->dbSkinPrefs->Item("P")->value.ToText();
+    }
+    /// Each file of the skin as it was or as it shall be; no others but scratch files.
+    void ExpectWhole(const std::map<std::string, std::string>& before,
+                     const std::map<std::string, std::string>& after, bool scratchAllowed) {
+        const auto now = Snapshot(folder);
+        for (const auto& [name, bytes] : before) EXPECT_TRUE(now.contains(name)) << name;
+        for (const auto& [name, bytes] : now) {
+            if (scratchAllowed && fs::path(name).extension() == ".tmp") continue;
+            const bool asBefore = before.contains(name) && before.at(name) == bytes;
+            const bool asAfter = after.contains(name) && after.at(name) == bytes;
+            EXPECT_TRUE(asBefore || asAfter) << name;
+        }
+    }
+    /// The settings may be the new ones only when everything that they name is there.
+    void ExpectReferencesTrue(const std::string& name) {
+        const dbSkinRef read = NewSkin(name);
+        read->LoadSkin();
+        for (const dbLayoutRef& layout : *read->dbLayouts)
+            for (const dbLayoutElementRef& element : *layout->dbLayoutElements)
+                for (const std::string& picture : {element->PicNormal, element->PicOn, element->PicOver})
+                    EXPECT_TRUE(picture.empty() || fs::exists(fs::path(read->SkinFolder()) / picture) ||
+                                fs::exists(picture))
+                        << picture;
+    }
+};
+
+TEST_F(WholeSave, AFailureAtEachStep) {
+    for (const std::string name : {"Blue", "Red"}) {
+        Prepare(name);
+        const auto before = Snapshot(folder);
+        const std::string modelBefore = Model();
+        StepLayer counting;
+        UseFileLayer(&counting);
+        objSkin->SaveSkin(false);
+        const auto after = Snapshot(folder);
+        EXPECT_EQ(Model(), name + "," + name + ",clean,old.png,new.png,same.png,new.png");
+        ASSERT_GT(counting.steps, 15);
+        int refused = 0;
+        for (int bad = 1; bad <= counting.steps; ++bad) {
+            UseFileLayer(nullptr);
+            Prepare(name);
+            StepLayer layer;
+            bool forGood = bad % 2 == 0;  // a full disk stays full, other failures pass
+            layer.before = [&](int step) {
+                if (step == bad || (forGood && step > bad))
+                    throw Failure(61, "Disk", "No space left on device");
+            };
+            UseFileLayer(&layer);
+            const std::string settings = name + "/SkinSettings.xml";
+            bool failed = false;
+            try {
+                objSkin->SaveSkin(false);
+            } catch (const Failure& failure) {
+                failed = true;
+                EXPECT_NE(failure.description().find(name), std::string::npos) << failure.description();
+            }
+            UseFileLayer(nullptr);
+            SCOPED_TRACE(name + ", step " + std::to_string(bad));
+            const auto now = Snapshot(folder);
+            if (failed) {
+                ++refused;
+                EXPECT_EQ(Model(), modelBefore);
+                EXPECT_EQ(now.contains(settings), before.contains(settings));
+                if (before.contains(settings)) {
+                    EXPECT_EQ(now.at(settings), before.at(settings));
+                }
+                ExpectWhole(before, after, true);
+            } else {
+                EXPECT_FALSE(objSkin->Dirty);
+                EXPECT_EQ(objSkin->OldSkinName, name);
+            }
+            ExpectReferencesTrue("Blue");
+            ExpectReferencesTrue(name);
+        }
+        EXPECT_GT(refused, 3);
+    }
+}
+
+TEST_F(WholeSave, KilledAtEachStep) {
+    Prepare("Blue");
+    const auto before = Snapshot(folder);
+    StepLayer counting;
+    UseFileLayer(&counting);
+    objSkin->SaveSkin(false);
+    UseFileLayer(nullptr);
+    const auto after = Snapshot(folder);
+    for (int last = 1; last <= counting.steps + 1; ++last) {
+        Prepare("Blue");
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            StepLayer layer;
+            layer.before = [last](int step) {
+                if (step == last) raise(SIGKILL);
+            };
+            UseFileLayer(&layer);
+            objSkin->SaveSkin(false);
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        EXPECT_EQ(WIFSIGNALED(status), last <= counting.steps) << last;
+        SCOPED_TRACE("killed at step " + std::to_string(last));
+        ExpectWhole(before, after, true);
+        ExpectReferencesTrue("Blue");
+    }
+    EXPECT_EQ(Snapshot(folder).at("Blue/SkinSettings.xml"), after.at("Blue/SkinSettings.xml"));
+}
+
+/// The system itself refuses to write beyond a size; unlike a right, this stops every user.
+TEST_F(WholeSave, TheSystemTakesNoMore) {
+    Prepare("Blue");
+    const auto before = Snapshot(folder);
+    for (const rlim_t room : {rlim_t{0}, rlim_t{100}, rlim_t{1000}}) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            signal(SIGXFSZ, SIG_IGN);
+            const rlimit limit{room, room};
+            const bool limited = setrlimit(RLIMIT_FSIZE, &limit) == 0;
+            const std::string model = Model();
+            const bool saved = Attempt([] { objSkin->SaveSkin(false); });
+            _exit(limited && !saved && Model() == model ? 0 : 1);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << room;
+        const auto now = Snapshot(folder);
+        EXPECT_EQ(now.at("Blue/SkinSettings.xml"), before.at("Blue/SkinSettings.xml"));
+        if (room == 0) {
+            EXPECT_EQ(now, before);
+        }
+    }
+}
+
+TEST_F(WholeSave, NoFolderCanBeMade) {
+    Put(folder / "file", "");
+    objSkin->SetBasePath((folder / "file").string());
+    try {
+        objSkin->SaveSkin(false);
+        ADD_FAILURE();
+    } catch (const Failure& failure) {
+        EXPECT_NE(failure.description().find((folder / "file/Blue").string()), std::string::npos);
+    }
+}
+
+}  // namespace
+}  // namespace ornavo
