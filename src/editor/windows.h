@@ -6,6 +6,8 @@
 
 namespace ornavo {
 
+class Control;
+
 /// By the main window.
 class Canvas {
 public:
@@ -13,6 +15,22 @@ public:
     virtual void UpdateCurrentLayout() = 0;
     virtual void UpdateCaption() = 0;
     virtual void ResetFormToOriginal() = 0;
+    virtual void ResetSelection() {}
+    virtual void HideSelectionTools() {}  // handles and properties panel
+    /// Places the handles round the control and gives it back; without `keepSelection` it becomes the
+    /// selection.
+    virtual Control* PlaceAnchors(Control* control, bool /*keepSelection*/) { return control; }
+};
+
+/// By the properties panel; without one, nothing happens.
+class PropertiesPanel {
+public:
+    virtual ~PropertiesPanel() = default;
+    virtual void Open() {}  // shown if hidden, then ShowProperties
+    virtual void ShowProperties() {}
+    virtual void UnloadProperties() {}
+    virtual void Hide() {}
+    virtual bool IsShown() const { return false; }
 };
 
 /// By the program.
@@ -23,6 +41,14 @@ public:
     virtual void LoadDebug(std::string_view skinName) = 0;
     /// The end: every window but the main one closes.
     virtual void UnloadOthers() = 0;
+    virtual void ShowSkinProject() {}  // the project panel, at start
+    virtual void SaveSkin() {}         // what its Save button does
+    virtual void ShowToolbox() {}
+    virtual void ShowPreview() {}
+    virtual PropertiesPanel& properties() {
+        static PropertiesPanel none;
+        return none;
+    }
 };
 
 }  // namespace ornavo

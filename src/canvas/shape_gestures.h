@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// The pointer over a side; a point inserted; pressing and dragging a corner.
+#pragma once
+
+#include "canvas/canvas_parts.h"
+#include "platform/control.h"
+
+namespace ornavo {
+
+/// The side on which the pointer rests, by its box and 3 pixels more; 0 for none. Counts from 1.
+int LineUnderPointer(int x, int y);
+/// Inserts a point behind position `index`; pixels of the canvas, or of the side's control.
+void AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToLine);
+/// Writes the point of that Order, moves the sides that meet there and paints the surface.
+void MovePoint(CanvasParts& parts, int order, int x, int y);
+
+void cPoint_MouseDown(CanvasParts& parts, Control& line, const Mouse& mouse);
+void cPointMover_MouseDown(CanvasParts& parts, Control& corner, const Mouse& mouse);
+void cPointMover_MouseMove(CanvasParts& parts, Control& corner, const Mouse& mouse);
+void cPointMover_MouseUp(CanvasParts& parts, Control& corner, const Mouse& mouse);
+
+}  // namespace ornavo
