@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/fonts.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <algorithm>
 #include <array>
+#include <map>
+#include <tuple>
 
 #include "base/numbers.h"
 #include "base/text.h"
@@ -17,11 +20,14 @@ constexpr const char* LastResort = "DejaVu Sans";
 constexpr const char* SymbolFace = "Symbola";
 constexpr double DotsPerPoint = 96.0 / 72.0;
 constexpr double MostPoints = 2000;
+constexpr std::size_t MostFonts = 256;
+
+using FontKey = std::tuple<std::string, int, bool, bool, bool, bool>;  // name, pixels, attributes
 
 struct StandIn {
     const char* asked;
     const char* used;
-    int stretch = QFont::AnyStretch;  // where the stand-in runs wider than what was asked
+    int stretch = QFont::Unstretched;  // where the stand-in runs wider than what was asked
 };
 
 constexpr std::array StandIns = {
@@ -61,9 +67,7 @@ int PixelSize(double points) {
     return std::max(1, static_cast<int>(std::lround(known * DotsPerPoint)));
 }
 
-}  // namespace
-
-QFont ScreenFont(const Font& font) {
+QFont NewScreenFont(const Font& font) {
     const std::string face = FaceOf(font.Name);
     const bool symbols = IsSymbolFont(face);
     const StandIn* standIn = StandInOf(face);
@@ -72,9 +76,9 @@ QFont ScreenFont(const Font& font) {
     if (standIn) faces << standIn->used;
     screen.setFamilies(faces << LastResort);
     screen.setPixelSize(PixelSize(font.Size));
-    if (standIn && standIn->stretch != QFont::AnyStretch &&
-        !QFontDatabase::hasFamily(screen.families().front()))
-        screen.setStretch(standIn->stretch);
+    const bool stood = standIn && !QFontDatabase::hasFamily(screen.families().front());
+    // The application's own font is where a new one begins, its stretch included.
+    screen.setStretch(stood ? standIn->stretch : static_cast<int>(QFont::Unstretched));
     screen.setBold(font.Bold);
     screen.setItalic(font.Italic);
     screen.setUnderline(font.Underline);
@@ -83,6 +87,29 @@ QFont ScreenFont(const Font& font) {
         static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     screen.setHintingPreference(QFont::PreferVerticalHinting);
     return screen;
+}
+
+/// The fonts made so far: making one costs more than drawing a caption with it.
+std::map<FontKey, QFont>& MadeFonts() {
+    static std::map<FontKey, QFont> made;
+    return made;
+}
+
+void ForgetFonts() {
+    MadeFonts().clear();
+}
+
+}  // namespace
+
+QFont ScreenFont(const Font& font) {
+    static const bool once = (qAddPostRoutine(ForgetFonts), true);
+    static_cast<void>(once);
+    const FontKey key = {font.Name,   PixelSize(font.Size), font.Bold,
+                         font.Italic, font.Underline,       font.Strikethrough};
+    std::map<FontKey, QFont>& made = MadeFonts();
+    if (const auto found = made.find(key); found != made.end()) return found->second;
+    if (made.size() >= MostFonts) made.clear();
+    return made[key] = NewScreenFont(font);
 }
 
 QString ShownText(const Font& font, std::string_view text) {
