@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/screen.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <algorithm>
 
