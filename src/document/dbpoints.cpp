@@ -10,7 +10,7 @@ namespace ornavo {
 namespace {
 
 std::string KeyOf(const dbPoint& point) {
-    return "K" + std::to_string(point.Order);
+    return std::string("K").append(std::to_string(point.Order));
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ dbLayoutRef dbSkin::AddNewLayout(std::string_view name) {
 }
 
 std::string dbSkin::GetLayoutKey(std::string_view name) {
-    if (IsNumeric(name)) return "L" + std::string(name);
+    if (IsNumeric(name)) return std::string("L").append(name);
     return ReplaceAll(std::string(name), " ", "_");
 }
 

@@ -125,9 +125,10 @@ std::string GetNumericValue(const Value& value) {
 }
 
 std::string WriteXML(std::string_view tag, const Value& value) {
-    std::string line = "<" + ToFileBytes(tag) + ">";
+    const std::string name = ToFileBytes(tag);
+    std::string line = std::string("<").append(name).append(">");
     if (!AppendValue(line, value)) throw NoLine();
-    return line + "</" + ToFileBytes(tag) + ">";
+    return line.append("</").append(name).append(">");
 }
 
 bool AppendValue(std::string& bytes, bool value) {

@@ -27,7 +27,8 @@ std::string Substitute(std::string_view name, int number) {
     for (const std::string_view sign : {"?", "\r", "\n"}) plain = ReplaceAll(std::move(plain), sign, "_");
     if (number == 1) return plain;
     const std::size_t point = plain.rfind('.');
-    plain.insert(point == std::string::npos ? plain.size() : point, "-" + std::to_string(number));
+    plain.insert(point == std::string::npos ? plain.size() : point,
+                 std::string("-").append(std::to_string(number)));
     return plain;
 }
 

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+// Loading and saving a skin of many elements, beside an XML library's bare tree of the same bytes and beside
+// the file alone.
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <pugixml.hpp>
+#include <sstream>
+#include <string>
+
+#include "base/files.h"
+#include "document/dbskin.h"
+
+namespace ornavo {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int ElementCount = 5000;
+
+/// The real disk, but nobody waits for it: what an XML library does when it saves.
+class UnflushedLayer : public FileLayer {
+public:
+    void Flush(int) override {}
+    void FlushFolder(const fs::path&) override {}
+};
+
+std::string Numbered(const char* text, int i) {
+    return std::string(text).append(std::to_string(i));
+}
+
+void FillElement(dbLayoutElement& element, int i) {
+    element.ElementName = Numbered("Element number ", i);
+    element.LeftX = i % 1024;
+    element.TopY = i * 7 % 768;
+    element.WidthX = 40 + i % 100;
+    element.HeightY = 30;
+    element.LockLeft = element.LockTop = i % 2 == 0;
+    element.Caption = i % 3 == 0 ? Numbered("Caption ", i) : "";
+    element.Rotation = i % 5 == 0 ? 12.5 : 0;
+    element.UseTransparency = i % 4 == 0;
+    element.TextColor = 0xFFFFFF;
+    element.BackgroundColor = ButtonFace;
+    if (i % 6 == 0) element.Font = std::make_shared<Font>(Font{.Name = "Arial", .Size = 8.25, .Bold = true});
+}
+
+/// A folder with the skin, which is also well-formed XML, for as long as the program runs.
+class Sample {
+public:
+    Sample() {
+        std::string name = fs::temp_directory_path() / "ornavo-bench-XXXXXX";
+        folder = mkdtemp(name.data());
+        skin.SetBasePath(folder.string());
+        skin.SkinName = "Big";
+        const dbLayoutRef layout = skin.AddNewLayout("One");
+        layout->AddDummyPoints();
+        for (int i = 4; i <= ElementCount; ++i)
+            FillElement(*layout->dbLayoutElements->Add(i, Numbered("E", i), i % 5, i % 56), i);
+        skin.SaveSkin(false);
+        bytes = ReadFile(skin.SkinFile());
+    }
+    ~Sample() { fs::remove_all(folder); }
+    fs::path folder;
+    dbSkin skin;
+    std::string bytes;
+};
+
+Sample& sample() {
+    static Sample one;
+    return one;
+}
+
+void CountBytes(benchmark::State& state) {
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * sample().bytes.size()));
+}
+
+void LoadSkin(benchmark::State& state) {
+    for (auto _ : state) {
+        dbSkin skin;
+        skin.SetBasePath(sample().skin.BasePath());
+        skin.SkinName = "Big";
+        skin.LoadSkin();
+        if (skin.dbLayouts->Item(1)->dbLayoutElements->Count() != ElementCount)
+            state.SkipWithError("not loaded");
+        state.PauseTiming();
+        skin = dbSkin();
+        state.ResumeTiming();
+    }
+    CountBytes(state);
+}
+
+void LoadPugixmlBuffer(benchmark::State& state) {
+    for (auto _ : state) {
+        pugi::xml_document document;
+        if (!document.load_buffer(sample().bytes.data(), sample().bytes.size()))
+            state.SkipWithError("no XML");
+        state.PauseTiming();
+        document.reset();
+        state.ResumeTiming();
+    }
+    CountBytes(state);
+}
+
+void LoadPugixmlFile(benchmark::State& state) {
+    const std::string file = sample().skin.SkinFile();
+    for (auto _ : state) {
+        pugi::xml_document document;
+        if (!document.load_file(file.c_str())) state.SkipWithError("no XML");
+        state.PauseTiming();
+        document.reset();
+        state.ResumeTiming();
+    }
+    CountBytes(state);
+}
+
+void ReadPlainFile(benchmark::State& state) {
+    const std::string file = sample().skin.SkinFile();
+    for (auto _ : state) benchmark::DoNotOptimize(ReadFile(file));
+    CountBytes(state);
+}
+
+void CopyPlainFile(benchmark::State& state) {
+    const fs::path target = sample().folder / "copy.xml";
+    for (auto _ : state)
+        fs::copy_file(sample().skin.SkinFile(), target, fs::copy_options::overwrite_existing);
+    CountBytes(state);
+}
+
+void SaveSkin(benchmark::State& state, bool flushed) {
+    UnflushedLayer unflushed;
+    UseFileLayer(flushed ? nullptr : &unflushed);
+    for (auto _ : state) sample().skin.SaveSkin(false);
+    UseFileLayer(nullptr);
+    CountBytes(state);
+}
+
+/// pugixml's text into memory, then to the disk by the same steps as a skin.
+void SavePugixml(benchmark::State& state, bool flushed) {
+    UnflushedLayer unflushed;
+    UseFileLayer(flushed ? nullptr : &unflushed);
+    pugi::xml_document document;
+    document.load_buffer(sample().bytes.data(), sample().bytes.size());
+    struct Writer : pugi::xml_writer {
+        std::string bytes;
+        void write(const void* data, std::size_t size) override {
+            bytes.append(static_cast<const char*>(data), size);
+        }
+    };
+    for (auto _ : state) {
+        Writer writer;
+        document.save(writer, "\t", pugi::format_default, pugi::encoding_latin1);
+        ReplaceFile(sample().folder / "pugixml.xml", writer.bytes);
+    }
+    UseFileLayer(nullptr);
+    CountBytes(state);
+}
+
+/// The way that the library itself has.
+void SavePugixmlFile(benchmark::State& state) {
+    pugi::xml_document document;
+    document.load_buffer(sample().bytes.data(), sample().bytes.size());
+    const std::string file = sample().folder / "pugixml.xml";
+    for (auto _ : state) document.save_file(file.c_str(), "\t", pugi::format_default, pugi::encoding_latin1);
+    CountBytes(state);
+}
+
+void Medians(benchmark::internal::Benchmark* bench) {
+    bench->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggregatesOnly()->UseRealTime();
+}
+
+BENCHMARK(LoadSkin)->Apply(Medians);
+BENCHMARK(LoadPugixmlBuffer)->Apply(Medians);
+BENCHMARK(LoadPugixmlFile)->Apply(Medians);
+BENCHMARK(ReadPlainFile)->Apply(Medians);
+BENCHMARK(CopyPlainFile)->Apply(Medians);
+BENCHMARK_CAPTURE(SaveSkin, unflushed, false)->Apply(Medians);
+BENCHMARK_CAPTURE(SavePugixml, unflushed, false)->Apply(Medians);
+BENCHMARK(SavePugixmlFile)->Apply(Medians);
+BENCHMARK_CAPTURE(SaveSkin, flushed, true)->Apply(Medians);
+BENCHMARK_CAPTURE(SavePugixml, flushed, true)->Apply(Medians);
+
+}  // namespace
+}  // namespace ornavo
+
+BENCHMARK_MAIN();
