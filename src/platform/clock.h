@@ -10,8 +10,8 @@ namespace ornavo {
 class Clock {
 public:
     virtual ~Clock() = default;
-    virtual QDateTime Now() const;                // local time
-    virtual std::int64_t Milliseconds() const;    // never goes back
+    virtual QDateTime Now() const;              // local time
+    virtual std::int64_t Milliseconds() const;  // never goes back
 };
 const Clock& clock();
 void UseClock(const Clock* other);  // null: the real one again

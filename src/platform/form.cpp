@@ -37,7 +37,8 @@ bool CanBeGrasped(const QRect& title) {
 
 /// The desktop may tell a window's frame only some time after it was shown.
 bool TellsFrame(QEvent::Type type) {
-    return type == QEvent::Move || type == QEvent::Show || type == QEvent::Paint || type == QEvent::WindowActivate;
+    return type == QEvent::Move || type == QEvent::Show || type == QEvent::Paint ||
+           type == QEvent::WindowActivate;
 }
 
 /// The corner of a window of that outer size, moved onto the first screen if its title can't be grasped.

@@ -11,7 +11,9 @@ namespace ornavo {
 template <class T>
 class Pool {
 public:
-    explicit Pool(std::function<T*(int index)> make) : make_(std::move(make)) { controls_.push_back(make_(0)); }
+    explicit Pool(std::function<T*(int index)> make) : make_(std::move(make)) {
+        controls_.push_back(make_(0));
+    }
 
     int Top() const { return static_cast<int>(controls_.size()) - 1; }
     T& operator[](int index) const { return *controls_.at(static_cast<std::size_t>(index)); }
