@@ -53,15 +53,11 @@ double Median(std::vector<double> values) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: start START_WINDOW RICH_SKIN\n");
-        return 2;
-    }
+int main() {
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    Case cases[] = {{"empty Qt window", {argv[1]}, {}, {}},
-                    {"editor, no skin", {argv[1], "--editor"}, {}, {}},
-                    {"editor, rich skin", {argv[1], "--editor", argv[2]}, {}, {}}};
+    Case cases[] = {{"empty Qt window", {START_WINDOW}, {}, {}},
+                    {"editor, no skin", {START_WINDOW, "--editor"}, {}, {}},
+                    {"editor, rich skin", {START_WINDOW, "--editor", RICH_SKIN}, {}, {}}};
     for (int round = 0; round < Rounds; ++round)
         for (Case& one : cases) Run(one, true);
     const double time = Median(cases[0].milliseconds), memory = Median(cases[0].megabytes);

@@ -6,7 +6,8 @@
 namespace ornavo {
 
 LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
-    : listener_(listener),
+    : window_(window),
+      listener_(listener),
       Element([&window, this](int i) { return Listening(new TileButton(&window, "Element", i)); }),
       pInfo([&window, this](int i) { return Listening(new PictureBox(&window, "pInfo", i)); }),
       pMain(*new PictureBox(&window, "pMain")),
@@ -20,6 +21,8 @@ LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
 }
 
 void LayoutHost::ClearElements() {
+    // All of it is painted again anyway; told at once, Qt need not add up what every control uncovers.
+    window_.update();
     Element.Clear();
     pInfo.Clear();
     for (Control* single : std::initializer_list<Control*>{&tbx_Search, &Scrollframe, &ScrollBar, &pMain})

@@ -15,6 +15,7 @@ public:
     LayoutHost(QWidget& window, ControlEvents* listener);
 
 private:
+    QWidget& window_;
     ControlEvents* listener_;  // before the pools, which use it
 
 public:
