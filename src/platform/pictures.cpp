@@ -137,14 +137,25 @@ PictureRef LoadPicture(const fs::path& path) {
     return picture;
 }
 
-bool IsAnimatedGIF(const fs::path& path) {
-    Stamp stamp;
-    if (!StampOf(path, stamp)) return false;
+namespace {
+
+bool HasFrames(const fs::path& path) {
     QImageReader reader(FileName(path));
     PrepareReader(reader);
     if (reader.format() != "gif" || !reader.supportsAnimation()) return false;
     const QSize size = reader.size();
     return size.isValid() && PixelsOf(size) <= PicturePixelLimit && reader.imageCount() > 1;
+}
+
+}  // namespace
+
+bool IsAnimatedGIF(const fs::path& path) {
+    Stamp stamp;
+    if (!StampOf(path, stamp)) return false;
+    static std::map<Stamp, bool> known;  // counting frames reads the whole file
+    const auto [answer, isNew] = known.try_emplace(stamp, false);
+    if (isNew) answer->second = HasFrames(path);
+    return answer->second;
 }
 
 }  // namespace ornavo
