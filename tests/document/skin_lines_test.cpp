@@ -7,6 +7,19 @@
 namespace ornavo {
 namespace {
 
+struct Reading {
+    const char* bytes;
+    Value value;
+};
+struct Writing {
+    Value value;
+    const char* text;
+};
+struct Refusal {
+    Value value;
+    int number;
+};
+
 TEST(SkinLines, ALineIsTakenApart) {
     struct Row {
         const char *line, *tag, *value;  // no value: a line of structure
@@ -37,7 +50,7 @@ TEST(SkinLines, ALineIsTakenApart) {
 }
 
 TEST(SkinLines, AValueIsTypedByItsLook) {
-    const std::pair<const char*, Value> rows[] = {
+    const Reading rows[] = {
         {"True", true},
         {"Wahr", true},
         {"False", false},
@@ -85,7 +98,7 @@ TEST(SkinLines, TheUsersSignsCountForPlainNumbersOnly) {
 }
 
 TEST(SkinLines, NumbersAreWrittenByTheirFloor) {
-    const std::pair<Value, const char*> rows[] = {
+    const Writing rows[] = {
         {8.25, "+8.25"},
         {-1.5, "+-2.5"},
         {0.05, "+0.05"},
@@ -112,8 +125,8 @@ TEST(SkinLines, NumbersAreWrittenByTheirFloor) {
 }
 
 TEST(SkinLines, ValuesWithoutALine) {
-    const std::pair<Value, int> rows[] = {{false, 513}, {"", 513},         {Value(), 513},
-                                          {3e9, 6},     {"3000000000", 6}, {-2147483649.0, 6}};
+    const Refusal rows[] = {{false, 513}, {"", 513},         {Value(), 513},
+                            {3e9, 6},     {"3000000000", 6}, {-2147483649.0, 6}};
     for (const auto& [value, number] : rows) {
         try {
             ADD_FAILURE() << WriteXML("X", value);
