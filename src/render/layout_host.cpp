@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/layout_host.h"
 
+#include <QLineEdit>
 #include <initializer_list>
 
 namespace ornavo {
@@ -18,6 +19,9 @@ LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
     for (Control* single :
          std::initializer_list<Control*>{&pMain, &pMainBack, &tbx_Search, &Scrollframe, &ScrollBar})
         Listening(single);
+    // It stands for the jukebox's box: nobody types into the picture of it.
+    tbx_Search.Edit().setReadOnly(true);
+    tbx_Search.Edit().setFocusPolicy(Qt::NoFocus);
 }
 
 void LayoutHost::ClearElements() {
