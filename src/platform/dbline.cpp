@@ -3,17 +3,38 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <limits>
+#include <vector>
 
 namespace ornavo {
 namespace {
 
-constexpr int Spare = 2;  // keeps the control of a level or upright line from being empty
+constexpr int Spare = 2;        // keeps the control of a level or upright line from being empty
+constexpr int Farthest = 8192;  // pixels of the parent beyond which nobody points
 
 int Extent(int one, int two) {
     const std::int64_t distance = std::abs(std::int64_t{one} - two);
     return static_cast<int>(std::min<std::int64_t>(distance, std::numeric_limits<int>::max() - Spare));
+}
+
+/// What lies within so many pixels of the line, row by row; of a control at that place and size.
+QRegion NearLine(const Rect& line, int pixels, const Rect& control) {
+    const int first = std::max(0, -control.top), last = std::min(control.height, Farthest - control.top);
+    if (line.height == 0) return QRegion(0, 0, control.width, control.height);
+    const double slope = static_cast<double>(line.width) / line.height;
+    const double reach = pixels * std::sqrt(1 + slope * slope);  // of a row, on each side of the line
+    std::vector<QRect> rows;
+    for (int y = first; y < last; ++y) {
+        const double x = line.left + slope * (y - line.top);
+        const double from = std::max(0.0, std::ceil(x - reach));
+        const double to = std::min(control.width - 1.0, std::floor(x + reach));
+        if (from <= to) rows.emplace_back(QPoint(static_cast<int>(from), y), QPoint(static_cast<int>(to), y));
+    }
+    QRegion near;
+    near.setRects(rows.data(), static_cast<int>(rows.size()));
+    return near;
 }
 
 }  // namespace
@@ -69,6 +90,19 @@ void dbLine::LayInnerLine() {
     inner_.top = y1_ >= y2_ ? height : 0;
     inner_.height = y1_ >= y2_ ? -height : height;
     if (inner_ != before) update();
+    if (hitWidth_) MaskHits();
+}
+
+void dbLine::SetHitWidth(int pixels) {
+    hitWidth_ = pixels;
+    MaskHits();
+}
+
+void dbLine::MaskHits() {
+    if (hitWidth_)
+        setMask(NearLine(inner_, hitWidth_, Bounds()));
+    else
+        clearMask();
 }
 
 void dbLine::resizeEvent(QResizeEvent*) {

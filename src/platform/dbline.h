@@ -24,6 +24,9 @@ public:
 
     int BorderWidth = 1;
     Colour BorderColor = ornavo::ColourOf(0x80000008);
+    /// From now on the line alone is hit, with so many pixels to each side; what else its control covers lets
+    /// the mouse through to what lies below. 0: the whole control is hit.
+    void SetHitWidth(int pixels);
     Rect InnerLine() const { return inner_; }  // left, top to left + width, top + height; signed
 
 protected:
@@ -34,9 +37,11 @@ private:
     void PlaceAcross();
     void PlaceDown();
     void LayInnerLine();
+    void MaskHits();
 
     int x1_ = 0, y1_ = 0, x2_ = 0, y2_ = 0;
     Rect inner_;
+    int hitWidth_ = 0;
 };
 
 }  // namespace ornavo
