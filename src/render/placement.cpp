@@ -83,6 +83,21 @@ double PointOnAxis(int align, int distance, double target, double design, bool f
     }
 }
 
+double PointOffAxis(int align, int distance, int at, double target, double design) {
+    switch (align) {
+        case AlignStart:
+            return at;
+        case AlignMiddle:
+            return at - (target - design) / 2;
+        case AlignEnd:
+            return target - at;
+        case AlignStretch:
+            return Divided(at * design, target);
+        default:
+            return distance;
+    }
+}
+
 }  // namespace
 
 Rect GetElementRect(const dbLayoutElement& element, const Frame& frame) {
@@ -104,6 +119,13 @@ void WriteElementBounds(dbLayoutElement& element, const Rect& bounds, const Fram
 Point GetPointPosition(const dbPoint& point, const Frame& frame, bool forRegion) {
     return {ToLong(PointOnAxis(point.HAlign, point.X, frame.TargetWidth, frame.DesignWidth, forRegion)),
             ToLong(PointOnAxis(point.VAlign, point.Y, frame.TargetHeight, frame.DesignHeight, forRegion))};
+}
+
+void SetPointPosition(dbPoint& point, int x, int y, const Frame& frame) {
+    const int newX = ToLong(PointOffAxis(point.HAlign, point.X, x, frame.TargetWidth, frame.DesignWidth));
+    const int newY = ToLong(PointOffAxis(point.VAlign, point.Y, y, frame.TargetHeight, frame.DesignHeight));
+    point.X = newX;
+    point.Y = newY;
 }
 
 }  // namespace ornavo

@@ -27,4 +27,8 @@ void WriteElementBounds(dbLayoutElement& element, const Rect& bounds, const Fram
 /// The corner's place in the window. `forRegion`: for a region, which leaves out its right and bottom edge.
 Point GetPointPosition(const dbPoint& point, const Frame& frame, bool forRegion);
 
+/// The way back of the form that is not for a region: writes X and Y so that the corner stands there.
+/// Failures as above; the point is then unchanged, and so is a direction whose alignment is none.
+void SetPointPosition(dbPoint& point, int x, int y, const Frame& frame);
+
 }  // namespace ornavo
