@@ -21,4 +21,7 @@ inline constexpr Setting<bool> ShowElements = {"Ornavo", "ShowElements", true};
 inline constexpr Setting<bool> ShowGrid = {"Ornavo", "ShowGrid", true};
 inline constexpr Setting<bool> SnapGrid = {"Ornavo", "SnapGrid", false};
 
+inline constexpr Setting<int> ToolboxLeft = {"Toolbox", "Left", 15};
+inline constexpr Setting<int> ToolboxTop = {"Toolbox", "Top", 765};
+
 }  // namespace ornavo::settings

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "editor/skin_drop.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <QWidget>
+#include <exception>
+#include <string>
+
+#include "editor/windows.h"
+#include "platform/prompts.h"
+
+namespace ornavo {
+namespace {
+
+/// The folder or file that a drag brings; "" if it brings something else.
+std::string DroppedPath(const QDropEvent& event) {
+    const QList<QUrl> urls = event.mimeData()->urls();
+    return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile().toStdString() : "";
+}
+
+}  // namespace
+
+SkinDrop::SkinDrop(QWidget& window, Windows& windows) : QObject(&window), windows_(windows) {
+    window.setAcceptDrops(true);
+    window.installEventFilter(this);
+}
+
+bool SkinDrop::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop) return false;
+    auto& drop = *static_cast<QDropEvent*>(event);  // the base of both
+    const std::string path = DroppedPath(drop);
+    if (path.empty()) return false;
+    drop.acceptProposedAction();
+    if (event->type() == QEvent::DragEnter) return true;
+    try {
+        windows_.LoadDebug(path);
+    } catch (const std::exception& failure) {
+        prompts().Message(failure.what(), "Loading Skin Error", Icon::Critical, Buttons::Ok);
+    }
+    return true;
+}
+
+}  // namespace ornavo
