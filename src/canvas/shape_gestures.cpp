@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/shape_gestures.h"
+
+#include "base/failure.h"
+#include "canvas/corner_math.h"
+#include "canvas/shape_points.h"
+#include "document/current_skin.h"
+#include "document/shape_edits.h"
+#include "editor/selection.h"
+#include "render/target.h"
+#include "render/view_switches.h"
+
+namespace ornavo {
+namespace {
+
+enum ButtonCode { LeftButton = 1, RightButton = 2 };
+
+bool SideIsAt(const dbPoints& points, int index, Point at) {
+    const dbPoint& from = *points.Item(index);
+    const dbPoint& to = *points.Item(index % points.Count() + 1);
+    return IsNearSide(at, GetPointPosition(from, TargetFrame, false),
+                      GetPointPosition(to, TargetFrame, false));
+}
+
+/// A corner at that place, aligned to an edge nearby or as its neighbour. Failures of SetPointPosition.
+dbPointRef NewPoint(const dbPoint& neighbour, int x, int y, int order) {
+    auto point = std::make_shared<dbPoint>();
+    point->Order = order;
+    point->X = x;
+    point->Y = y;
+    point->HAlign = AlignOfNewPoint(x, TargetFrame.TargetWidth, neighbour.HAlign);
+    point->VAlign = AlignOfNewPoint(y, TargetFrame.TargetHeight, neighbour.VAlign);
+    SetPointPosition(*point, x, y, TargetFrame);
+    return point;
+}
+
+/// The key of a new corner is its Order, which an older corner may have as its key still.
+void InsertWithFreeKey(dbPoints& points, const dbPointRef& point, int after) {
+    while (points.Find(TagOfPoint(point->Order))) ++point->Order;
+    points.InsertObject(point, after);
+}
+
+dbPointRef SelectedPoint() {
+    if (!SelControl || SelControl->Name != "cPointMover" || !TargetLayout) return nullptr;
+    return TargetLayout->dbPoints->GetFromOrder(OrderOfTag(SelKey));
+}
+
+/// Orders have changed and controls were dealt anew: the selection stays with its corner.
+void SelectAgain(ShapePoints& points, const dbPoint& selected) {
+    SelControl = points.FindCorner(selected.Order);
+    SelKey = SelControl ? SelControl->Tag : "";
+    if (SelControl) SelControl->SetBackColor(PointBlinkColor);
+}
+
+void RemoveCorner(CanvasParts& parts, const std::string& tag) {
+    DeleteShapePoint(*objCurrentLayout, tag);
+    objSkin->Dirty = true;
+    parts.canvas.ResetSelection();
+    parts.canvas.UpdateCurrentLayout();
+    SelControl = nullptr;
+    SelKey.clear();
+    parts.windows.properties().Hide();
+}
+
+void GrabCorner(CanvasParts& parts, Control& corner, const Mouse& mouse) {
+    parts.drag.DragKind = DragCorner;
+    parts.drag.MouseIsDown = true;
+    parts.drag.DownX = mouse.x;
+    parts.drag.DownY = mouse.y;
+    parts.canvas.ResetSelection();
+    SelControl = &corner;
+    SelKey = corner.Tag;
+    corner.SetBackColor(PointBlinkColor);
+    parts.form.setFocus();
+}
+
+bool IsDragged(const CanvasParts& parts) {
+    return parts.drag.MouseIsDown && parts.drag.DragKind == DragCorner;
+}
+
+}  // namespace
+
+int LineUnderPointer(int x, int y) {
+    if (!objCurrentLayout) return 0;
+    const dbPoints& points = *objCurrentLayout->dbPoints;
+    for (int i = 1; i <= points.Count(); ++i) {
+        bool here = false;
+        Attempt([&] { here = SideIsAt(points, i, {x, y}); });
+        if (here) return i;
+    }
+    return 0;
+}
+
+void AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToLine) {
+    if (!TargetLayout || !objCurrentLayout || index < 1 || index > objCurrentLayout->dbPoints->Count())
+        return;
+    if (relativeToLine) {
+        const dbLine* side = parts.points.FindSide(index);
+        if (!side) return;
+        x += std::min(side->X1(), side->X2());
+        y += std::min(side->Y1(), side->Y2());
+    }
+    dbPoints& points = *TargetLayout->dbPoints;
+    const dbPointRef selected = SelectedPoint();
+    const bool added = Attempt([&] {
+        const dbPoint& neighbour = *objCurrentLayout->dbPoints->Item(index);
+        InsertWithFreeKey(points, NewPoint(neighbour, x, y, points.Count() + 1), index);
+    });
+    if (!added) return;
+    RenumberPoints(points);
+    objSkin->Dirty = true;
+    parts.canvas.UpdateCaption();
+    parts.points.ShowShapePoints();
+    if (selected) SelectAgain(parts.points, *selected);
+}
+
+void MovePoint(CanvasParts& parts, int order, int x, int y) {
+    const dbPointRef point = TargetLayout ? TargetLayout->dbPoints->GetFromOrder(order) : nullptr;
+    if (!point) return;
+    if (!Attempt([&] { SetPointPosition(*point, x, y, TargetFrame); })) return;
+    if (viewSwitches.ShowLines) parts.points.MoveSides(order);
+    parts.showGrid();
+}
+
+void cPoint_MouseDown(CanvasParts& parts, Control& line, const Mouse& mouse) {
+    AddShapePoint(parts, OrderOfTag("K" + line.Tag), mouse.x, mouse.y, true);
+}
+
+void cPointMover_MouseDown(CanvasParts& parts, Control& corner, const Mouse& mouse) {
+    if (mouse.button == LeftButton) return GrabCorner(parts, corner, mouse);
+    // The other button during a drag is a slip of the hand.
+    if (mouse.button == RightButton && !IsDragged(parts)) RemoveCorner(parts, corner.Tag);
+}
+
+void cPointMover_MouseMove(CanvasParts& parts, Control& corner, const Mouse& mouse) {
+    if (!IsDragged(parts)) return;
+    const Rect at = corner.Bounds();
+    const std::optional<Point> next = CornerStep({{at.left, at.top},
+                                                  {parts.drag.DownX, parts.drag.DownY},
+                                                  {mouse.x, mouse.y},
+                                                  viewSwitches.SnapGrid,
+                                                  viewSwitches.GridX,
+                                                  viewSwitches.GridY,
+                                                  {parts.form.ScaleWidth(), parts.form.ScaleHeight()}});
+    if (!next) return;
+    corner.Move({next->x, next->y, at.width, at.height});
+    MovePoint(parts, OrderOfTag(corner.Tag), next->x + CornerReach, next->y + CornerReach);
+    objSkin->Dirty = true;
+    parts.canvas.UpdateCaption();
+}
+
+void cPointMover_MouseUp(CanvasParts& parts, Control&, const Mouse& mouse) {
+    if (mouse.button != LeftButton) return;
+    parts.drag.MouseIsDown = false;
+    parts.drag.DragKind = DragNone;
+    parts.windows.properties().Open();
+    parts.form.activateWindow();
+    parts.form.setFocus();
+}
+
+}  // namespace ornavo
