@@ -13,22 +13,24 @@ import style
 TILE = 32
 
 
+def deep(pen, draw_path):
+    """Night under the glass, so that it does not pale on a light desktop."""
+    draw_path(pen)
+    style.solid(pen, style.DEEP, 0.7)
+    pen.fill()
+
+
 def pane(pen, accent, x=2, y=2, width=28, height=28, radius=6):
     """The ground of most pictures: a pane of glass with its shadow."""
     style.drop_shadow(pen, TILE, TILE, lambda p: style.rounded(p, x, y + 1, width, height, radius), radius=1, dy=0,
                       alpha=0.35)
+    deep(pen, lambda p: style.rounded(p, x, y, width, height, radius))
     style.glass(pen, x, y, width, height, radius, "selected", accent)
-
-
-def glyph(name, accent, size=18):
-    def draw(pen):
-        pane(pen, accent)
-        icons.icon(pen, name, (TILE - size) / 2, (TILE - size) / 2, size, style.ICE, shade=0.5)
-    return draw
 
 
 def button(pen):
     style.drop_shadow(pen, TILE, TILE, lambda p: style.rounded(p, 2, 8, 28, 18, 8), radius=1, dy=0, alpha=0.4)
+    deep(pen, lambda p: style.rounded(p, 2, 7, 28, 18, 8))
     style.glass(pen, 2, 7, 28, 18, 8, "selected", style.TEAL)
     icons.icon(pen, "play", 10, 10, 12, style.ICE, shade=0.5)
 
@@ -58,6 +60,7 @@ def graphic(pen):
 def volume(pen):
     """A dial with its mark."""
     style.drop_shadow(pen, TILE, TILE, lambda p: style.disc(p, 16, 17, 13.5), radius=1, dy=0, alpha=0.4)
+    deep(pen, lambda p: style.disc(p, 16, 16, 14))
     style.glass_disc(pen, 16, 16, 14, "selected", style.GREEN)
     pen.set_line_width(2.4)
     pen.set_line_cap(1)
