@@ -25,6 +25,12 @@ public:
         std::fprintf(stderr, "ornavo-cli: %.*s\n", static_cast<int>(text.size()), text.data());
         return Answer::Ok;
     }
+    std::optional<std::string> Input(std::string_view, std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
+    std::optional<std::string> File(const FileQuestion&) override { return std::nullopt; }
+    std::optional<Colour> ColourOf(Colour, CustomColours&) override { return std::nullopt; }
+    std::optional<Font> FontOf(const Font&) override { return std::nullopt; }
 };
 
 class OffscreenTarget : public QWidget, public CompositionTarget {

@@ -1,7 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/qt_prompts.h"
 
+#include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QInputDialog>
 #include <QMessageBox>
+#include <QRegularExpression>
+
+#include "platform/control.h"
 
 namespace ornavo {
 namespace {
@@ -14,6 +24,8 @@ QMessageBox::Icon BoxIcon(Icon icon) {
             return QMessageBox::Question;
         case Icon::Critical:
             return QMessageBox::Critical;
+        case Icon::Exclamation:
+            return QMessageBox::Warning;
         default:
             return QMessageBox::NoIcon;
     }
@@ -34,6 +46,17 @@ QString Shown(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// The folder, or the nearest one above it that is there.
+QString ExistingFolder(const std::string& folder) {
+    QFileInfo place(Shown(folder));
+    while (!folder.empty() && !place.isDir() && !place.isRoot()) place.setFile(place.absolutePath());
+    return folder.empty() ? QString() : place.absoluteFilePath();
+}
+
+Colour PlainColour(const QColor& colour) {
+    return Rgb(colour.red(), colour.green(), colour.blue());
+}
+
 }  // namespace
 
 Answer QtPrompts::Message(std::string_view text, std::string_view title, Icon icon, Buttons buttons) {
@@ -50,6 +73,78 @@ Answer QtPrompts::Message(std::string_view text, std::string_view title, Icon ic
         default:
             return buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
     }
+}
+
+QStringList NameFilters(std::string_view filter) {
+    const QStringList parts = Shown(filter).split(QRegularExpression("[|:]"), Qt::SkipEmptyParts);
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        // What stands in brackets would be taken for the patterns.
+        const QString name = parts[i].section('(', 0, 0).trimmed();
+        filters += name + " (" + QString(parts[i + 1]).replace(';', ' ') + ')';
+    }
+    return filters;
+}
+
+std::optional<std::string> QtPrompts::Input(std::string_view text, std::string_view title,
+                                            std::string_view proposal) {
+    QInputDialog box(QApplication::activeWindow());
+    box.setWindowTitle(Shown(title));
+    box.setLabelText(Shown(text));
+    box.setTextValue(Shown(proposal));
+    if (box.exec() != QDialog::Accepted) return std::nullopt;
+    return box.textValue().toStdString();
+}
+
+std::optional<std::string> QtPrompts::File(const FileQuestion& question) {
+    QFileDialog box(QApplication::activeWindow(), Shown(question.title), ExistingFolder(question.folder));
+    // The desktops' own boxes on Linux match filters with regard to case.
+#ifndef Q_OS_WIN
+    box.setOption(QFileDialog::DontUseNativeDialog);
+#endif
+    box.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    box.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (const QStringList filters = NameFilters(question.filter); !filters.isEmpty())
+        box.setNameFilters(filters);
+    if (!question.name.empty()) box.selectFile(Shown(question.name));
+    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
+    return box.selectedFiles().first().toStdString();
+}
+
+std::optional<Colour> QtPrompts::ColourOf(Colour start, CustomColours& custom) {
+    for (std::size_t i = 0; i < custom.size(); ++i)
+        QColorDialog::setCustomColor(static_cast<int>(i), ScreenColour(custom[i]));
+    QColorDialog box(ScreenColour(start), QApplication::activeWindow());
+    box.setOption(QColorDialog::DontUseNativeDialog);
+    const bool accepted = box.exec() == QDialog::Accepted;
+    for (std::size_t i = 0; i < custom.size(); ++i)
+        custom[i] = PlainColour(QColorDialog::customColor(static_cast<int>(i)));
+    if (!accepted) return std::nullopt;
+    const Colour chosen = PlainColour(box.selectedColor());
+    return chosen == TranslateColor(start) ? start : chosen;
+}
+
+std::optional<Font> QtPrompts::FontOf(const Font& start) {
+    QFont font(Shown(start.Name));
+    font.setPointSizeF(start.Size);
+    font.setBold(start.Bold);
+    font.setItalic(start.Italic);
+    font.setUnderline(start.Underline);
+    font.setStrikeOut(start.Strikethrough);
+    QFontDialog box(QApplication::activeWindow());
+    box.setOption(QFontDialog::DontUseNativeDialog);
+    box.setCurrentFont(font);
+    const QFont shown = box.currentFont();
+    if (box.exec() != QDialog::Accepted) return std::nullopt;
+    const QFont chosen = box.selectedFont();
+    Font result = start;
+    if (chosen.family() != shown.family()) result.Name = chosen.family().toStdString();
+    if (chosen.pointSizeF() != shown.pointSizeF()) result.Size = chosen.pointSizeF();
+    if (chosen.bold() != shown.bold()) result.Bold = chosen.bold();
+    if (chosen.italic() != shown.italic()) result.Italic = chosen.italic();
+    result.Underline = chosen.underline();
+    result.Strikethrough = chosen.strikeOut();
+    return result;
 }
 
 }  // namespace ornavo
