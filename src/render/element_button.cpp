@@ -45,14 +45,18 @@ void SetupElementGround(TileButton& button, const dbLayoutElement& element) {
     state.ShowSmooth = element.ShowSmooth;
 }
 
+void SetupElementRotation(TileButton& button, const dbLayoutElement& element) {
+    button.State.UseRotation = element.Rotation != 0;
+    button.State.Rotation = element.Rotation;
+}
+
 void SetupElementButton(TileButton& button, dbLayoutElement& element, bool preview) {
     SetTilePicture(button.Picture, button.AniPicture, element.PicNormal);
     SetTilePicture(button.PictureDown, button.AniPictureDown, element.PicDown);
     SetTilePicture(button.PictureOver, button.AniPictureOver, element.PicOver);
     SetupElementCaption(button, element);
     SetupElementGround(button, element);
-    button.State.UseRotation = element.Rotation != 0;
-    button.State.Rotation = element.Rotation;
+    SetupElementRotation(button, element);
     button.SetMousePointer(PointerOf(element, preview));
     button.Refresh();
     if (element.UseTopLeftTransparency) element.TransparentColor = button.TransparentColor();

@@ -14,7 +14,10 @@ void SetupElementButton(TileButton& button, dbLayoutElement& element, bool previ
 /// The one layer of such a button.
 void SetupElementCaption(TileButton& button, const dbLayoutElement& element);
 
-/// Border, ground, key colour and smoothness, as the scroll frame has them too.
+/// Border, ground, key colour and smoothness, as the scroll frame and its bar have them too.
 void SetupElementGround(TileButton& button, const dbLayoutElement& element);
+
+/// Turned by the element's angle, or not at all.
+void SetupElementRotation(TileButton& button, const dbLayoutElement& element);
 
 }  // namespace ornavo

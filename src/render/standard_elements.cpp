@@ -54,7 +54,19 @@ void SetupScrollElement(LayoutHost& host, const dbLayoutElement& element) {
     SetupElementGround(frame, element);
     frame.Refresh();
     host.ScrollBar.Move(ScrollBarRect(frame.Bounds()));
-    host.ScrollBar.Refresh();
+    SetupScrollBar(host.ScrollBar, element);
+}
+
+void SetupScrollBar(TileButton& bar, const dbLayoutElement& element) {
+    bar.Reset();
+    SetTilePicture(bar.Picture, bar.AniPicture, element.PicOn);
+    SetTilePicture(bar.PictureOver, bar.AniPictureOver, element.PicOver);
+    SetTilePicture(bar.PictureDown, bar.AniPictureDown, element.PicDown);
+    SetupElementCaption(bar, element);
+    bar.Elements.Item("Caption").Left = 0;  // an element's X margin is not for its bar
+    SetupElementGround(bar, element);
+    SetupElementRotation(bar, element);
+    bar.Refresh();
 }
 
 }  // namespace ornavo

@@ -12,6 +12,9 @@ void SetupMainPanel(LayoutHost& host, const dbLayoutElement& element);
 void SetupSearchElement(TextBox& box, const dbLayoutElement& element);
 void SetupScrollElement(LayoutHost& host, const dbLayoutElement& element);
 
+/// The bar of the frame, by the frame's own element: its picture is PicOn.
+void SetupScrollBar(TileButton& bar, const dbLayoutElement& element);
+
 /// The panel's background picture: tiled from its top left, or stretched over it on black.
 void DrawMainBackground(LayoutHost& host, bool stretch);
 

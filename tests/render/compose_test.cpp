@@ -199,6 +199,22 @@ TEST_F(ComposeTest, ThePanelIsTiledOrStretched) {
     EXPECT_EQ(At(20, 20), QColor(Qt::green));
 }
 
+TEST_F(ComposeTest, TheBarHasItsOwnPictureOverTheFrame) {
+    Picture("frame.bmp", Qt::red);
+    Picture("bar.bmp", Qt::blue);
+    dbLayoutElement& frame = Add("f", TypeScrollbar, {10, 0, 20, 90});
+    frame.PicNormal = "frame.bmp";
+    frame.PicOn = "bar.bmp";
+    Compose(target_);
+    EXPECT_EQ(At(20, 14), QColor(Qt::red));
+    EXPECT_EQ(At(20, 15), QColor(Qt::blue));
+    EXPECT_EQ(At(20, 64), QColor(Qt::blue));
+    EXPECT_EQ(At(20, 65), QColor(Qt::red));
+    frame.PicOn.clear();
+    Compose(target_);
+    EXPECT_NE(At(20, 40), QColor(Qt::blue));
+}
+
 TEST_F(ComposeTest, PicturesAreFoundAsTheyLieOnTheDisk) {
     Picture("Back.BMP", Qt::red);
     Add("case", TypePicture, {0, 0, 10, 10}).PicNormal = "back.bmp";
