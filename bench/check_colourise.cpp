@@ -45,7 +45,7 @@ std::uint8_t ToByte(float channel) {
 Pixel Expected(float H, float S, float L) {
     if (S == 0) return {ToByte(L), ToByte(L), ToByte(L)};
     const Wide wide = L;
-    const float min = static_cast<float>(wide > 0.5L ? wide - (1 - wide) * S : (1 - S) * wide);
+    const float min = static_cast<float>(wide > 0.5L ? wide - (1 - wide) * S : (1 - Wide(S)) * wide);
     const float max = static_cast<float>(wide + wide - min);
     const Wide d = static_cast<float>(Wide(max) - min);
     const int sixth = static_cast<int>(std::floor(H));     // -1 to 5
