@@ -106,11 +106,11 @@ def main_panel(page, rect, searchable=True):
     """The list under a pane of frosted glass with its rounded frame."""
     x, y, width, height = rect
     image, pen = style.surface(width + 16, height + 16)
-    style.glass(pen, 0, 0, width + 16, height + 16, 14, "quiet", TEAL)
+    art.frame(pen, width + 16, height + 16, 14)
     art.slices(page.folder, page, page.key.split("-")[0] + "Frame", image, (x - 8, y - 8, width + 16, height + 16),
                (20, width - 4), (20, height - 4))
     backdrop = scene.backdrop(*SIZE)
-    ground = page.folder.jpg(scene.frosted(backdrop, rect), "panel_" + page.key.split("-")[0].lower(), 84)
+    ground = page.folder.jpg(scene.frosted(backdrop, rect, 0.45), "panel_" + page.key.split("-")[0].lower(), 84)
     page.add("Main", MAIN, rect, "LTRB", BackgroundColor=skin_colour(NIGHT), PicNormal=ground, StretchBackground=True,
              MarginLeft=10, MarginRight=14, MarginTop=12, MarginBottom=12, name="Main")
 
@@ -126,13 +126,13 @@ def scroller(page, x, y, height, width=36):
              Font=SMALL, BackgroundColor=skin_colour(DEEP), name="Scrollbar")
 
 
-def transport(page, y, locks="B", big=80, small=58):
+def transport(page, y, locks="B", big=80, small=54):
     """Five round buttons around the middle of the window."""
     row = (("Previous", PREVIOUS, "previous", -2), ("Stop", STOP, "stop", -1), ("Play", PLAY, "play", 0),
            ("Pause", PAUSE, "pause", 1), ("Next", NEXT, "next", 2))
     for key, action, symbol, place in row:
         size = small if place else big
-        middle = 512 + place * (small + 8) + (0 if not place else (10 if place > 0 else -10))
+        middle = 512 + place * (small + 6) + (0 if not place else (10 if place > 0 else -10))
         pictures = three_states(page.folder, "transport_%s" % symbol, round_button(size, symbol, TEAL if place else GREEN))
         page.button(key, (middle - size // 2, y - size // 2, size, size), action, pictures, locks)
 
@@ -145,12 +145,12 @@ def small_buttons(page, x, y, entries, locks, gap=6, size=46):
 
 def volume_group(page, x, y):
     """Softer, the bar that fills, louder."""
-    for key, action, symbol, at in (("Softer", SOFTER, "volume_down", x), ("Louder", LOUDER, "volume_up", x + 170)):
+    for key, action, symbol, at in (("Softer", SOFTER, "volume_down", x), ("Louder", LOUDER, "volume_up", x + 162)):
         pictures = three_states(page.folder, "small_" + symbol, pane_button(42, 42, symbol, 10))
         page.button(key, (at, y, 42, 42), action, pictures, "RB", Value=10.5)
-    page.plate("VolumePlate", (x + 46, y, 120, 42), "RB")
-    page.info("VolumeBar", (x + 52, y + 5, 108, 32), LOUDNESS, page.folder.bmp(art.volume_bar(108, 32, False), "volume_0", NIGHT),
-              SMALL, ICE, "RB", PicOn=page.folder.bmp(art.volume_bar(108, 32, True), "volume_100", NIGHT),
+    page.plate("VolumePlate", (x + 46, y, 112, 42), "RB")
+    page.info("VolumeBar", (x + 52, y + 5, 100, 32), LOUDNESS, page.folder.bmp(art.volume_bar(100, 32, False), "volume_0", NIGHT),
+              SMALL, ICE, "RB", PicOn=page.folder.bmp(art.volume_bar(100, 32, True), "volume_100", NIGHT),
               VolumeChangeable=True)
 
 
@@ -235,10 +235,10 @@ def standard(skin, folder):
     main_panel(page, (24, 264, 932, 376))
     scroller(page, 970, 256, 392)
     transport(page, 705)
-    small_buttons(page, 22, 684, (("Shuffle", SHUFFLE, "shuffle", TEAL), ("Repeat", REPEAT, "repeat", TEAL),
+    small_buttons(page, 20, 674, (("Shuffle", SHUFFLE, "shuffle", TEAL), ("Repeat", REPEAT, "repeat", TEAL),
                                   ("Delete", DELETE, "delete", ROSE), ("Favourites", 47, "heart", ROSE)), "LB")
-    volume_group(page, 772, 684)
-    grip(page, 992, 714)
+    volume_group(page, 802, 674)
+    grip(page, 990, 718)
 
 
 def kiosk(skin, folder):
@@ -256,23 +256,25 @@ def kiosk(skin, folder):
             ("Top100", TOP, "trophy"), ("Special", SPECIAL, "special"), ("Playlist", PLAYLIST, "playlist"))
     captions = {"Top100": "Top 100"}
     for i, (key, action, symbol) in enumerate(side):
-        pictures = three_states(folder, "side_" + symbol, pane_button(156, 82, symbol, 14, part=0.44, left=14))
-        page.button(key, (20, 100 + i * 93, 156, 84), action, pictures, "L", "H", captions.get(key, key),
-                    Font("Tahoma", 13, True), CaptionX=48, CaptionY=31)
+        pictures = three_states(folder, "side_" + symbol, pane_button(156, 76, symbol, 14, part=0.44, left=14))
+        page.button(key, (20, 114 + i * 89, 156, 76), action, pictures, "L", "H", captions.get(key, key),
+                    Font("Tahoma", 13, True), CaptionX=48, CaptionY=26)
     main_panel(page, (200, 108, 752, 536))
-    page.add("SearchBox", SEARCH, (206, 700, 170, 26), "LB", TextColor=skin_colour(ICE), Font=Font("Tahoma", 12),
-             BackgroundColor=skin_colour("0a1730"), ShowBorder=True, name="Search Box")
+    page.picture("SearchField", (190, 694, 190, 38), "LB", "W", IsSearch=True,
+                 PicNormal=folder.png(art.search_field(190, 38), "search_field_kiosk"))
+    page.add("SearchBox", SEARCH, (224, 702, 140, 22), "LB", "W", TextColor=skin_colour(ICE), Font=ARTIST,
+             BackgroundColor=skin_colour("0a1730"), name="Search Box")
     scroller(page, 966, 100, 552, 40)
     big = (("Back", BACK, "back", TEAL), ("Keyboard", KEYBOARD, "keyboard", TEAL))
-    small_buttons(page, 24, 690, big, "LB", 8, 72)
+    small_buttons(page, 24, 692, big, "LB", 8, 72)
     for i, (key, action, symbol) in enumerate((("ListUp", UP, "up"), ("ListDown", DOWN, "down"))):
         pictures = three_states(folder, "wide_" + symbol, pane_button(120, 72, symbol, 16, GREEN, 0.5))
         page.button(key, (392 + i * 124, 682, 118, 70), action, pictures, "B")
     page.plate("CreditPlate", (776, 686, 224, 62), "RB", 12)
     page.picture("Coin", (786, 693, 48, 48), "RB", PicNormal=folder.png(coin(48), "coin"), Rotation=-12.5)
-    page.info("CreditLabel", (842, 693, 92, 22), LABEL, page.ground(62, 7, 22), TAB, MIST, "RB", InfoField="Credits")
-    page.info("Credits", (940, 693, 50, 46), CREDITS, page.ground(62, 7, 46), Font("Arial", 24, True), AMBER, "RB")
-    page.info("Found", (842, 716, 92, 20), FOUND, page.ground(62, 30, 20), SMALL, TEAL, "RB")
+    page.info("CreditLabel", (842, 693, 64, 22), LABEL, page.ground(62, 7, 22), TAB, MIST, "RB", InfoField="Credits")
+    page.info("Credits", (908, 693, 84, 46), CREDITS, page.ground(62, 7, 46), Font("Arial", 16, True), AMBER, "RB")
+    page.info("Found", (842, 716, 64, 20), FOUND, page.ground(62, 30, 20), SMALL, TEAL, "RB")
 
 
 def coin(size):
@@ -294,36 +296,36 @@ def admin(skin, folder):
     page.info("PlaylistName", (404, 19, 146, 22), LIST_NAME, page.ground(38, 8, 22), TAB, GREEN, "T")
     page.info("PlaylistDuration", (556, 19, 66, 22), LIST_DURATION, page.ground(38, 8, 22), DIGITS, ICE, "T")
     window_buttons(page, 15)
-    display(page, (16, 70, 992, 114))
+    display(page, (160, 70, 848, 114))
     rows = (("LoadList", LOAD, "Load", "playlist"), ("SaveList", SAVE, "Save", "album"),
             ("Generator", GENERATOR, "Generate", "magic"), ("AutoPlay", AUTOPLAY, "Auto play", "play"),
             ("AutoStop", AUTOPLAY_STOP, "Auto stop", "stop"), ("Video", VIDEO, "Video", "video"),
             ("Lyrics", LYRICS, "Lyrics", "lyrics"), ("Equalizer", EQUALISER, "Equalizer", "equaliser"),
             ("Tempo", TEMPO, "Tempo", "tempo"), ("Script", SCRIPT, "Script", "script"))
     for i, (key, action, caption, symbol) in enumerate(rows):
-        pictures = three_states(folder, "tool_" + symbol, pane_button(132, 42, symbol, 10, VIOLET if i > 4 else TEAL, 0.5, 10))
+        pictures = three_states(folder, "tool_" + symbol, pane_button(132, 50, symbol, 11, VIOLET if i > 4 else TEAL, 0.5, 10))
         more = {"dbScript": "Tidy up"} if action == SCRIPT else {}
-        page.button(key, (16, 196 + i * 48, 132, 43), action, pictures, "L", "H", caption, CaptionX=26, CaptionY=12, **more)
+        page.button(key, (16, 80 + i * 59, 132, 52), action, pictures, "L", "H", caption, CaptionX=26, CaptionY=16, **more)
     page.plate("SidePlate", (948, 200, 60, 476), "RTB", 12)
-    low, high = art.volume_column(40, 420, False), art.volume_column(40, 420, True)
-    page.info("VolumeColumn", (958, 216, 40, 420), LOUDNESS, folder.png(low, "column_0"), SMALL, ICE, "RT", Value=1,
+    low, high = art.volume_column(40, False), art.volume_column(40, True)
+    page.info("VolumeColumn", (958, 214, 40, 448), LOUDNESS, folder.png(low, "column_0"), SMALL, ICE, "RTB", Value=1,
               PicOn=folder.png(high, "column_100"), VolumeChangeable=True)
     main_panel(page, (168, 208, 760, 460))
     page.add("SearchBox", SEARCH, (330, 85, 200, 25), "LT", Visible=False, BackgroundColor=0xFFFFFF, name="Search Box")
     page.add("Scrollbar", SCROLLBAR, (954, 200, 40, 450), "RTB", Visible=False, BackgroundColor=0x8000000F)
-    transport(page, 726, "B", 72)
-    page.plate("StatePlate", (24, 702, 190, 48), "LB", 10)
+    transport(page, 721, "B", 72)
+    page.plate("StatePlate", (24, 697, 190, 48), "LB", 10)
     for i, (key, kind, label) in enumerate((("RepeatState", REPEATING, "Repeat"), ("ShuffleState", SHUFFLING, "Shuffle"))):
-        y = 707 + i * 19
+        y = 702 + i * 19
         ground = page.ground(48, 5 + i * 19, 19)
         page.info(key + "Label", (36, y, 62, 19), LABEL, ground, SMALL, MIST, "LB", InfoField=label)
         page.info(key, (100, y, 104, 19), kind, ground, SMALL, GREEN, "LB")
-    small_buttons(page, 774, 704, (("Rewind", REWIND, "rewind", TEAL), ("Forward", FORWARD, "forward", TEAL),
+    small_buttons(page, 804, 696, (("Rewind", REWIND, "rewind", TEAL), ("Forward", FORWARD, "forward", TEAL),
                                    ("AutoCue", AUTO_CUE, "clock", VIOLET), ("AutoMode", AUTO_MODE, "repeat", VIOLET)), "RB")
     for element in page.elements:
         if element["ActionType"] in (FORWARD, REWIND):
             element["Value"] = 10
-    grip(page, 994, 738)
+    grip(page, 992, 740)
 
 
 def preferences(skin, pictures):

@@ -69,6 +69,18 @@ def plate(width, height, radius=10):
     return image
 
 
+def frame(pen, width, height, radius):
+    """A ring of glass around something rectangular."""
+    for inset, colour, alpha in ((0.5, TEAL, 0.55), (7.5, TEAL, 0.30)):
+        rounded(pen, inset, inset, width - 2 * inset, height - 2 * inset, radius - inset)
+        if inset < 1:
+            style.solid(pen, NIGHT, 0.60)
+            pen.fill_preserve()
+        style.stroke(pen, colour, alpha, 1)
+    rounded(pen, 4, 4, width - 8, height - 8, radius - 4)
+    style.stroke(pen, WHITE, 0.05, 6)
+
+
 def plate_slice(height, top, part, width=1700):
     """The ground of a text that starts `top` pixels below the edge of a plate."""
     image, pen = surface(width, part)
@@ -193,14 +205,15 @@ def volume_bar(width, height, lit):
     return image
 
 
-def volume_column(width, height, lit):
+def volume_column(width, lit, height=1000, colourful=430):
+    """It hangs from the top and is cut off below, so the colours lie in its upper part."""
     image, pen = surface(width, height)
-    pen.set_source(plate_paint(height))
+    pen.set_source(plate_paint(colourful))
     pen.paint()
-    steps = height // 8
-    for i in range(steps):
-        tone = style.mix(GREEN, TEAL, i / steps * 2) if i < steps / 2 else style.mix(TEAL, ROSE, i / steps * 2 - 1)
-        rounded(pen, 4, height - 8 * (i + 1) + 1, width - 8, 6, 1.5)
+    for y in range(0, height, 8):
+        part = max(0, 1 - y / colourful)
+        tone = style.mix(GREEN, TEAL, part * 2) if part < 0.5 else style.mix(TEAL, ROSE, part * 2 - 1)
+        rounded(pen, 4, y + 1, width - 8, 6, 1.5)
         style.solid(pen, tone if lit else style.mix(PLATE_BOTTOM, tone, 0.18))
         pen.fill()
     return image

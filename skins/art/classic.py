@@ -96,7 +96,7 @@ class Page(Layout):
         if caption:
             fields.update(Caption=caption, Font=CAPTION, TextColor=skin_colour(INK), CaptionY=(rect[3] - 14) // 2)
         self.add(key, BUTTON, rect, locks, stretch, ActionType=action, UseTransparency=True, UseTopLeftTransparency=True,
-                 ShowSmooth=False, **faces, **fields)
+                 ShowSmooth=bool(stretch), **faces, **fields)
 
     def info(self, key, rect, kind, font, colour, locks, ground=PAPER, **fields):
         self.add(key, INFO, rect, locks, InfoType=kind, Font=font, TextColor=skin_colour(colour),
@@ -123,7 +123,7 @@ def paper():
 def name_plate(page, y):
     page.picture("Badge", (14, y, 30, 30), "LT", page.folder.png(badge(30, 30), "badge"), UseTransparency=True)
     page.button("Name", (46, y - 2, 110, 34), 0, {}, "LT", caption="Classic", Dragger=True)
-    page.elements[-1].update(Font=Font("Times New Roman", 18, True, True), TextColor=skin_colour(PAPER), CaptionY=2,
+    page.elements[-1].update(Font=Font("Times New Roman", 18, True, True), TextColor=skin_colour(PAPER), CaptionY=4,
                              ShowShadow=True, ShadowDistance=1, ShadowColor=skin_colour(DARK_WOOD),
                              UseTopLeftTransparency=False)
     for i, (key, action, symbol) in enumerate((("Close", 13, "close"), ("Maximise", 14, "maximise"),
@@ -169,6 +169,8 @@ def transport(page, y):
 
 def lists(page, rect):
     x, y, width, height = rect
+    page.picture("ListSheet", (x - 1, y - 1, width - 40, height + 2), "LTRB", page.folder.gif(sheet(), "sheet", PAPER),
+                 ShowBorder=True, BorderColor=skin_colour(WOOD))
     page.add("Main", MAIN, (x, y, width - 42, height), "LTRB", BackgroundColor=skin_colour(PAPER), MarginLeft=8,
              MarginRight=10, MarginTop=8, MarginBottom=8)
     page.add("Scrollbar", SCROLLBAR, (x + width - 34, y, 34, height), "RTB", BackgroundColor=skin_colour(SAND),
@@ -210,7 +212,7 @@ def kiosk(skin, folder):
     ground(page, 64, 62)
     page.info("NowPlaying", (16, 14, 560, 36), 1, TITLE, PAPER, "LTR", DARK_WOOD, CapScrollSpeed=3)
     page.info("CreditLabel", (592, 14, 110, 36), 0, Font("Tahoma", 14, True), PAPER, "RT", DARK_WOOD, InfoField=" Credits")
-    page.info("Credits", (702, 14, 82, 36), 15, Font("Tahoma", 20, True), "ffd98a", "RT", DARK_WOOD)
+    page.info("Credits", (702, 14, 82, 36), 15, Font("Tahoma", 16, True), "ffd98a", "RT", DARK_WOOD)
     faces = pictures(folder, "side", face(130, 60))
     for i, (caption, action) in enumerate((*TABS, ("Back", 19))):
         page.button(caption.replace(" ", ""), (12, 76 + i * 77, 130, 67), action, faces, "L", "H", caption, ShowShadow=False)
