@@ -42,6 +42,8 @@ public:
     /// Gathers the pictures into the skin's folder and writes the file, whole or not at all. Failure when
     /// it can't; the model is then as it was.
     void SaveSkin(bool keepExisting);
+    /// The bytes of the settings file as the skin stands now, pictures where they are.
+    std::string FileBytes() const;
 
 private:
     std::string basePath_;

@@ -180,19 +180,6 @@ void AppendLayouts(std::string& file, const dbLayouts& layouts) {
     file += Line(1, "/Layouts");
 }
 
-std::string FileBytes(const dbSkin& skin) {
-    static const ValueLines<dbSkin> lines(1, {"SkinName", "SkinWidth", "SkinHeight"});
-    std::string file(Header);
-    file += Line(0, "Skin");
-    lines.Append(file, skin);
-    file += "\r\n";
-    AppendPrefs(file, *skin.dbSkinPrefs);
-    file += "\r\n";
-    AppendLayouts(file, *skin.dbLayouts);
-    file += Line(0, "/Skin");
-    return file;
-}
-
 void PackagePictures(dbSkin& skin, bool keepExisting, Probation& probation) {
     for (const dbSkinPrefRef& pref : *skin.dbSkinPrefs)
         if (pref->PrefType == KindPicture)
@@ -211,6 +198,19 @@ void PackagePictures(dbSkin& skin, bool keepExisting, Probation& probation) {
 
 }  // namespace
 
+std::string dbSkin::FileBytes() const {
+    static const ValueLines<dbSkin> lines(1, {"SkinName", "SkinWidth", "SkinHeight"});
+    std::string file(Header);
+    file += Line(0, "Skin");
+    lines.Append(file, *this);
+    file += "\r\n";
+    AppendPrefs(file, *dbSkinPrefs);
+    file += "\r\n";
+    AppendLayouts(file, *dbLayouts);
+    file += Line(0, "/Skin");
+    return file;
+}
+
 void dbSkin::SaveSkin(bool keepExisting) {
     if (SkinName.empty() || SkinName == "." || SkinName == ".." || ContainsSeparator(SkinName))
         throw Failure(75, "SaveSkin", "A skin's folder can't be called \"" + SkinName + "\"");
@@ -220,7 +220,7 @@ void dbSkin::SaveSkin(bool keepExisting) {
     if (!CreateFolderOnce(folder) && !MakePath(folder))
         throw Failure(75, "SaveSkin", "The folder \"" + folder + "\" could not be made");
     PackagePictures(*this, keepExisting, probation);
-    ReplaceFile(OnDisk(SkinFile()), FileBytes(*this));
+    ReplaceFile(OnDisk(SkinFile()), FileBytes());
     OldSkinName = SkinName;
     Dirty = false;
     probation.Keep();

@@ -24,4 +24,11 @@ inline constexpr Setting<bool> SnapGrid = {"Ornavo", "SnapGrid", false};
 inline constexpr Setting<int> ToolboxLeft = {"Toolbox", "Left", 15};
 inline constexpr Setting<int> ToolboxTop = {"Toolbox", "Top", 765};
 
+inline constexpr Setting<int> SkinProjectLeft = {"SkinProject", "Left", 10830};
+inline constexpr Setting<int> SkinProjectTop = {"SkinProject", "Top", 945};
+inline constexpr Setting<int> SkinProjectHeight = {"SkinProject", "Height", 3090};
+
+inline constexpr Setting<int> NewSkinWidth = {"CreateNewSkin", "Width", 1024};  // pixels
+inline constexpr Setting<int> NewSkinHeight = {"CreateNewSkin", "Height", 768};
+
 }  // namespace ornavo::settings

@@ -39,6 +39,9 @@ public:
     virtual ~Windows() = default;
     /// Opens the skin that a text names: a name in the program's own "Skins", or a path. Failure if it can't.
     virtual void LoadDebug(std::string_view skinName) = 0;
+    /// The beginning of the end: the project panel asks and closes. False when a save failed: then nothing
+    /// else closes.
+    virtual bool MayClose() { return true; }
     /// The end: every window but the main one closes.
     virtual void UnloadOthers() = 0;
     virtual void ShowSkinProject() {}  // the project panel, at start

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/form.h"
 
-#include <QEvent>
+#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <algorithm>
@@ -114,6 +114,7 @@ void Form::resizeEvent(QResizeEvent*) {
 }
 
 void Form::closeEvent(QCloseEvent* event) {
+    if (!Form_QueryUnload()) return event->ignore();
     Form_Unload();
     QWidget::closeEvent(event);
 }

@@ -38,7 +38,8 @@ protected:
     bool event(QEvent*) override;
     virtual void Form_Activate() {}
     virtual void Form_Resize() {}
-    virtual void Form_Unload() {}  // the window closes
+    virtual bool Form_QueryUnload() { return true; }  // whether the window may close
+    virtual void Form_Unload() {}                     // it closes
     void resizeEvent(QResizeEvent*) override;
     void closeEvent(QCloseEvent*) override;
 
