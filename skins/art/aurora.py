@@ -6,7 +6,7 @@ import mock
 import style
 from aurora_art import pane_button, round_button, three_states
 from skinfile import BUTTON, INFO, MAIN, PICTURE, SCROLLBAR, SEARCH, STRETCHED, VOLUME, Font, Layout, Skin
-from style import AMBER, DEEP, GREEN, ICE, MIST, NIGHT, ROSE, TEAL, VIOLET, WHITE, skin_colour
+from style import AMBER, DEEP, GREEN, ICE, MIST, NIGHT, ROSE, TEAL, VIOLET, skin_colour
 
 SIZE = (1024, 768)
 

@@ -4,7 +4,7 @@ import math
 
 import style
 from icons import icon, star_points
-from style import (AMBER, BLACK, DEEP, GREEN, ICE, MIST, NIGHT, ROSE, STATES, TEAL, VIOLET, WHITE, glass, glass_disc,
+from style import (AMBER, BLACK, DEEP, GREEN, ICE, NIGHT, ROSE, STATES, TEAL, VIOLET, WHITE, glass, glass_disc,
                    rounded, surface)
 
 FIELDS = {"normal": "PicNormal", "over": "PicOver", "down": "PicDown"}

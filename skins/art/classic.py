@@ -175,6 +175,7 @@ def lists(page, rect):
              MarginRight=10, MarginTop=8, MarginBottom=8)
     page.add("Scrollbar", SCROLLBAR, (x + width - 34, y, 34, height), "RTB", BackgroundColor=skin_colour(SAND),
              ShowBorder=True, BorderColor=skin_colour(WOOD), Font=TEXT,
+             UseTransparency=True, UseTopLeftTransparency=True,
              **{"Pic" + field: page.folder.bmp(face(34, 60)(state), "bar_" + state, DARK_WOOD)
                 for field, state in (("On", "normal"), ("Over", "over"), ("Down", "down"))})
 
