@@ -1,26 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/frm_ornavo.h"
 
-#include <QDragEnterEvent>
-#include <QMimeData>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QShortcut>
 #include <algorithm>
 
 #include "base/failure.h"
+#include "canvas/dragging.h"
+#include "canvas/element_families.h"
+#include "canvas/keys.h"
 #include "canvas/view_settings.h"
 #include "canvas/welcome.h"
 #include "document/current_skin.h"
+#include "editor/selection.h"
 #include "editor/settings_keys.h"
+#include "editor/skin_drop.h"
 #include "platform/prompts.h"
 #include "render/compose.h"
 
 namespace ornavo {
 namespace {
 
-constexpr int ResizerInterval = 200;  // milliseconds
-constexpr int LeastTwips = 9000;      // the window's least width and height, outside
-constexpr int MostPixels = 8000;      // a larger skin does not make the window larger
+constexpr int SelectorInterval = 500, ResizerInterval = 200, ShowPropertiesInterval = 500;  // milliseconds
+constexpr int LeastTwips = 9000;  // the window's least width and height, outside
+constexpr int MostPixels = 8000;  // a larger skin does not make the window larger
 constexpr const char* LoadingError = "Loading Skin Error";
 
 bool SkinIsOpen() {
@@ -31,25 +37,50 @@ bool LayoutIsShown() {
     return objCurrentLayout && !objCurrentLayout->Key.empty();
 }
 
-/// The folder or file that a drag brings; "" if it brings something else.
-QString DroppedPath(const QMimeData* data) {
-    const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
-}
-
 }  // namespace
 
 frm_Ornavo::frm_Ornavo(Windows& windows, std::string version)
     : Form(nullptr, "frm_Ornavo", Qt::Window),
       windows_(windows),
       version_(std::move(version)),
-      host_(*this, nullptr) {
+      parts_{
+          *this, *this, host_, anchors_, points_, windows, drag_, tmrShowProperties, [this] { ShowGrid(); }},
+      events_(parts_),
+      host_(*this, &events_),
+      points_(*this, &events_),
+      anchors_(*this, &events_, drag_, windows) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setAcceptDrops(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAccessibleName("Canvas");
+    new SkinDrop(*this, windows);
+    // Here it only shows how the jukebox's box will look.
+    host_.tbx_Search.Edit().setReadOnly(true);
+    host_.tbx_Search.Edit().setFocusPolicy(Qt::NoFocus);
+    AddShortcut(Qt::Key_F5, KeyF5, 0);
+    AddShortcut(QKeySequence::fromString("Ctrl+S"), KeyS, 2);
+    SetTimers();
+    Form_Load();
+}
+
+void frm_Ornavo::AddShortcut(const QKeySequence& keys, int keyCode, int shift) {
+    auto* shortcut = new QShortcut(keys, this);
+    shortcut->setContext(Qt::ApplicationShortcut);
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, keyCode, shift] { Form_KeyDown(parts_, keyCode, shift); });
+}
+
+void frm_Ornavo::SetTimers() {
+    tmrSelector.setInterval(SelectorInterval);
+    connect(&tmrSelector, &QTimer::timeout, this, &frm_Ornavo::tmrSelector_Timer);
+    tmrSelector.start();
     tmrResizer.setInterval(ResizerInterval);
     tmrResizer.setSingleShot(true);
     connect(&tmrResizer, &QTimer::timeout, this, &frm_Ornavo::tmrResizer_Timer);
-    Form_Load();
+    tmrShowProperties.setInterval(ShowPropertiesInterval);
+    tmrShowProperties.setSingleShot(true);
+    connect(&tmrShowProperties, &QTimer::timeout, this, [this] { windows_.properties().ShowProperties(); });
 }
 
 void frm_Ornavo::Form_Load() {
@@ -74,6 +105,7 @@ void frm_Ornavo::Start(std::string commandLine) {
     commandLine_ = std::move(commandLine);
     Form_Activate();
     show();
+    windows_.ShowSkinProject();
     if (!problem_.empty()) prompts().Message(problem_, LoadingError, Icon::Critical, Buttons::Ok);
 }
 
@@ -100,12 +132,38 @@ void frm_Ornavo::Form_Resize() {
 void frm_Ornavo::tmrResizer_Timer() {
     tmrResizer.stop();
     ShowGrid();
-    if (SkinIsOpen() && IsActivated) UpdateCurrentLayout();
+    if (!SkinIsOpen() || !IsActivated) return;
+    UpdateCurrentLayout();
+    if (SelControl && FamilyOf(*SelControl)) PlaceAnchors(SelControl, false);
+}
+
+void frm_Ornavo::tmrSelector_Timer() {
+    if (!SelControl || SelControl->Name != "cPointMover") return;
+    SelControl->SetBackColor(SelControl->BackColor() == PointColor ? PointBlinkColor : PointColor);
 }
 
 void frm_Ornavo::UpdateCurrentLayout() {
     UpdateCaption();
+    // A composition hides all controls, and a hidden one hears of no release.
+    if (TargetLayout == objCurrentLayout)
+        FinishDrag(parts_);
+    else
+        HideSelectionTools();
     ComposeLayout(*this, objCurrentLayout, objSkin->SkinWidth, objSkin->SkinHeight);
+    anchors_.FollowSelection(host_, points_);
+}
+
+void frm_Ornavo::ResetSelection() {
+    anchors_.ResetSelection();
+}
+
+void frm_Ornavo::HideSelectionTools() {
+    anchors_.HideSelectionTools();
+    tmrShowProperties.stop();
+}
+
+Control* frm_Ornavo::PlaceAnchors(Control* control, bool keepSelection) {
+    return anchors_.PlaceAnchors(control, keepSelection);
 }
 
 void frm_Ornavo::UpdateCaption() {
@@ -142,23 +200,22 @@ void frm_Ornavo::paintEvent(QPaintEvent* event) {
     if (!LayoutIsShown()) PaintWelcome(painter, rect(), SkinIsOpen() ? objSkin->SkinName : "");
 }
 
-void frm_Ornavo::dragEnterEvent(QDragEnterEvent* event) {
-    if (!DroppedPath(event->mimeData()).isEmpty()) event->acceptProposedAction();
+void frm_Ornavo::keyPressEvent(QKeyEvent* event) {
+    if (!Form_KeyDown(parts_, KeyCodeOf(event->key()), ShiftOf(event->modifiers())))
+        Form::keyPressEvent(event);
 }
 
-void frm_Ornavo::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
-    OpenOrTell(DroppedPath(event->mimeData()).toStdString());
+void frm_Ornavo::mousePressEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    events_.Form_MouseDown(at.x(), at.y());
 }
 
-void frm_Ornavo::OpenOrTell(const std::string& skinName) {
-    try {
-        windows_.LoadDebug(skinName);
-        objSkin->SetupSkinPrefs();
-    } catch (const Failure& failure) {
-        prompts().Message(failure.description(), LoadingError, Icon::Critical, Buttons::Ok);
-    }
+void frm_Ornavo::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    events_.Form_MouseMove(at.x(), at.y());
 }
+
+void frm_Ornavo::mouseDoubleClickEvent(QMouseEvent*) {}  // the first press has done it
 
 void frm_Ornavo::Form_Unload() {
     windows_.UnloadOthers();

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The main window: the canvas on which a layout stands as the jukebox would show it. Its life, its settings
-// and its one deferred rebuild.
+// The main window: the canvas on which a layout stands as the jukebox would show it. Its life, its settings,
+// its timers; owner of the parts that the gestures work on.
 #pragma once
 
 #include <QTimer>
 #include <string>
 
+#include "canvas/anchors.h"
+#include "canvas/canvas_events.h"
+#include "canvas/canvas_parts.h"
+#include "canvas/shape_points.h"
 #include "editor/windows.h"
 #include "platform/form.h"
 #include "render/layout_host.h"
@@ -26,33 +30,51 @@ public:
     void UpdateCurrentLayout() override;
     void UpdateCaption() override;
     void ResetFormToOriginal() override;
+    void ResetSelection() override;
+    void HideSelectionTools() override;
+    Control* PlaceAnchors(Control* control, bool keepSelection) override;
 
     int ScaleWidth() const override { return Form::ScaleWidth(); }
     int ScaleHeight() const override { return Form::ScaleHeight(); }
     LayoutHost& host() override { return host_; }
+    void ShowShapePoints() override { points_.ShowShapePoints(); }
     void ShowGrid() override;
 
-    QTimer tmrResizer;  // 200 ms after the last resize
+    CanvasParts& parts() { return parts_; }
+
+    QTimer tmrSelector;        // 500 ms, always: a selected corner blinks
+    QTimer tmrResizer;         // 200 ms after the last resize
+    QTimer tmrShowProperties;  // 500 ms after the last key
+    void tmrSelector_Timer();
     void tmrResizer_Timer();
 
 protected:
     void Form_Activate() override;
     void Form_Resize() override;
+    bool Form_QueryUnload() override { return windows_.MayClose(); }
     void Form_Unload() override;
     void paintEvent(QPaintEvent*) override;
-    void dragEnterEvent(QDragEnterEvent*) override;
-    void dropEvent(QDropEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
 
 private:
     void Form_Load();
+    void SetTimers();
+    void AddShortcut(const QKeySequence& keys, int keyCode, int shift);
     void SaveSettings() const;
-    void OpenOrTell(const std::string& skinName);
 
     Windows& windows_;
     std::string version_;
     std::string commandLine_;
     std::string problem_;  // why the skin of the command line could not be opened
+    DragState drag_;
+    CanvasParts parts_;
+    CanvasEvents events_;
     LayoutHost host_;
+    ShapePoints points_;
+    Anchors anchors_;
     Surface surface_;
     bool IsLoading = false;
     bool IsFirstActivate = false;

@@ -11,8 +11,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int LeastCorner = -2, CornerRest = 3;  // a corner's centre lies 2 pixels into it
-
 /// Which side a handle moves: -1 the near one, 1 the far one, 0 none.
 struct HandleSides {
     int across, down;
@@ -87,13 +85,6 @@ Rect NudgeStep(const Rect& bounds, Point direction, int shift) {
 Point CornerNudge(Point direction, int shift) {
     const int step = shift == 0 ? 1 : 10;
     return {direction.x * step, direction.y * step};
-}
-
-Point KeepCorner(Point corner, const Size& canvas) {
-    const auto kept = [](int at, int extent) {
-        return std::min(std::max(at, LeastCorner), extent - CornerRest);
-    };
-    return {kept(corner.x, canvas.width), kept(corner.y, canvas.height)};
 }
 
 }  // namespace ornavo

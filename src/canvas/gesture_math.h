@@ -35,7 +35,4 @@ Rect NudgeStep(const Rect& bounds, Point direction, int shift);
 /// The way of an arrow key for a corner: 1, with any modifier 10.
 Point CornerNudge(Point direction, int shift);
 
-/// A corner's place, kept so that its centre stays on a canvas of that size.
-Point KeepCorner(Point corner, const Size& canvas);
-
 }  // namespace ornavo

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/anchors.h"
+
+#include "canvas/gesture_math.h"
+#include "canvas/shape_points.h"
+#include "editor/selection.h"
+#include "render/layout_host.h"
+
+namespace ornavo {
+namespace {
+
+struct HandleLook {
+    int pointer;  // of SetMousePointer
+    const char* tip;
+};
+constexpr std::array<HandleLook, 8> Looks = {{
+    {8, "Drag to move the top left corner"},
+    {7, "Drag to move the top edge"},
+    {6, "Drag to move the top right corner"},
+    {9, "Drag to move the right edge"},
+    {8, "Drag to move the bottom right corner"},
+    {7, "Drag to move the bottom edge"},
+    {6, "Drag to move the bottom left corner"},
+    {9, "Drag to move the left edge"},
+}};
+
+void PutCornerColour(Control* control) {
+    if (control && control->Name == "cPointMover") control->SetBackColor(PointColor);
+}
+
+template <class T>
+Control* InPool(const Pool<T>& pool, const std::string& tag) {
+    for (int i = 1; i <= pool.Top(); ++i)
+        if (pool[i].Tag == tag) return &pool[i];
+    return nullptr;
+}
+
+Control* ElementControl(LayoutHost& host, const std::string& key) {
+    for (Control* single : {static_cast<Control*>(&host.pMain), static_cast<Control*>(&host.tbx_Search),
+                            static_cast<Control*>(&host.Scrollframe)})
+        if (!single->isHidden() && single->Tag == key) return single;
+    Control* found = InPool(host.Element, key);
+    return found ? found : InPool(host.pInfo, key);
+}
+
+}  // namespace
+
+Anchors::Anchors(QWidget& window, ControlEvents* listener, DragState& drag, Windows& windows)
+    : Mover(*new Control(&window, "Mover")), drag_(drag), windows_(windows) {
+    for (std::size_t i = 0; i < Anchor.size(); ++i) {
+        PictureBox* handle = new PictureBox(&window, "Anchor", static_cast<int>(i));
+        handle->SetBackColor(PointColor);
+        handle->SetMousePointer(Looks[i].pointer);
+        handle->setToolTip(Looks[i].tip);
+        handle->setAccessibleName(Looks[i].tip);
+        handle->Listen(listener);
+        Anchor[i] = handle;
+    }
+    Mover.setAttribute(Qt::WA_TransparentForMouseEvents);
+    ShowHandles(false);
+}
+
+Control* Anchors::PlaceAnchors(Control* control, bool keepSelection) {
+    if (!control || control->isHidden()) {
+        HideAnchors();
+        return control;
+    }
+    if (!keepSelection) {
+        SelKey = control->Tag;
+        SelControl = control;
+    }
+    drag_.IsPlacing = true;
+    const Rect bounds = control->Bounds();
+    const std::array<Point, 8> places = HandlePlaces(bounds);
+    for (std::size_t i = 0; i < Anchor.size(); ++i)
+        Anchor[i]->Move({places[i].x, places[i].y, HandleSize, HandleSize});
+    Mover.Move(bounds);
+    drag_.IsPlacing = false;
+    RaiseHandles();
+    if (keepSelection) return control;
+    ShowHandles(true);
+    Mover.ZOrder();
+    return control;
+}
+
+void Anchors::HideAnchors() {
+    ShowHandles(false);
+    if (!KeepPropertiesOpen && windows_.properties().IsShown()) windows_.properties().Hide();
+    KeepPropertiesOpen = false;
+}
+
+void Anchors::ResetSelection() {
+    if (!SelControl) return;
+    HideAnchors();
+    PutCornerColour(SelControl);
+    SelControl = nullptr;
+    SelKey.clear();
+}
+
+void Anchors::HideSelectionTools() {
+    ShowHandles(false);
+    if (windows_.properties().IsShown()) windows_.properties().Hide();
+    PutCornerColour(SelControl);
+    SelControl = nullptr;
+    SelKey.clear();
+    // A hidden control hears of no release.
+    drag_.MouseIsDown = false;
+    drag_.DragKind = DragNone;
+}
+
+void Anchors::FollowSelection(LayoutHost& host, ShapePoints& points) {
+    if (!SelControl || SelKey.empty()) return;
+    const bool isCorner = SelControl->Name == "cPointMover";
+    Control* found = isCorner ? InPool(points.cPointMover, SelKey) : ElementControl(host, SelKey);
+    if (!found) return ResetSelection();
+    if (found != SelControl) PutCornerColour(SelControl);
+    SelControl = found;
+    RaiseHandles();
+}
+
+void Anchors::ShowHandles(bool visible) {
+    for (PictureBox* handle : Anchor) handle->setVisible(visible);
+    Mover.setVisible(visible);
+}
+
+void Anchors::RaiseHandles() {
+    for (PictureBox* handle : Anchor) handle->ZOrder();
+}
+
+}  // namespace ornavo

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/element_menu.h"
+
+#include <QMenu>
+#include <algorithm>
+#include <array>
+
+#include "base/failure.h"
+#include "canvas/keys.h"
+#include "canvas/new_elements.h"
+#include "canvas/picture_items.h"
+#include "document/current_skin.h"
+#include "document/layout_edits.h"
+#include "editor/selection.h"
+#include "platform/control.h"
+
+namespace ornavo {
+namespace {
+
+void Delete(CanvasParts& parts) {
+    Form_KeyDown(parts, KeyDelete, 0);
+}
+
+void BringToFront(CanvasParts& parts) {
+    BringElementToFront(*objCurrentLayout, SelControl->Tag);
+    parts.canvas.UpdateCurrentLayout();
+}
+
+void SendToBack(CanvasParts& parts) {
+    SendElementToBack(*objCurrentLayout, SelControl->Tag);
+    parts.canvas.UpdateCurrentLayout();
+}
+
+struct MenuRow {
+    int index;
+    const char* caption;
+    bool forStandard;              // the standard elements have it too
+    void (*effect)(CanvasParts&);  // null: a separator
+};
+constexpr std::array mnuElementSub = {
+    MenuRow{MenuClone, "&Clone", false, CloneElement},
+    MenuRow{MenuDelete, "&Delete", false, Delete},
+    MenuRow{20, "-", true, nullptr},
+    MenuRow{MenuBringToFront, "&Bring To Front", true, BringToFront},
+    MenuRow{MenuSendToBack, "Se&nd To Back", true, SendToBack},
+    MenuRow{30, "-", true, nullptr},
+    MenuRow{MenuOriginalSize, "&Reset to original Size", false, ResetToOriginalSize},
+    MenuRow{MenuBackgroundPicture, "Use Background as &Picture", false, UseBackgroundAsPicture},
+};
+
+}  // namespace
+
+void PopupElementMenu(CanvasParts& parts, const QPoint& at, bool isStandard) {
+    QMenu mnuElement("Element", &parts.form);
+    mnuElement.setObjectName("mnuElement");
+    for (const MenuRow& row : mnuElementSub) {
+        QAction* item = row.effect ? mnuElement.addAction(row.caption) : mnuElement.addSeparator();
+        item->setData(row.index);
+        item->setEnabled(row.forStandard || !isStandard);
+    }
+    if (const QAction* chosen = mnuElement.exec(at)) mnuElementSub_Click(parts, chosen->data().toInt());
+}
+
+void mnuElementSub_Click(CanvasParts& parts, int index) {
+    const auto row = std::find_if(mnuElementSub.begin(), mnuElementSub.end(),
+                                  [&](const MenuRow& one) { return one.index == index; });
+    if (row == mnuElementSub.end() || !row->effect || !SelControl || !objCurrentLayout) return;
+    if (!objCurrentLayout->dbLayoutElements->Find(SelControl->Tag)) return;
+    Attempt([&] { row->effect(parts); });
+}
+
+}  // namespace ornavo

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/picture_items.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <array>
+#include <vector>
+
+#include "base/failure.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "canvas/anchors.h"
+#include "canvas/shape_points.h"
+#include "document/current_skin.h"
+#include "editor/selection.h"
+#include "render/element_button.h"
+#include "render/element_info.h"
+#include "render/layout_host.h"
+#include "render/skin_picture.h"
+#include "render/standard_elements.h"
+#include "render/target.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int BestQuality = 100;
+
+dbLayoutElementRef SelectedElement() {
+    return SelControl && objCurrentLayout ? objCurrentLayout->dbLayoutElements->Find(SelControl->Tag)
+                                          : nullptr;
+}
+
+/// Hides what belongs to the editor and not to the layout, while it lives.
+class ToolsHidden {
+public:
+    explicit ToolsHidden(CanvasParts& parts) {
+        Hide(SelControl);
+        Hide(&parts.anchors.Mover);
+        for (Control* handle : parts.anchors.Anchor) Hide(handle);
+        HideAll(parts.points.cPoint);
+        HideAll(parts.points.cPointMover);
+    }
+    ~ToolsHidden() {
+        for (Control* control : hidden_) control->setVisible(true);
+    }
+    ToolsHidden(const ToolsHidden&) = delete;
+    ToolsHidden& operator=(const ToolsHidden&) = delete;
+
+private:
+    void Hide(Control* control) {
+        if (control->isHidden()) return;
+        control->setVisible(false);
+        hidden_.push_back(control);
+    }
+    template <class T>
+    void HideAll(const Pool<T>& pool) {
+        for (int i = 1; i <= pool.Top(); ++i) Hide(&pool[i]);
+    }
+    std::vector<Control*> hidden_;
+};
+
+/// The canvas's own pixels there, one for each of the skin's; black beyond its edges.
+QImage PixelsOf(QWidget& canvas, const Rect& bounds) {
+    if (std::int64_t{bounds.width} * bounds.height > PicturePixelLimit) return {};
+    QImage pixels(bounds.width, bounds.height, QImage::Format_RGB32);
+    if (pixels.isNull()) return pixels;
+    pixels.fill(Qt::black);
+    const QRect seen = canvas.rect() & QRect(bounds.left, bounds.top, bounds.width, bounds.height);
+    if (!seen.isEmpty())
+        canvas.render(&pixels, seen.topLeft() - QPoint(bounds.left, bounds.top), QRegion(seen),
+                      QWidget::DrawWindowBackground | QWidget::DrawChildren);
+    return pixels;
+}
+
+std::string JpegOf(const QImage& pixels) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (pixels.isNull() || !buffer.open(QIODevice::WriteOnly) || !pixels.save(&buffer, "JPG", BestQuality))
+        throw Failure(513, "UseBackgroundAsPicture", "There is no picture to write");
+    return bytes.toStdString();
+}
+
+struct Redraw {
+    std::string_view name;
+    void (*setUp)(LayoutHost&, Control&, dbLayoutElement&);
+};
+constexpr std::array Redraws = {
+    Redraw{"Element",
+           [](LayoutHost&, Control& control, dbLayoutElement& element) {
+               SetupElementButton(static_cast<TileButton&>(control), element, false);
+           }},
+    Redraw{"pInfo",
+           [](LayoutHost&, Control& control, dbLayoutElement& element) {
+               SetupInfoElement(static_cast<PictureBox&>(control), element, false);
+           }},
+    Redraw{"pMain",
+           [](LayoutHost& host, Control&, dbLayoutElement& element) { SetupMainPanel(host, element); }},
+    Redraw{"tbx_Search", [](LayoutHost& host, Control&,
+                            dbLayoutElement& element) { SetupSearchElement(host.tbx_Search, element); }},
+};
+
+/// The element on its control once more, with the steps of the composition.
+void RedrawElement(LayoutHost& host, Control& control, dbLayoutElement& element) {
+    for (const Redraw& redraw : Redraws) {
+        if (redraw.name != control.Name) continue;
+        const Rect bounds = GetElementRect(element, TargetFrame);
+        if (bounds.width < 1 || bounds.height < 1) return control.Tag.clear();
+        control.Move(bounds);
+        redraw.setUp(host, control, element);
+    }
+}
+
+}  // namespace
+
+Size PicRealSize;
+
+void ResetToOriginalSize(CanvasParts& parts) {
+    const dbLayoutElementRef element = SelectedElement();
+    if (!element) return;
+    if (const PictureRef picture = LoadSkinPicture(element->PicNormal))
+        PicRealSize = {picture->image.width(), picture->image.height()};
+    if (PicRealSize == Size{}) return;
+    element->WidthX = PicRealSize.width;
+    element->HeightY = PicRealSize.height;
+    parts.canvas.UpdateCurrentLayout();
+    parts.anchors.PlaceAnchors(SelControl, true);
+}
+
+void UseBackgroundAsPicture(CanvasParts& parts) {
+    const dbLayoutElementRef element = SelectedElement();
+    if (!element || objSkin->SkinName.empty()) return;
+    const std::string name = CleanFileName(element->ElementName) + "_up.jpg";
+    {
+        const ToolsHidden hidden(parts);
+        const QImage picCopyBackground = PixelsOf(parts.form, SelControl->Bounds());
+        ReplaceFile(OnDisk(objSkin->SkinFolder() + name), JpegOf(picCopyBackground));
+    }
+    element->PicNormal = name;
+    Attempt([&] { RedrawElement(parts.host, *SelControl, *element); });
+    parts.anchors.PlaceAnchors(SelControl, true);
+}
+
+}  // namespace ornavo

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/read_out.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QToolTip>
+#include <algorithm>
+
+#include "canvas/corner_math.h"
+#include "platform/fonts.h"
+
+namespace ornavo {
+namespace {
+
+constexpr QPoint BesidePointer = {18, 22};
+constexpr int Margin = 3;
+
+QString NumbersOf(const Control& control) {
+    const Rect at = control.Bounds();
+    if (control.Name == "cPointMover")
+        return QStringLiteral("%1, %2").arg(at.left + CornerReach).arg(at.top + CornerReach);
+    return QStringLiteral("%1, %2   %3 \u00D7 %4").arg(at.left).arg(at.top).arg(at.width).arg(at.height);
+}
+
+/// Beside the pointer, on its other side where the screen ends.
+QPoint PlaceBeside(const QPoint& pointer, const QSize& size) {
+    const QScreen* screen = QGuiApplication::screenAt(pointer);
+    QPoint at = pointer + BesidePointer;
+    if (!screen) return at;
+    const QRect room = screen->geometry();
+    if (at.x() + size.width() > room.right()) at.setX(pointer.x() - BesidePointer.x() - size.width());
+    if (at.y() + size.height() > room.bottom()) at.setY(pointer.y() - BesidePointer.y() - size.height());
+    return at;
+}
+
+}  // namespace
+
+ReadOut::ReadOut(QWidget& window) : QLabel(&window, Qt::ToolTip | Qt::WindowTransparentForInput) {
+    setObjectName("ReadOut");
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setPalette(QToolTip::palette());
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    setAutoFillBackground(true);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setMargin(Margin);
+    setFont(ScreenFont({}));
+}
+
+void ReadOut::ShowBeside(const QPoint& pointer, const Control& control) {
+    setText(NumbersOf(control));
+    const QSize wanted = sizeHint();
+    setGeometry(QRect(PlaceBeside(pointer, wanted), wanted));
+    show();
+}
+
+}  // namespace ornavo

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// The numbers beside the pointer during a drag: place and size of what is dragged, in pixels of the canvas.
+#pragma once
+
+#include <QLabel>
+
+#include "platform/control.h"
+
+namespace ornavo {
+
+/// A small window of its own, so that a step of a drag repaints nothing more of the canvas.
+class ReadOut : public QLabel {
+public:
+    explicit ReadOut(QWidget& window);
+    /// `pointer`: on the screen.
+    void ShowBeside(const QPoint& pointer, const Control& control);
+};
+
+}  // namespace ornavo
