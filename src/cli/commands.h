@@ -16,7 +16,8 @@ public:
 };
 
 struct Arguments {
-    std::string skin;
+    std::string skin;    // or the picture to read
+    std::string target;  // the picture to write
     std::map<std::string, std::string> options;
     bool Has(const std::string& name) const { return options.contains(name); }
     std::string Get(const std::string& name, std::string standard = "") const;
@@ -28,5 +29,6 @@ int Dump(const Arguments&);
 int Save(const Arguments&);
 int Place(const Arguments&);
 int Render(const Arguments&);
+int Recolour(const Arguments&);
 
 }  // namespace ornavo

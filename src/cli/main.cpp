@@ -21,7 +21,11 @@ constexpr const char* Usage =
     "                                        write the skin, also under another name beside it\n"
     "  place SKIN --layout KEY [--size WxH]  where elements and points stand, as JSON\n"
     "  render SKIN --layout KEY --out FILE.png [--size WxH] [--view preview|canvas] [--edge soft|hard]\n"
-    "                                        a picture of the layout\n\n"
+    "                                        a picture of the layout\n"
+    "  recolour IN OUT --hue N --saturation N\n"
+    "                                        a picture in one hue and saturation, 0 to 255 each; OUT ends in "
+    ".bmp\n"
+    "                                        or .jpg, which is written in the best quality\n\n"
     "  --help     show this text\n"
     "  --version  show the version\n";
 
@@ -29,6 +33,7 @@ struct Command {
     const char* name;
     QStringList options;  // with a value; a name that ends in "!" is a switch
     int (*run)(const Arguments&);
+    bool pictures = false;  // takes IN and OUT in place of a skin
 };
 
 const Command Commands[] = {
@@ -36,6 +41,7 @@ const Command Commands[] = {
     {"save", {"as", "keep-existing!"}, Save},
     {"place", {"layout", "size"}, Place},
     {"render", {"layout", "out", "size", "view", "edge"}, Render},
+    {"recolour", {"hue", "saturation"}, Recolour, true},
 };
 
 int Misused(const QString& reason) {
@@ -56,9 +62,12 @@ int RunCommand(const Command& command, const QStringList& words) {
     QCommandLineParser parser;
     AddOptions(parser, command);
     if (!parser.parse(words)) return Misused(parser.errorText());
-    if (parser.positionalArguments().size() != 1) return Misused("name one skin");
+    const QStringList names = parser.positionalArguments();
+    if (names.size() != (command.pictures ? 2 : 1))
+        return Misused(command.pictures ? "name two pictures, IN and OUT" : "name one skin");
     Arguments arguments;
-    arguments.skin = parser.positionalArguments().first().toStdString();
+    arguments.skin = names.first().toStdString();
+    arguments.target = names.last().toStdString();
     for (const QString& name : parser.optionNames())
         arguments.options[name.toStdString()] = parser.value(name).toStdString();
     try {
@@ -82,7 +91,8 @@ int Run(const QStringList& words) {
 
 /// The error stream is for reasons; what Qt thinks of the environment is none.
 void OnQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "ornavo-cli: %s\n", qPrintable(text));
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "ornavo-cli: %s\n", qPrintable(text));
 }
 
 }  // namespace
