@@ -35,10 +35,12 @@ std::filesystem::path PathOf(const QString& path) {
     return std::filesystem::path(path.toStdString());
 }
 
-std::string FolderWithSamples() {
+std::filesystem::path DataFolder() {
+    return PathOf(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "ornavo";
+}
+
+std::string FolderWithSamples(const std::filesystem::path& data) {
     const std::filesystem::path executable = PathOf(QCoreApplication::applicationDirPath());
-    const std::filesystem::path data =
-        PathOf(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "ornavo";
     const std::filesystem::path own = ornavo::OwnFolder(executable, data);
     try {
         ornavo::BringSamples(ornavo::SampleFolder(executable), own);
@@ -59,7 +61,8 @@ int main(int argc, char** argv) {
     ornavo::PrepareProcess();
     QApplication application(argc, argv);
     ornavo::InitCommonControls(application);
-    ornavo::Program program(MajorMinor(), FolderWithSamples());
+    const std::filesystem::path data = DataFolder();
+    ornavo::Program program(MajorMinor(), FolderWithSamples(data), ornavo::ToText(data));
     program.Start(CommandLine(QCoreApplication::arguments()));
     return QApplication::exec();
 }

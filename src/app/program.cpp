@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
-#include "project/skin_files.h"
-
 namespace ornavo {
 
-Program::Program(std::string version, std::string ownFolder)
-    : ownFolder_(std::move(ownFolder)), main_(*this, std::move(version)) {
+Program::Program(std::string version, const std::string& ownFolder, const std::string& dataFolder)
+    : ownFolder_(ownFolder),
+      main_(*this, std::move(version)),
+      project_(&main_, *this, main_, SkinFiles(ownFolder, dataFolder)) {
     UsePrompts(&prompts_);
 }
 
@@ -14,12 +14,34 @@ Program::~Program() {
     UsePrompts(nullptr);
 }
 
+void Program::ShowSkinProject() {
+    project_.show();
+}
+
 void Program::LoadDebug(std::string_view skinName) {
-    OpenSkin(PlaceOfSkin(skinName, ownFolder_), main_);
+    project_.LoadDebug(PlaceOfSkin(skinName, ownFolder_));
+    if (main_.isVisible()) ShowSkinProject();
+}
+
+void Program::SaveSkin() {
+    project_.SaveSkin();
+}
+
+bool Program::MayClose() {
+    project_.close();
+    return project_.LastUnload() != frm_SkinProject::Unload::SaveFailed;
 }
 
 void Program::UnloadOthers() {
-    AskToSaveSkin();
+    if (toolbox_) toolbox_->close();
+    if (project_.LastUnload() == frm_SkinProject::Unload::Done) return;
+    // It stayed open, is asked to close once more, and is the last window if it stays again.
+    if (!project_.close()) project_.StandAlone();
+}
+
+void Program::ShowToolbox() {
+    if (!toolbox_) toolbox_ = std::make_unique<frm_Toolbox>(main_.parts());
+    toolbox_->Open();
 }
 
 }  // namespace ornavo

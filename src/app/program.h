@@ -2,29 +2,38 @@
 // Owner of the windows, and the calls between them.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "canvas/frm_ornavo.h"
+#include "canvas/frm_toolbox.h"
 #include "dialogs/qt_prompts.h"
 #include "editor/windows.h"
+#include "project/frm_skinproject.h"
 
 namespace ornavo {
 
 class Program : public Windows {
 public:
-    /// `ownFolder` holds the folder "Skins".
-    Program(std::string version, std::string ownFolder);
+    /// `ownFolder` holds the folder "Skins", `dataFolder` the folder "Recovered".
+    Program(std::string version, const std::string& ownFolder, const std::string& dataFolder);
     ~Program() override;
 
     void Start(std::string commandLine) { main_.Start(std::move(commandLine)); }
 
+    void ShowSkinProject() override;
     void LoadDebug(std::string_view skinName) override;
+    void SaveSkin() override;
+    bool MayClose() override;
     void UnloadOthers() override;
+    void ShowToolbox() override;
 
 private:
     std::string ownFolder_;
     QtPrompts prompts_;
     frm_Ornavo main_;
+    frm_SkinProject project_;
+    std::unique_ptr<frm_Toolbox> toolbox_;  // null until it is first shown
 };
 
 }  // namespace ornavo

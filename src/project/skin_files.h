@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Opening a skin by name or path, saving it, and the question at the end.
+// Opening, creating and saving a skin, the questions that a save asks, and what becomes of a skin that is
+// dropped with changes.
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "editor/windows.h"
+#include "document/current_skin.h"
 
 namespace ornavo {
 
@@ -19,12 +22,39 @@ struct SkinPlace {
 /// settings file; any other text is the name of a folder under `ownFolder` + "Skins".
 SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder);
 
-/// Replaces the current skin and layout by the one at the place, shows its first layout and brings the window
-/// to its size. A skin without a file is opened empty.
-void OpenSkin(const SkinPlace& place, Canvas& canvas);
+inline constexpr const char* SaveTitle = "Save current Skin";
 
-/// Asks whether a changed skin is to be saved, and saves it on Yes. A failed save is told. False after
-/// Cancel.
-bool AskToSaveSkin();
+class SkinFiles {
+public:
+    /// `ownFolder` holds the folder "Skins", `dataFolder` the folder "Recovered".
+    SkinFiles(std::string ownFolder, std::string dataFolder);
+
+    /// The settings file of a skin by the open dialog, which starts where the last one was found.
+    std::optional<SkinPlace> AskForSkin();
+    /// Replaces the current skin by the one at the place, and the current layout by an empty one. A skin
+    /// without a file is opened empty.
+    void Open(const SkinPlace& place);
+    /// Replaces the current skin by a new one of that size in pixels, which lies under "Skins" once it is
+    /// saved. It has the layouts "Admin-Mode" and "Kiosk-Mode".
+    void Create(std::string_view name, std::int32_t width, std::int32_t height);
+
+    enum class Saved { Yes, No, Failed };
+    /// Saves the current skin. Before it writes into a folder that is not the skin's own and has a settings
+    /// file, it asks. A failure is told with path and reason; the model is then as it was.
+    Saved Save();
+    /// The same for any skin that was read from `home`; it keeps pictures that are there.
+    Saved SaveInto(dbSkin& skin, const std::filesystem::path& home) const;
+    /// Puts the text of a changed current skin into "Recovered", where the last ten are kept. Never fails.
+    void KeepDropped() const;
+
+private:
+    void Replace(dbSkinRef skin);
+    Saved SaveTo(dbSkin& skin, const std::filesystem::path& home, bool keepExisting) const;
+
+    std::string ownFolder_;
+    std::string dataFolder_;
+    std::string lastParent_;      // of the skin that was last chosen by the dialog
+    std::filesystem::path home_;  // folder of the current skin's file; empty for one never saved
+};
 
 }  // namespace ornavo

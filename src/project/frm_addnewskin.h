@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// The dialog that makes a new, empty skin in memory.
+#pragma once
+
+#include "platform/form.h"
+#include "platform/tile_command.h"
+#include "project/skin_files.h"
+
+class QLineEdit;
+
+namespace ornavo {
+
+class frm_AddNewSkin : public Form {
+    Q_OBJECT
+public:
+    frm_AddNewSkin(QWidget* owner, SkinFiles& files);
+
+    QLineEdit* tbx_SkinName;
+    QLineEdit* tbx_Width;  // pixels, at least 600
+    QLineEdit* tbx_Height;
+    TileCommand* btn_Create;
+    TileCommand* btn_Cancel;
+
+    void btn_Create_Click();
+
+signals:
+    void Created();  // the current skin is the new one; the dialog has closed
+
+protected:
+    void keyPressEvent(QKeyEvent*) override;
+
+private:
+    void Form_Load();
+
+    SkinFiles& files_;
+};
+
+}  // namespace ornavo

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+// The project panel: opens, creates and saves skins, and manages the list of layouts.
+#pragma once
+
+#include <QPointer>
+#include <string>
+
+#include "editor/windows.h"
+#include "platform/form.h"
+#include "platform/tile_command.h"
+#include "project/frm_addnewskin.h"
+#include "project/layout_list.h"
+#include "project/skin_files.h"
+
+class QLineEdit;
+
+namespace ornavo {
+
+class frm_SkinProject : public Form {
+    Q_OBJECT
+public:
+    frm_SkinProject(QWidget* owner, Windows& windows, Canvas& canvas, SkinFiles files);
+
+    QLineEdit* tbx_SkinName;
+    LayoutList* lst_Layouts;
+    TileCommand *btn_OpenSkin, *btn_CreateNewSkin, *btn_SaveSkin;
+    TileCommand *btn_SkinProperties, *btn_CloneLayout, *btn_SaveToSkin;
+    QPointer<frm_AddNewSkin> AddNewSkin;  // while it is open
+
+    /// Shows the current skin; its layout with the key becomes the current one, or the first.
+    void ShowSkinProject(std::string_view key = "");
+    void LoadDebug(const SkinPlace& place);
+    /// What the Save button does; nothing while no skin is open. False if nothing was saved.
+    bool SaveSkin();
+
+    /// How the window took the last request to close.
+    enum class Unload { Done, Cancelled, SaveFailed };
+    Unload LastUnload() const { return lastUnload_; }
+    /// Lives on as the program's last window, where the skin can still be saved.
+    void StandAlone();
+
+protected:
+    void Form_Resize() override;
+    bool Form_QueryUnload() override;
+    void keyPressEvent(QKeyEvent*) override;
+    void dragEnterEvent(QDragEnterEvent*) override;
+    void dropEvent(QDropEvent*) override;
+
+private:
+    void Form_Load();
+    void MakeControls();
+    void LayOut();
+    void EnableSkinControls(bool enabled);
+    void EnableLayoutButtons(bool enabled);
+    void ShowReplacedSkin();
+    void ShowCurrentLayout();
+    void FinishEdits();
+    Unload AskToSave();
+
+    void tbx_SkinName_LostFocus();
+    void btn_OpenSkin_Click();
+    void btn_CreateNewSkin_Click();
+    void btn_SkinProperties_Click();
+    void btn_CloneLayout_Click();
+    void btn_SaveToSkin_Click();
+    void lst_Layouts_ItemClick();
+    void lst_Layouts_Delete();
+    void lst_Layouts_AfterLabelEdit(const QString& key, const QString& text);
+
+    Windows& windows_;
+    Canvas& canvas_;
+    SkinFiles files_;
+    Unload lastUnload_ = Unload::Done;
+};
+
+}  // namespace ornavo

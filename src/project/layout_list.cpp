@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "project/layout_list.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+
+#include "base/failure.h"
+#include "base/text.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int KeyRole = Qt::UserRole;
+
+QString Shown(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+/// Hands the label's text to the list, which alone decides what the item shows.
+class LayoutList::LabelDelegate : public QStyledItemDelegate {
+public:
+    explicit LabelDelegate(LayoutList& list) : QStyledItemDelegate(&list), list_(list) {}
+    void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {
+        list_.labelKey_ = index.data(KeyRole).toString();
+        list_.labelText_ = static_cast<QLineEdit*>(editor)->text();
+        list_.labelWaits_ = true;
+        // A box may come of it, which must not open while the label is being closed.
+        QMetaObject::invokeMethod(&list_, &LayoutList::TellLabel, Qt::QueuedConnection);
+    }
+
+private:
+    LayoutList& list_;
+};
+
+LayoutList::LayoutList(QWidget* parent) : QTreeWidget(parent) {
+    setColumnCount(1);
+    setHeaderLabel("Layouts");
+    header()->setSectionsClickable(false);
+    header()->setStretchLastSection(true);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setItemDelegate(new LabelDelegate(*this));
+    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        if (item && !ListBusy) emit ItemClick();
+    });
+}
+
+QTreeWidgetItem* LayoutList::MakeItem(int position, std::string_view key, std::string_view name) {
+    auto* item = new QTreeWidgetItem;
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
+    item->setText(0, Shown(name));
+    item->setToolTip(0, Shown(name));
+    item->setData(0, KeyRole, Shown(key));
+    insertTopLevelItem(position, item);
+    return item;
+}
+
+QTreeWidgetItem* LayoutList::Find(std::string_view key) const {
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        if (EqualText(topLevelItem(i)->data(0, KeyRole).toString().toStdString(), key))
+            return topLevelItem(i);
+    return nullptr;
+}
+
+void LayoutList::Fill(const dbLayouts& layouts, std::string_view selected) {
+    const ornavo::Raised busy(ListBusy);
+    labelWaits_ = false;
+    clear();
+    for (const dbLayoutRef& layout : layouts) MakeItem(topLevelItemCount(), layout->Key, layout->LayoutName);
+    MakeItem(topLevelItemCount(), AddNewKey, AddNewText);
+    setCurrentItem(layouts.Find(selected) ? Find(selected) : nullptr);
+}
+
+void LayoutList::Add(const dbLayout& layout) {
+    const ornavo::Raised busy(ListBusy);
+    setCurrentItem(MakeItem(topLevelItemCount() - 1, layout.Key, layout.LayoutName));
+}
+
+void LayoutList::Remove(std::string_view key) {
+    const ornavo::Raised busy(ListBusy);
+    delete Find(key);
+    setCurrentItem(nullptr);
+    clearSelection();
+}
+
+void LayoutList::Rename(std::string_view key, std::string_view name) {
+    if (QTreeWidgetItem* item = Find(key)) {
+        item->setText(0, Shown(name));
+        item->setToolTip(0, Shown(name));
+    }
+}
+
+std::string LayoutList::SelectedKey() const {
+    return currentItem() ? currentItem()->data(0, KeyRole).toString().toStdString() : "";
+}
+
+std::string LayoutList::SelectedText() const {
+    return currentItem() ? currentItem()->text(0).toStdString() : "";
+}
+
+bool LayoutList::LayoutIsSelected() const {
+    return currentItem() && SelectedKey() != AddNewKey;
+}
+
+void LayoutList::StartLabelEdit() {
+    if (currentItem()) editItem(currentItem(), 0);
+}
+
+void LayoutList::FinishLabelEdit() {
+    if (state() == EditingState) setFocus();
+    if (labelWaits_) TellLabel();
+}
+
+void LayoutList::TellLabel() {
+    if (!labelWaits_) return;
+    labelWaits_ = false;
+    emit AfterLabelEdit(labelKey_, labelText_);
+}
+
+void LayoutList::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F2) return StartLabelEdit();
+    if (event->key() == Qt::Key_Delete) {
+        if (LayoutIsSelected()) emit DeletePressed();
+        return;
+    }
+    // The window has its own keys; the list would take them for the first letter of an item.
+    if (event->modifiers() & Qt::ControlModifier) return event->ignore();
+    QTreeWidget::keyPressEvent(event);
+}
+
+void LayoutList::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeWidget::mouseReleaseEvent(event);
+    if (currentItem() && !LayoutIsSelected()) StartLabelEdit();
+}
+
+}  // namespace ornavo
