@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+// The main window on a skin of a test, and the mouse and keys as the window system brings them.
+#pragma once
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimerEvent>
+
+#include "canvas/frm_ornavo.h"
+#include "editor/selection.h"
+#include "platform/settings.h"
+#include "support/scripted_prompts.h"
+#include "support/skin_fixture.h"
+
+namespace ornavo::testing {
+
+class RecordedPanel : public PropertiesPanel {
+public:
+    void Open() override {
+        shown = true;
+        ++opened;
+    }
+    void ShowProperties() override { ++sheets; }
+    void Hide() override { shown = false; }
+    bool IsShown() const override { return shown; }
+    int opened = 0, sheets = 0;
+    bool shown = false;
+};
+
+class RecordedWindows : public Windows {
+public:
+    void LoadDebug(std::string_view skinName) override { opened = skinName; }
+    void UnloadOthers() override {}
+    void SaveSkin() override { ++saved; }
+    void ShowPreview() override { ++previews; }
+    PropertiesPanel& properties() override { return panel; }
+    std::string opened;
+    int saved = 0, previews = 0;
+    RecordedPanel panel;
+};
+
+/// Lets a running timer tick at once.
+inline void Fire(QTimer& timer) {
+    QTimerEvent event(timer.timerId());
+    QCoreApplication::sendEvent(&timer, &event);
+}
+
+/// A canvas of 800 x 600 for a skin of that size, shown, with nothing selected.
+class EditingTest : public SkinTest {
+protected:
+    EditingTest() {
+        UseSettingsFile(settings_.filePath("settings.ini"));
+        objSkin->SkinWidth = 800;
+        objSkin->SkinHeight = 600;
+        SelControl = nullptr;
+        SelKey.clear();
+        KeepPropertiesOpen = false;
+        form_ = std::make_unique<frm_Ornavo>(windows_, "0.1");
+        form_->Start("");
+        Compose();
+    }
+    ~EditingTest() override {
+        SelControl = nullptr;
+        TargetLayout.reset();
+    }
+    void Compose() {
+        form_->UpdateCurrentLayout();
+        form_->tmrResizer.stop();
+        QCoreApplication::processEvents();
+    }
+    LayoutHost& host() { return form_->host(); }
+    Anchors& anchors() { return form_->parts().anchors; }
+
+    void Press(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mousePress(form_->windowHandle(), button, {}, {x, y});
+    }
+    void MoveTo(int x, int y) { QTest::mouseMove(form_->windowHandle(), {x, y}); }
+    void Release(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseRelease(form_->windowHandle(), button, {}, {x, y});
+    }
+    void Click(int x, int y) {
+        Press(x, y);
+        Release(x, y);
+    }
+    void Drag(QPoint from, QPoint by) {
+        Press(from.x(), from.y());
+        MoveTo(from.x() + by.x() / 2, from.y() + by.y() / 2);
+        MoveTo(from.x() + by.x(), from.y() + by.y());
+        Release(from.x() + by.x(), from.y() + by.y());
+    }
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(form_->windowHandle(), key, modifiers);
+    }
+    static Rect Fields(const dbLayoutElement& e) { return {e.LeftX, e.TopY, e.WidthX, e.HeightY}; }
+    static std::string Keys() {
+        std::string keys;
+        for (const dbLayoutElementRef& e : *objCurrentLayout->dbLayoutElements)
+            keys += (keys.empty() ? "" : " ") + e->Key;
+        return keys;
+    }
+
+    ScriptedPrompts prompts_;
+    RecordedWindows windows_;
+    std::unique_ptr<frm_Ornavo> form_;
+
+private:
+    QTemporaryDir settings_;
+};
+
+}  // namespace ornavo::testing
