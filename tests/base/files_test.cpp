@@ -12,6 +12,7 @@
 #include "base/failure.h"
 #include "base/paths.h"
 #include "support/failure_number.h"
+#include "support/step_layer.h"
 #include "support/temporary_folder.h"
 
 namespace ornavo {
@@ -19,40 +20,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The real disk, but the call of one number fails, or kills the process. A failing write has written half.
-class FailingLayer : public FileLayer {
+/// The call of one number fails, or kills the process. A failing write has written half.
+class FailingLayer : public StepLayer {
 public:
-    explicit FailingLayer(int failing, bool deadly = false) : left_(failing), deadly_(deadly) {
+    explicit FailingLayer(int failing, bool deadly = false) : failing_(failing) {
+        before = [failing, deadly](int step) {
+            if (step != failing) return;
+            if (deadly) ::raise(SIGKILL);
+            throw Failure(61, "Files", "No space left on device");
+        };
         UseFileLayer(this);
     }
     ~FailingLayer() override { UseFileLayer(nullptr); }
-    bool HasFailed() const { return left_ <= 0; }
-
-    int Create(const fs::path& path) override { return Step(), FileLayer::Create(path); }
-    void Write(int file, std::string_view bytes) override {
-        if (left_ == 1) FileLayer::Write(file, bytes.substr(0, bytes.size() / 2));
-        Step();
-        FileLayer::Write(file, bytes);
-    }
-    void Flush(int file) override { Step(), FileLayer::Flush(file); }
-    void Close(int file) override { FileLayer::Close(file), Step(); }
-    void Rename(const fs::path& from, const fs::path& to) override { Step(), FileLayer::Rename(from, to); }
-    void Remove(const fs::path& path) override { Step(), FileLayer::Remove(path); }
-    void MakeFolder(const fs::path& path) override { Step(), FileLayer::MakeFolder(path); }
-    void FlushFolder(const fs::path& path) override { Step(), FileLayer::FlushFolder(path); }
-    int Open(const fs::path& path) override { return Step(), FileLayer::Open(path); }
-    std::size_t ReadSome(int file, char* bytes, std::size_t size) override {
-        return Step(), FileLayer::ReadSome(file, bytes, size);
-    }
+    bool HasFailed() const { return steps >= failing_; }
 
 private:
-    void Step() {
-        if (--left_ != 0) return;
-        if (deadly_) ::raise(SIGKILL);
-        throw Failure(61, "Files", "No space left on device");
-    }
-    int left_;
-    bool deadly_;
+    int failing_;
 };
 
 /// Runs the action in a process of its own; gives its exit code, or -1 if it was killed.

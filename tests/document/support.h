@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A folder of its own for each test, skins and pictures in it, and a file layer that can be told to fail.
+// A folder of its own for each test, skins and pictures in it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -16,6 +16,7 @@
 #include "base/files.h"
 #include "base/numbers.h"
 #include "document/current_skin.h"
+#include "support/step_layer.h"
 
 namespace ornavo {
 
@@ -73,34 +74,6 @@ protected:
         return objSkin;
     }
     fs::path folder;
-};
-
-/// Counts the steps towards the disk and lets one of them go wrong.
-class StepLayer : public FileLayer {
-public:
-    std::function<void(int step)> before = [](int) {};
-    int steps = 0;
-
-    int Create(const fs::path& path) override { return Step(), FileLayer::Create(path); }
-    void Write(int file, std::string_view bytes) override {
-        // Half of it is there when the step goes wrong.
-        FileLayer::Write(file, bytes.substr(0, bytes.size() / 2));
-        Step();
-        FileLayer::Write(file, bytes.substr(bytes.size() / 2));
-    }
-    void Flush(int file) override { Step(), FileLayer::Flush(file); }
-    void Close(int file) override { FileLayer::Close(file), Step(); }
-    void Rename(const fs::path& from, const fs::path& to) override { Step(), FileLayer::Rename(from, to); }
-    void Remove(const fs::path& path) override { Step(), FileLayer::Remove(path); }
-    void MakeFolder(const fs::path& path) override { Step(), FileLayer::MakeFolder(path); }
-    void FlushFolder(const fs::path& path) override { Step(), FileLayer::FlushFolder(path); }
-    int Open(const fs::path& path) override { return Step(), FileLayer::Open(path); }
-    std::size_t ReadSome(int file, char* bytes, std::size_t size) override {
-        return Step(), FileLayer::ReadSome(file, bytes, size);
-    }
-
-private:
-    void Step() { before(++steps); }
 };
 
 }  // namespace ornavo

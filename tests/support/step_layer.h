@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// The real disk, but what comes before each step towards it is a test's: it may fail, or end the process.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+#include "base/files.h"
+
+namespace ornavo {
+
+/// Counts the steps towards the disk and lets one of them go wrong.
+class StepLayer : public FileLayer {
+public:
+    std::function<void(int step)> before = [](int) {};
+    int steps = 0;
+
+    int Create(const std::filesystem::path& path) override { return Step(), FileLayer::Create(path); }
+    void Write(int file, std::string_view bytes) override {
+        // Half of it is there when the step goes wrong.
+        FileLayer::Write(file, bytes.substr(0, bytes.size() / 2));
+        Step();
+        FileLayer::Write(file, bytes.substr(bytes.size() / 2));
+    }
+    void Flush(int file) override { Step(), FileLayer::Flush(file); }
+    void Close(int file) override { FileLayer::Close(file), Step(); }
+    void Rename(const std::filesystem::path& from, const std::filesystem::path& to) override {
+        Step(), FileLayer::Rename(from, to);
+    }
+    void Remove(const std::filesystem::path& path) override { Step(), FileLayer::Remove(path); }
+    void MakeFolder(const std::filesystem::path& path) override { Step(), FileLayer::MakeFolder(path); }
+    void FlushFolder(const std::filesystem::path& path) override { Step(), FileLayer::FlushFolder(path); }
+    int Open(const std::filesystem::path& path) override { return Step(), FileLayer::Open(path); }
+    std::size_t ReadSome(int file, char* bytes, std::size_t size) override {
+        return Step(), FileLayer::ReadSome(file, bytes, size);
+    }
+
+private:
+    void Step() { before(++steps); }
+};
+
+}  // namespace ornavo
