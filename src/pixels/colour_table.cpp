@@ -39,8 +39,8 @@ std::array<float, Levels> Shares() {
     return shares;
 }
 
-/// The index of the pixel that would begin at each byte of a block; two thirds of them are not asked for. That
-/// costs less than taking the pixels apart: with a count that it knows, GCC turns this loop into wide
+/// The index of the pixel that would begin at each byte of a block; two thirds of them are not asked for.
+/// That costs less than taking the pixels apart: with a count that it knows, GCC turns this loop into wide
 /// instructions by itself. Reads two bytes beyond the block.
 void Indices(const std::uint8_t* from, std::uint16_t* indices) {
     for (int i = 0; i < BlockBytes; ++i) {
