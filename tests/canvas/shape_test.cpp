@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/shape_gestures.h"
+#include "canvas/shape_points.h"
+#include "canvas/stage.h"
+#include "document/codes.h"
+
+namespace ornavo::testing {
+namespace {
+
+class ShapeTest : public StageTest {
+protected:
+    ShapeTest() {
+        viewSwitches.ShowLines = true;
+        Show();
+    }
+    ShapePoints& Points() { return form.parts().points; }
+    /// Tag and ends of each visible side.
+    std::string Sides() {
+        std::string text;
+        for (int i = 1; i <= Points().cPoint.Top(); ++i) {
+            const dbLine& side = Points().cPoint[i];
+            if (side.isVisible())
+                text += side.Tag + ":" + std::to_string(side.X1()) + "," + std::to_string(side.Y1()) + "-" +
+                        std::to_string(side.X2()) + "," + std::to_string(side.Y2()) + " ";
+        }
+        return text;
+    }
+    /// Tag and middle of each visible corner.
+    std::string Corners() {
+        std::string text;
+        for (int i = 1; i <= Points().cPointMover.Top(); ++i) {
+            const PictureBox& corner = Points().cPointMover[i];
+            const Rect at = corner.Bounds();
+            if (corner.isVisible())
+                text +=
+                    corner.Tag + ":" + std::to_string(at.left + 2) + "," + std::to_string(at.top + 2) + " ";
+        }
+        return text;
+    }
+    static std::string Orders() {
+        std::string text;
+        for (const dbPointRef& point : *objCurrentLayout->dbPoints)
+            text += std::to_string(point->Order) + ":" + std::to_string(point->X) + "," +
+                    std::to_string(point->Y) + " ";
+        return text;
+    }
+};
+
+TEST_F(ShapeTest, SidesAndCornersAreShownAsTheSwitchesSay) {
+    EXPECT_EQ(Sides(), "1:200,150-200,450 2:200,450-600,450 3:600,450-600,150 4:600,150-200,150 ");
+    EXPECT_EQ(Corners(), "K1:200,150 K2:200,450 K3:600,450 K4:600,150 ");
+    EXPECT_EQ(Points().cPointMover[1].BackColor(), PointColor);
+    viewSwitches.ShowLines = viewSwitches.ShowPoints = false;
+    Show();
+    EXPECT_EQ(Sides() + Corners(), "");
+}
+
+TEST_F(ShapeTest, OrdersThatAreDoubledMissingOrBeyondTheCountAreSkipped) {
+    PointOf(2).Order = 1;
+    PointOf(4).Order = 2'000'000'000;
+    Show();
+    EXPECT_EQ(Sides(), "1:200,150-600,450 3:600,450-200,150 ");
+    EXPECT_EQ(Corners(), "K1:200,150 K3:600,450 ");
+    objCurrentLayout->dbPoints = std::make_shared<dbPoints>();
+    Show();
+    EXPECT_EQ(Sides() + Corners(), "");
+    EXPECT_EQ(LineUnderPointer(200, 150), 0);
+}
+
+TEST_F(ShapeTest, AClickedSideGetsACorner) {
+    Click(200, 300);
+    EXPECT_EQ(Orders(), "1:200,150 2:200,300 3:200,450 4:600,450 5:600,150 ");
+    EXPECT_TRUE(objSkin->Dirty);
+    EXPECT_EQ(Corners(), "K1:200,150 K2:200,300 K3:200,450 K4:600,450 K5:600,150 ");
+    Click(400, 150);
+    EXPECT_EQ(PointOf(6).X, 400) << "the last side's corner is behind the last point";
+    EXPECT_EQ(objCurrentLayout->dbPoints->Item(6)->Order, 6);
+}
+
+TEST_F(ShapeTest, TheBareCanvasInsertsTooThoughNoSideIsSeen) {
+    viewSwitches.ShowLines = false;
+    Show();
+    EXPECT_EQ(LineUnderPointer(203, 300), 1);
+    EXPECT_EQ(LineUnderPointer(204, 300), 0);
+    EXPECT_EQ(LineUnderPointer(400, 153), 4);
+    Click(203, 300);
+    EXPECT_EQ(Orders(), "1:200,150 2:203,300 3:200,450 4:600,450 5:600,150 ");
+    Click(400, 300);
+    EXPECT_EQ(objCurrentLayout->dbPoints->Count(), 5);
+}
+
+TEST_F(ShapeTest, ANewCornerIsAlignedAsItsNeighbour) {
+    struct Row {
+        int align, x;  // the click is at 400 in a window of 900, the skin's width is 800
+    };
+    for (const Row& row : {Row{AlignStart, 400}, {AlignMiddle, 350}, {AlignEnd, 500}, {AlignStretch, 356}}) {
+        objCurrentLayout->dbPoints = std::make_shared<dbPoints>();
+        AddPoint({0, 0}).HAlign = row.align;
+        AddPoint({0, 0}).HAlign = row.align;
+        form.resize(900, 600);
+        Show();
+        AddShapePoint(form.parts(), 1, 400, 30, false);
+        EXPECT_EQ(PointOf(2).HAlign, row.align);
+        EXPECT_EQ(PointOf(2).X, row.x);
+        EXPECT_EQ(PointOf(2).VAlign, AlignStart);
+    }
+    AddShapePoint(form.parts(), 4, 10, 10, false);
+    AddShapePoint(form.parts(), 0, 10, 10, false);
+    EXPECT_EQ(objCurrentLayout->dbPoints->Count(), 3) << "no such side";
+}
+
+TEST_F(ShapeTest, ADraggedCornerTakesItsPointAndBothSidesAlong) {
+    Press(200, 150);
+    EXPECT_EQ(SelKey, "K1");
+    EXPECT_EQ(SelControl, &Points().cPointMover[1]);
+    EXPECT_EQ(SelControl->BackColor(), PointBlinkColor);
+    EXPECT_FALSE(objSkin->Dirty) << "a press moves nothing";
+    MoveTo(190, 170);
+    EXPECT_EQ(Sides(), "1:190,170-200,450 2:200,450-600,450 3:600,450-600,150 4:600,150-190,170 ");
+    EXPECT_TRUE(objSkin->Dirty);
+    MoveTo(-60, 170);
+    EXPECT_EQ(PointOf(1).X, 0);
+    EXPECT_EQ(Points().cPointMover[1].Bounds().left, -2);
+    cPointMover_MouseMove(form.parts(), *SelControl, {1, 0, 2000, 2000});
+    EXPECT_EQ(PointOf(1).X, 799);
+    EXPECT_EQ(PointOf(1).Y, 599);
+    Release(799, 599);
+    EXPECT_EQ(windows.panel.notes.substr(windows.panel.notes.rfind("open")), "open ");
+    EXPECT_FALSE(form.parts().drag.MouseIsDown);
+}
+
+TEST_F(ShapeTest, TheSelectionStaysWithItsCornerWhenAnotherIsInserted) {
+    Click(200, 450);
+    ASSERT_EQ(SelKey, "K2");
+    Click(200, 300);
+    EXPECT_EQ(SelKey, "K3");
+    ASSERT_TRUE(SelControl);
+    EXPECT_EQ(SelControl->Bounds(), (Rect{198, 448, 5, 5}));
+    EXPECT_EQ(SelControl->BackColor(), PointBlinkColor);
+    EXPECT_EQ(Points().cPointMover[2].BackColor(), PointColor);
+}
+
+TEST_F(ShapeTest, ARightPressRemovesACornerButNotTheLastTwo) {
+    Click(200, 450, Qt::RightButton);
+    EXPECT_EQ(Orders(), "1:200,150 2:600,450 3:600,150 ");
+    EXPECT_EQ(Corners(), "K1:200,150 K2:600,450 K3:600,150 ");
+    EXPECT_TRUE(objSkin->Dirty);
+    EXPECT_EQ(SelControl, nullptr);
+    EXPECT_EQ(windows.panel.notes.substr(windows.panel.notes.size() - 5), "hide ");
+    Click(200, 150, Qt::RightButton);
+    Click(600, 450, Qt::RightButton);
+    EXPECT_EQ(objCurrentLayout->dbPoints->Count(), 2);
+    EXPECT_TRUE(prompts_.asked.empty());
+}
+
+TEST_F(ShapeTest, WhatLiesUnderADiagonalStaysClickable) {
+    Add("Button1", TypeButton, {300, 160, 200, 200});
+    PointOf(2).X = PointOf(3).X = 600;  // the first side runs from 200, 150 to 600, 450
+    Show();
+    Click(480, 200);
+    EXPECT_EQ(SelKey, "Button1");
+    Click(403, 299);
+    EXPECT_EQ(objCurrentLayout->dbPoints->Count(), 5) << "within 3 pixels of the line";
+    EXPECT_EQ(PointOf(2).X, 403);
+    EXPECT_EQ(PointOf(2).Y, 299);
+}
+
+}  // namespace
+}  // namespace ornavo::testing
