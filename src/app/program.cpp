@@ -14,6 +14,11 @@ Program::~Program() {
     UsePrompts(nullptr);
 }
 
+void Program::Start(std::string commandLine) {
+    main_.Start(std::move(commandLine));
+    if (toolboxWaits_) ShowToolbox();
+}
+
 void Program::ShowSkinProject() {
     project_.show();
 }
@@ -40,6 +45,9 @@ void Program::UnloadOthers() {
 }
 
 void Program::ShowToolbox() {
+    // A desktop keeps a tool window above its owner only if it has seen the owner first.
+    toolboxWaits_ = !main_.isVisible();
+    if (toolboxWaits_) return;
     if (!toolbox_) toolbox_ = std::make_unique<frm_Toolbox>(main_.parts());
     toolbox_->Open();
 }

@@ -19,7 +19,7 @@ public:
     Program(std::string version, const std::string& ownFolder, const std::string& dataFolder);
     ~Program() override;
 
-    void Start(std::string commandLine) { main_.Start(std::move(commandLine)); }
+    void Start(std::string commandLine);
 
     void ShowSkinProject() override;
     void LoadDebug(std::string_view skinName) override;
@@ -34,6 +34,7 @@ private:
     frm_Ornavo main_;
     frm_SkinProject project_;
     std::unique_ptr<frm_Toolbox> toolbox_;  // null until it is first shown
+    bool toolboxWaits_ = false;             // for the main window, above which it stays
 };
 
 }  // namespace ornavo

@@ -22,7 +22,8 @@ namespace {
 
 constexpr int PictureSize = 32, SmallPictureSize = 16;  // pixels
 constexpr int Margin = 6, RowGap = 3;
-constexpr int SpacingWidth = 52;
+constexpr int LeastColumn = 76;  // the window's title wants room too
+constexpr int SpacingWidth = 64;
 
 QFrame* Separator(QWidget* parent, const char* name) {
     auto* line = new QFrame(parent);
@@ -104,6 +105,7 @@ void frm_Toolbox::Arrange() {
     grid->setContentsMargins(Margin, Margin, Margin, Margin);
     grid->setSpacing(RowGap);
     grid->setSizeConstraint(QLayout::SetFixedSize);
+    for (const int column : {0, 1}) grid->setColumnMinimumWidth(column, LeastColumn);
     int row = 0;
     TileCommand* const adding[] = {btn_AddButton, btn_AddGraphic, btn_AddVolume, btn_AddInfo};
     for (int i = 0; i < 4; ++i) {
