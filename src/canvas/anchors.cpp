@@ -60,6 +60,11 @@ Anchors::Anchors(QWidget& window, ControlEvents* listener, DragState& drag, Wind
     ShowHandles(false);
 }
 
+Anchors::~Anchors() {
+    SelControl = nullptr;
+    SelKey.clear();
+}
+
 Control* Anchors::PlaceAnchors(Control* control, bool keepSelection) {
     if (!control || control->isHidden()) {
         HideAnchors();

@@ -16,6 +16,9 @@ class Anchors {
 public:
     /// The handles become children of the window, hidden; the listener hears their mouse.
     Anchors(QWidget& window, ControlEvents* listener, DragState& drag, Windows& windows);
+    ~Anchors();  // the selection goes with its window
+    Anchors(const Anchors&) = delete;
+    Anchors& operator=(const Anchors&) = delete;
 
     /// Handles and Mover around the control, which it gives back. Without `keepSelection` the control becomes
     /// the selection and the handles show. Nothing, or a control that is hidden, hides the handles.
