@@ -29,6 +29,7 @@ T* Hidden(T* control, ControlEvents* listener, const char* tip) {
 dbLine* NewSide(QWidget& window, ControlEvents* listener, int index) {
     auto* side = new dbLine(&window, "cPoint", index);
     side->BorderColor = SideColour;
+    side->Shaded = true;
     side->SetHitWidth(HitWidth);
     return Hidden(side, listener, SideTip);
 }

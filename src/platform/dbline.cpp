@@ -13,6 +13,7 @@ namespace {
 
 constexpr int Spare = 2;        // keeps the control of a level or upright line from being empty
 constexpr int Farthest = 8192;  // pixels of the parent beyond which nobody points
+const QColor Shade(0, 0, 0, 110);
 
 int Extent(int one, int two) {
     const std::int64_t distance = std::abs(std::int64_t{one} - two);
@@ -111,8 +112,13 @@ void dbLine::resizeEvent(QResizeEvent*) {
 
 void dbLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    const QLine line(inner_.left, inner_.top, inner_.left + inner_.width, inner_.top + inner_.height);
+    if (Shaded) {
+        painter.setPen(QPen(Shade, BorderWidth + 2));
+        painter.drawLine(line);
+    }
     painter.setPen(QPen(ScreenColour(BorderColor), BorderWidth));
-    painter.drawLine(inner_.left, inner_.top, inner_.left + inner_.width, inner_.top + inner_.height);
+    painter.drawLine(line);
 }
 
 }  // namespace ornavo

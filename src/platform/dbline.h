@@ -23,6 +23,7 @@ public:
     void MoveTo(int x1, int y1, int x2, int y2);
 
     int BorderWidth = 1;
+    bool Shaded = false;  // with a dark rim, so that a light line shows on a light ground
     Colour BorderColor = ornavo::ColourOf(0x80000008);
     /// From now on the line alone is hit, with so many pixels to each side; what else its control covers lets
     /// the mouse through to what lies below. 0: the whole control is hit.
