@@ -130,6 +130,7 @@ void UseBackgroundAsPicture(CanvasParts& parts) {
     const dbLayoutElementRef element = SelectedElement();
     if (!element || objSkin->SkinName.empty()) return;
     const std::string name = CleanFileName(element->ElementName) + "_up.jpg";
+    MakePath(objSkin->SkinFolder());  // a new skin has none before its first save
     {
         const ToolsHidden hidden(parts);
         const QImage picCopyBackground = PixelsOf(parts.form, SelControl->Bounds());

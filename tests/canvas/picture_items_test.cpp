@@ -58,6 +58,13 @@ TEST_F(PictureItemsTest, TheBackgroundBecomesThePictureWithoutTheElementAndTheTo
     EXPECT_TRUE(IsNear(form_->grab({110, 130, 1, 1}).toImage().pixelColor(0, 0), Qt::red));
 }
 
+TEST_F(PictureItemsTest, ANewSkinHasItsFolderThen) {
+    dbLayoutElement& green = AddGreenOverRed();
+    objSkin->SkinName = "New";
+    mnuElementSub_Click(form_->parts(), MenuBackgroundPicture);
+    EXPECT_TRUE(QFileInfo(Path("../New/") + green.PicNormal.c_str()).isFile());
+}
+
 TEST_F(PictureItemsTest, BeyondTheCanvasThePictureIsBlack) {
     dbLayoutElement& green = AddGreenOverRed();
     green.LeftX = -20;
@@ -71,7 +78,7 @@ TEST_F(PictureItemsTest, BeyondTheCanvasThePictureIsBlack) {
 
 TEST_F(PictureItemsTest, WhereNothingCanBeWrittenNothingChanges) {
     dbLayoutElement& green = AddGreenOverRed();
-    objSkin->SetBasePath(Path("nowhere").toStdString());
+    objSkin->SetBasePath(Path("green.bmp").toStdString());
     mnuElementSub_Click(form_->parts(), MenuBackgroundPicture);
     EXPECT_EQ(green.PicNormal, "green.bmp");
     EXPECT_TRUE(host().Element[2].isVisible());
