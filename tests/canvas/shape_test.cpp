@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <limits>
+
 #include "canvas/shape_gestures.h"
 #include "canvas/shape_points.h"
 #include "canvas/stage.h"
@@ -163,6 +165,25 @@ TEST_F(ShapeTest, WhatLiesUnderADiagonalStaysClickable) {
     EXPECT_EQ(objCurrentLayout->dbPoints->Count(), 5) << "within 3 pixels of the line";
     EXPECT_EQ(PointOf(2).X, 403);
     EXPECT_EQ(PointOf(2).Y, 299);
+}
+
+TEST_F(ShapeTest, CornersFarOutsideAndWithoutAPlaceDoNoHarm) {
+    constexpr int Most = std::numeric_limits<std::int32_t>::max();
+    PointOf(1).X = PointOf(1).Y = -Most;
+    PointOf(3).X = PointOf(3).Y = Most;
+    PointOf(4).X = Most;
+    PointOf(4).HAlign = AlignStretch;
+    form.resize(900, 600);  // now the last one's place has more than 32 bits
+    Add("Button1", TypeButton, {300, 100, 200, 200});
+    Show();
+    EXPECT_EQ(Points().cPointMover[3].Tag, "K3");
+    EXPECT_EQ(Points().cPointMover[4].Tag, "");
+    EXPECT_EQ(Points().cPoint[3].Tag, "3");
+    Click(450, 150);
+    EXPECT_EQ(SelKey, "Button1");
+    MovePoint(form.parts(), 3, 500, 400);
+    EXPECT_EQ(Points().cPoint[2].X2(), 500);
+    EXPECT_EQ(Points().cPoint[3].X1(), 500);
 }
 
 }  // namespace
