@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/read_out.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QToolTip>
@@ -47,11 +48,17 @@ ReadOut::ReadOut(QWidget& window) : QLabel(&window, Qt::ToolTip | Qt::WindowTran
     setFont(ScreenFont({}));
 }
 
-void ReadOut::ShowBeside(const QPoint& pointer, const Control& control) {
+void ReadOut::ShowBeside(const QPoint& pointer, Control& control) {
     setText(NumbersOf(control));
     const QSize wanted = sizeHint();
     setGeometry(QRect(PlaceBeside(pointer, wanted), wanted));
+    control.installEventFilter(this);  // once, however often it is asked for
     show();
+}
+
+bool ReadOut::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::Hide) hide();
+    return false;
 }
 
 }  // namespace ornavo

@@ -8,12 +8,16 @@
 
 namespace ornavo {
 
-/// A small window of its own, so that a step of a drag repaints nothing more of the canvas.
+/// A small window of its own, so that a step of a drag repaints nothing more of the canvas. Goes when the
+/// control goes, since a hidden control hears of no release.
 class ReadOut : public QLabel {
 public:
     explicit ReadOut(QWidget& window);
     /// `pointer`: on the screen.
-    void ShowBeside(const QPoint& pointer, const Control& control);
+    void ShowBeside(const QPoint& pointer, Control& control);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 }  // namespace ornavo

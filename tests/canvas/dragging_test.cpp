@@ -179,6 +179,7 @@ TEST_F(DraggingTest, ACompositionDuringADragKeepsThePlaceAndEndsIt) {
     form_->UpdateCurrentLayout();
     EXPECT_EQ(Fields(Element("Button1")), (Rect{250, 80, 100, 80}));
     MoveTo(400, 300);
+    EXPECT_FALSE(readOut()->isVisible());
     Release(400, 300);
     EXPECT_EQ(Fields(Element("Button1")), (Rect{250, 80, 100, 80}));
     EXPECT_FALSE(form_->parts().drag.MouseIsDown);
