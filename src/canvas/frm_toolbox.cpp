@@ -72,6 +72,11 @@ frm_Toolbox::frm_Toolbox(CanvasParts& parts) : Form(&parts.form, "frm_Toolbox", 
     Connect();
 }
 
+// A box that has the focus is left now, while there is still somebody to hear of it.
+frm_Toolbox::~frm_Toolbox() {
+    hide();
+}
+
 TileCommand* frm_Toolbox::Command(const char* name, const char* caption, const char* picture, int size,
                                   const char* tip) {
     auto* command = new TileCommand(this, name);

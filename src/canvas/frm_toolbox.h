@@ -17,6 +17,7 @@ class frm_Toolbox : public Form {
 public:
     /// Owned by the canvas's window. `parts` is used as long as it lives.
     explicit frm_Toolbox(CanvasParts& parts);
+    ~frm_Toolbox() override;
 
     /// Shown at its place of the last time, if it is hidden.
     void Open();
