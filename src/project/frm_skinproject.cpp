@@ -20,7 +20,7 @@ namespace ornavo {
 namespace {
 
 constexpr int PanelWidth = 3045;                       // twips, outside
-constexpr int Margin = 4, Gap = 3, ButtonHeight = 23;  // pixels
+constexpr int Margin = 4, Gap = 2, ButtonHeight = 21;  // pixels
 
 TileCommand* PictureButton(QWidget* parent, const char* name, const char* what, const char* picture) {
     auto* button = new TileCommand(parent, name);
@@ -72,6 +72,7 @@ void frm_SkinProject::MakeControls() {
     lst_Layouts = new LayoutList(this);
     lst_Layouts->setObjectName("lst_Layouts");
     lst_Layouts->setAccessibleName("Layouts");
+    lst_Layouts->setMinimumHeight(40);
     btn_SkinProperties = CaptionButton(this, "btn_SkinProperties", "General Skin Properties",
                                        "Show the preferences of the whole skin");
     btn_CloneLayout =

@@ -8,8 +8,10 @@
 #include <QTemporaryDir>
 
 #include "base/failure.h"
+#include "base/files.h"
 #include "base/paths.h"
 #include "document/current_skin.h"
+#include "platform/clock.h"
 #include "project/own_folder.h"
 #include "support/scripted_prompts.h"
 
@@ -17,14 +19,6 @@ namespace ornavo::testing {
 namespace {
 
 namespace fs = std::filesystem;
-
-class FakeCanvas : public Canvas {
-public:
-    void UpdateCurrentLayout() override { calls += "layout "; }
-    void UpdateCaption() override { calls += "caption "; }
-    void ResetFormToOriginal() override { calls += "size "; }
-    std::string calls;
-};
 
 class FilesTest : public ::testing::Test {
 protected:
@@ -63,44 +57,123 @@ TEST_F(FilesTest, WhereASkinLies) {
     }
 }
 
-TEST_F(FilesTest, ASkinIsOpenedWithItsFirstLayout) {
+TEST_F(FilesTest, ASkinIsOpened) {
     Write(Root() / "Party" / "SkinSettings.xml",
-          "<Skin>\n<SkinWidth>640</SkinWidth>\n<Layouts>\n<Layout>\n<Key>A</Key>\n</"
-          "Layout>\n<Layout>\n<Key>B</Key>\n"
-          "</Layout>\n</Layouts>\n</Skin>\n");
-    FakeCanvas canvas;
-    OpenSkin(PlaceOfSkin(Root().string() + "/Party", ""), canvas);
+          "<Skin>\n<SkinWidth>640</SkinWidth>\n<Layouts>\n<Layout>\n<Key>A</Key>\n</Layout>\n"
+          "</Layouts>\n</Skin>\n");
+    ScriptedPrompts prompts;
+    SkinFiles files("/own", (Root() / "data").string());
+    EXPECT_FALSE(files.AskForSkin().has_value()) << "Cancel";
+    prompts.files = {(Root() / "Party" / "SkinSettings.xml").string()};
+    const std::optional<SkinPlace> place = files.AskForSkin();
+    ASSERT_TRUE(place.has_value());
+    EXPECT_EQ(prompts.questions[0].title, "Open Skin");
+    EXPECT_EQ(prompts.questions[0].filter, "Skin Settings|SkinSettings.xml");
+    EXPECT_EQ(prompts.questions[0].folder, "/own/Skins");
+    objCurrentLayout->Key = "old";
+    files.Open(*place);
     EXPECT_EQ(objSkin->SkinWidth, 640);
-    EXPECT_EQ(objCurrentLayout->Key, "A");
-    EXPECT_EQ(canvas.calls, "size layout ");
-    OpenSkin(PlaceOfSkin("Nobody", Root().string()), canvas);
+    EXPECT_EQ(objSkin->dbSkinPrefs->Count(), 181);
+    EXPECT_EQ(objCurrentLayout->Key, "");
+    EXPECT_EQ(objSkin->dbLayouts->Count(), 1);
+    files.AskForSkin();
+    EXPECT_EQ(prompts.questions[2].folder, Root().string() + "/") << "where the last one was found";
+    files.Open(PlaceOfSkin("Nobody", Root().string()));
     EXPECT_EQ(objSkin->SkinName, "Nobody");
     EXPECT_EQ(objSkin->dbLayouts->Count(), 0);
-    EXPECT_EQ(objCurrentLayout->Key, "");
 }
 
-TEST_F(FilesTest, TheQuestionAtTheEnd) {
+TEST_F(FilesTest, AForeignFolderIsAskedAbout) {
     ScriptedPrompts prompts;
-    FakeCanvas canvas;
-    OpenSkin({Root().string() + "/", "New"}, canvas);
-    EXPECT_TRUE(AskToSaveSkin());
-    EXPECT_TRUE(prompts.asked.empty()) << "an unchanged skin asks nothing";
-    objSkin->Dirty = true;
-    prompts.answers = {Answer::No, Answer::Cancel, Answer::Yes};
-    EXPECT_TRUE(AskToSaveSkin());
-    EXPECT_FALSE(AskToSaveSkin());
-    EXPECT_FALSE(fs::exists(Root() / "New"));
-    EXPECT_TRUE(AskToSaveSkin());
-    EXPECT_TRUE(fs::exists(Root() / "New" / "SkinSettings.xml"));
-    EXPECT_FALSE(objSkin->Dirty);
-    EXPECT_EQ(prompts.asked[0], "Save current Skin: Save changes of current Skin before closing Ornavo?");
-    Write(Root() / "file", "");
-    objSkin->SetBasePath((Root() / "file").string());
-    objSkin->Dirty = true;
+    SkinFiles files(Root().string(), (Root() / "data").string());
+    const std::string bytes = "<Skin>\n<SkinName>Original</SkinName>\n</Skin>\n";
+    for (const char* name : {"Original", "Copy", "Third"})
+        Write(Root() / "Skins" / name / "SkinSettings.xml", QByteArray::fromStdString(bytes));
+    const auto text = [&](const char* name) {
+        return fileLayer().Read(Root() / "Skins" / name / "SkinSettings.xml");
+    };
+    using Saved = SkinFiles::Saved;
+    files.Open(PlaceOfSkin("Copy", Root().string()));
+    prompts.answers = {Answer::No};
+    EXPECT_EQ(files.Save(), Saved::No) << "a copied folder whose file names its original";
+    ASSERT_EQ(prompts.asked.size(), 1u);
+    EXPECT_NE(prompts.asked[0].find((Root() / "Skins" / "Original").string()), std::string::npos);
+    EXPECT_EQ(text("Original"), bytes);
     prompts.answers = {Answer::Yes};
-    EXPECT_FALSE(AskToSaveSkin());
+    EXPECT_EQ(files.Save(), Saved::Yes);
+    EXPECT_NE(text("Original"), bytes);
+    EXPECT_EQ(files.Save(), Saved::Yes) << "where it was last saved";
+    EXPECT_EQ(prompts.asked.size(), 2u);
+    objSkin->SkinName = "Fresh";
+    EXPECT_EQ(files.Save(), Saved::Yes) << "nothing is there";
+    objSkin->SkinName = "Third";
+    prompts.answers = {Answer::No};
+    EXPECT_EQ(files.Save(), Saved::No) << "a typed name that is taken";
+    files.Create("third", 800, 600);
+    prompts.answers = {Answer::No};
+    EXPECT_EQ(files.Save(), Saved::No) << "a new skin with a taken name, but for its case";
+    EXPECT_EQ(prompts.asked.size(), 4u);
+    EXPECT_EQ(text("Third"), bytes);
+}
+
+TEST_F(FilesTest, AFailedSaveIsToldAndLosesNothing) {
+    class NoRename : public FileLayer {
+    public:
+        NoRename() { UseFileLayer(this); }
+        ~NoRename() override { UseFileLayer(nullptr); }
+        void Rename(const fs::path&, const fs::path&) override {
+            throw Failure(61, "Files", "No space left on device");
+        }
+    };
+    ScriptedPrompts prompts;
+    SkinFiles files(Root().string(), (Root() / "data").string());
+    files.Create("New", 800, 600);
+    objSkin->Dirty = true;
+    {
+        const NoRename full;
+        EXPECT_EQ(files.Save(), SkinFiles::Saved::Failed);
+    }
+    ASSERT_EQ(prompts.asked.size(), 1u);
+    EXPECT_NE(prompts.asked[0].find((Root() / "Skins" / "New" / "SkinSettings.xml").string()),
+              std::string::npos);
+    EXPECT_NE(prompts.asked[0].find("No space left on device"), std::string::npos);
     EXPECT_TRUE(objSkin->Dirty);
-    EXPECT_EQ(prompts.asked.size(), 5u) << "the failed save is told";
+    EXPECT_EQ(files.Save(), SkinFiles::Saved::Yes);
+    EXPECT_FALSE(objSkin->Dirty);
+}
+
+class TickingClock : public Clock {
+public:
+    TickingClock() { UseClock(this); }
+    ~TickingClock() override { UseClock(nullptr); }
+    QDateTime Now() const override { return QDateTime({2026, 1, 31}, {23, 59, 50}).addSecs(ticks++); }
+    mutable int ticks = 0;
+};
+
+TEST_F(FilesTest, DroppedChangesAreRecoverable) {
+    const TickingClock time;
+    ScriptedPrompts prompts;
+    SkinFiles files(Root().string(), (Root() / "data").string());
+    const fs::path recovered = Root() / "data" / "Recovered";
+    files.Create("Quiet", 800, 600);
+    files.Create("First", 800, 600);
+    EXPECT_FALSE(fs::exists(recovered)) << "an unchanged skin leaves no trace";
+    for (int i = 0; i < 12; ++i) {
+        objSkin->Dirty = true;
+        objSkin->SkinWidth = 1000 + i;
+        files.Create(i % 2 ? "Zebra" : "Ape", 800, 600);
+    }
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(recovered)) names.push_back(entry.path().filename());
+    EXPECT_EQ(names.size(), 10u);
+    EXPECT_FALSE(fs::exists(recovered / "First 2026-01-31 23-59-50-000.xml")) << "the oldest is gone";
+    const fs::path last = recovered / "Ape 2026-02-01 00-00-01-000.xml";
+    ASSERT_TRUE(fs::exists(last));
+    EXPECT_NE(fileLayer().Read(last).find("<SkinWidth>1011</SkinWidth>"), std::string::npos);
+    EXPECT_TRUE(prompts.asked.empty()) << "silently";
+    Write(Root() / "blocked", "");
+    SkinFiles(Root().string(), (Root() / "blocked").string()).KeepDropped();
+    EXPECT_TRUE(prompts.asked.empty());
 }
 
 TEST_F(FilesTest, TheOwnFolder) {
