@@ -21,7 +21,7 @@ dbLayout Three() {
     dbLayout layout;
     for (const char* key : {"A", "B", "C"})
         layout.dbLayoutElements->Add(GetTopOrder(layout), key, TypeButton, 0)->ControlIndex =
-            layout.dbLayoutElements->Count() * 10;
+            GetTopOrder(layout) * 10;
     return layout;
 }
 
