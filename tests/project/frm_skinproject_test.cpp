@@ -115,7 +115,8 @@ protected:
         ASSERT_NE(label, nullptr);
         label->setText(text);
         QTest::keyClick(label, Qt::Key_Return);
-        QCoreApplication::processEvents();
+        // The label closes in one turn of the loop and is told in the next.
+        for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     /// List, current layout and canvas show one layout.
