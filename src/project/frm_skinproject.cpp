@@ -19,14 +19,15 @@
 namespace ornavo {
 namespace {
 
-constexpr int PanelWidth = 3045;                       // twips, outside
-constexpr int Margin = 4, Gap = 2, ButtonHeight = 21;  // pixels
+constexpr int PanelWidth = 3045;                                           // twips, outside
+constexpr int Margin = 4, Gap = 2, ButtonHeight = 21, PictureHeight = 29;  // pixels
 
 TileCommand* PictureButton(QWidget* parent, const char* name, const char* what, const char* picture) {
     auto* button = new TileCommand(parent, name);
     button->SetPicture(QString(":/pictures/") + picture + ".png");
     button->setAccessibleName(what);
     button->setToolTip(what);
+    button->setFixedHeight(PictureHeight);
     return button;
 }
 
@@ -58,6 +59,11 @@ frm_SkinProject::frm_SkinProject(QWidget* owner, Windows& windows, Canvas& canva
     connect(lst_Layouts, &LayoutList::DeletePressed, this, &frm_SkinProject::lst_Layouts_Delete);
     connect(lst_Layouts, &LayoutList::AfterLabelEdit, this, &frm_SkinProject::lst_Layouts_AfterLabelEdit);
     Form_Load();
+}
+
+frm_SkinProject::~frm_SkinProject() {
+    // A box that has the focus loses it when the window goes, and then nobody is left to hear it.
+    tbx_SkinName->disconnect(this);
 }
 
 void frm_SkinProject::MakeControls() {

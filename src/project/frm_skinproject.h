@@ -20,6 +20,7 @@ class frm_SkinProject : public Form {
     Q_OBJECT
 public:
     frm_SkinProject(QWidget* owner, Windows& windows, Canvas& canvas, SkinFiles files);
+    ~frm_SkinProject() override;
 
     QLineEdit* tbx_SkinName;
     LayoutList* lst_Layouts;

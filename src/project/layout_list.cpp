@@ -39,7 +39,7 @@ private:
 LayoutList::LayoutList(QWidget* parent) : QTreeWidget(parent) {
     setColumnCount(1);
     setHeaderLabel("Layouts");
-    header()->setSectionsClickable(false);
+    setHeaderHidden(true);  // the panel is low; a screen reader still has the column's name
     header()->setStretchLastSection(true);
     setRootIsDecorated(false);
     setItemsExpandable(false);
