@@ -427,15 +427,16 @@ TEST_F(PanelTest, TheSizesOfANewSkin) {
     auto* dialog = new frm_AddNewSkin(panel_.get(), files);
     EXPECT_EQ(dialog->tbx_Height->text(), "768") << "a text where a number should be";
     dialog->show();
-    Activate(*dialog);
     const struct {
         const char *typed, *kept;
     } rows[] = {{"100", "600"}, {"600", "600"},  {"601", "601"},   {"", "600"},
                 {"x", "600"},   {"-700", "600"}, {"9e999", "600"}, {"1920", "1920"}};
     for (const auto& row : rows) {
-        dialog->tbx_Width->setFocus();
-        dialog->tbx_Width->setText(row.typed);
-        dialog->tbx_Height->setFocus();
+        dialog->tbx_Width->selectAll();
+        QTest::keyClick(dialog->tbx_Width, Qt::Key_Backspace);
+        QTest::keyClicks(dialog->tbx_Width, row.typed);
+        QFocusEvent leaves(QEvent::FocusOut, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(dialog->tbx_Width, &leaves);
         EXPECT_EQ(dialog->tbx_Width->text(), row.kept) << row.typed;
     }
     dialog->close();
