@@ -43,8 +43,8 @@ void PaintWelcome(QPainter& painter, const QRect& window, const std::string& mis
     const Line lines[] = {
         {18, 30, 14, true, InkColour, title},
         {58, 20, 9, false, InkColour,
-         QStringLiteral("Drop a skin\u2019s folder or its SkinSettings.xml here,")},
-        {78, 20, 9, false, InkColour, QStringLiteral("or start Ornavo with the name of a skin.")},
+         QStringLiteral("Open a skin or create one in the window \u201cSkin Project\u201d,")},
+        {78, 20, 9, false, InkColour, QStringLiteral("or drop a skin\u2019s folder here.")},
         {102, 18, 8, false, SoftInk, QStringLiteral("Sample skins: Aurora, Classic")},
     };
     for (const Line& line : lines) PaintLine(painter, card, line);
