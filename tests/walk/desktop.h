@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// A desktop of its own for walks through real windows: a screen, a window manager, an empty home, the
+// program; mouse and keys to work it, eyes to see what came of it. Nothing sleeps for a result: every wait
+// has a condition and a deadline. What goes wrong is thrown as std::runtime_error.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <functional>
+#include <string>
+
+namespace ornavo::walk {
+
+class Desktop {
+public:
+    /// Starts screen and window manager; `limit` is how long the whole walk may take, in seconds.
+    explicit Desktop(int limit);
+    ~Desktop();
+
+    /// Starts the program; its windows come up in their own time.
+    void StartProgram(const QStringList& arguments = {});
+    /// Waits until it has ended by itself, and gives its exit code.
+    int ProgramEnd();
+    QString Home() const { return home_.path(); }
+
+    /// An id for the functions below, of the visible window whose title fits the expression. Waits for it.
+    QString Window(const QString& title);
+    void WaitUntilGone(const QString& title);
+    /// How many windows of the program can be seen, menus too.
+    int WindowCount();
+    void WaitForFocus(const QString& title);
+    QString Title(const QString& window);
+    QRect Inside(const QString& window);  // without its frame, on the screen
+    void Place(const QString& window, const QPoint& corner);
+    void Resize(const QString& window, const QSize& inside);
+    void Activate(const QString& window);
+
+    // All places are on the screen.
+    void Click(const QPoint& at, int button = 1);
+    void Press(const QPoint& at, int button = 1);
+    void MoveTo(const QPoint& at);
+    void Release(int button = 1);
+    void ParkPointer();                 // where it covers nothing
+    void Key(const QStringList& keys);  // "Right", "ctrl+s", ...
+    void Type(const QString& text);
+
+    QRgb Pixel(const QPoint& at) const;  // opaque, as it is on the screen now
+    QImage Picture() const;
+
+    /// Until the condition holds; `what` says in a failure what did not come.
+    void WaitFor(const std::string& what, const std::function<bool()>& condition);
+
+private:
+    void StartScreen();
+    void MapScreen();
+    QString Tool(const QString& program, const QStringList& arguments);
+    void XDo(const QStringList& arguments) { Tool("xdotool", arguments); }
+
+    QElapsedTimer clock_;
+    qint64 limit_;  // milliseconds
+    QTemporaryDir home_;
+    QProcessEnvironment environment_;
+    QProcess screen_, manager_, program_;
+    QFile frame_;
+    const uchar* pixels_ = nullptr;
+    int bytesPerLine_ = 0;
+};
+
+}  // namespace ornavo::walk
