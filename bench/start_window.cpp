@@ -12,9 +12,11 @@
 
 namespace {
 
-/// Ends the program when the first painting of any window is done.
+/// Ends the program when the first painting of its main window is done.
 class FirstPaint : public QObject {
 public:
+    const QString mainWindow;  // by its name
+    explicit FirstPaint(const char* name) : mainWindow(name) {}
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Paint && object->isWidgetType() &&
             static_cast<QWidget*>(object)->isWindow())
@@ -41,10 +43,10 @@ int main(int argc, char** argv) {
     };
     if (editor) ornavo::PrepareProcess();
     QApplication application(argc, argv);
-    FirstPaint firstPaint;
+    FirstPaint firstPaint(editor ? "frm_Ornavo" : "");
     application.installEventFilter(&firstPaint);
     if (!editor) {
-        EmptyWindow window;
+        EmptyWindow window;  // it has no name
         window.resize(800, 600);
         window.show();
         return QApplication::exec();
@@ -52,7 +54,7 @@ int main(int argc, char** argv) {
     tell("application");
     ornavo::InitCommonControls(application);
     tell("style");
-    ornavo::Program program("0.1", "");
+    ornavo::Program program("0.1", "", "");
     tell("windows");
     program.Start(argc > 2 ? argv[2] : "");
     tell("skin");

@@ -29,7 +29,7 @@ std::string Scalar(const Value& value) {
 void JsonWriter::NextItem(std::string_view name) {
     if (depth_ > 0) text_ += first_ ? "\n" : ",\n";
     text_.append(static_cast<std::size_t>(2 * depth_), ' ');
-    if (!name.empty()) text_ += "\"" + std::string(name) + "\": ";
+    if (!name.empty()) text_.append("\"").append(name).append("\": ");
     first_ = false;
 }
 

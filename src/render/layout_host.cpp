@@ -8,6 +8,7 @@ namespace ornavo {
 
 LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
     : window_(window),
+      cover_(*new QWidget(&window)),
       listener_(listener),
       Element([&window, this](int i) { return Listening(new TileButton(&window, "Element", i)); }),
       pInfo([&window, this](int i) { return Listening(new PictureBox(&window, "pInfo", i)); }),
@@ -19,14 +20,19 @@ LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
     for (Control* single :
          std::initializer_list<Control*>{&pMain, &pMainBack, &tbx_Search, &Scrollframe, &ScrollBar})
         Listening(single);
+    cover_.setAttribute(Qt::WA_TransparentForMouseEvents);
+    cover_.hide();
     // It stands for the jukebox's box: nobody types into the picture of it.
     tbx_Search.Edit().setReadOnly(true);
     tbx_Search.Edit().setFocusPolicy(Qt::NoFocus);
 }
 
 void LayoutHost::ClearElements() {
-    // All of it is painted again anyway; told at once, Qt need not add up what every control uncovers.
-    window_.update();
+    // Qt adds up what every hidden control uncovers, rectangle by rectangle. A cover that comes and goes
+    // tells it first that all of the window is to be painted again, and then there is nothing to add.
+    cover_.setGeometry(window_.rect());
+    cover_.show();
+    cover_.hide();
     Element.Clear();
     pInfo.Clear();
     for (Control* single : std::initializer_list<Control*>{&tbx_Search, &Scrollframe, &ScrollBar, &pMain})

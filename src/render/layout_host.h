@@ -16,6 +16,7 @@ public:
 
 private:
     QWidget& window_;
+    QWidget& cover_;  // never seen; see ClearElements
     ControlEvents* listener_;  // before the pools, which use it
 
 public:
