@@ -78,6 +78,18 @@ LayoutRef Model::WithStandardElements(const std::string& name) const {
     return layout;
 }
 
+Model Model::Reopened() const {
+    Model read = *this;
+    for (LayoutRef& layout : read.layouts_) layout = std::make_shared<Layout>(*layout);
+    read.dirty = false;
+    read.canvasWidth_ = width_;
+    read.canvasHeight_ = height_;
+    read.Deselect();
+    read.current_ = read.layouts_.front();
+    read.Compose();
+    return read;
+}
+
 LayoutRef Model::Find(const std::string& key) const {
     const auto found =
         std::find_if(layouts_.begin(), layouts_.end(), [&](const LayoutRef& l) { return l->key == key; });
@@ -98,15 +110,18 @@ Element* Model::Selected() {
 
 Element* Model::ElementAt(Place at) {
     for (auto element = current_->elements.rbegin(); element != current_->elements.rend(); ++element)
-        if (element->visible && element->shown.Contains(at)) return &*element;
+        if (element->visible && element->isShown && element->shown.Contains(at)) return &*element;
     return nullptr;
 }
 
 void Model::Compose() {
-    for (Element& e : current_->elements)
+    for (Element& e : current_->elements) {
         e.shown = {Start(e.fields.left, e.across, canvasWidth_), Start(e.fields.top, e.down, canvasHeight_),
                    std::max(0, e.fields.width + Growth(e.across, canvasWidth_, width_)),
                    std::max(0, e.fields.height + Growth(e.down, canvasHeight_, height_))};
+        e.isShown = e.shown.width > 0 && e.shown.height > 0;
+    }
+    if (const Element* selected = Selected(); selected && !selected->isShown) Deselect();
 }
 
 void Model::WriteFields(Element& e) {
@@ -116,6 +131,7 @@ void Model::WriteFields(Element& e) {
 }
 
 void Model::Select(Element& element) {
+    if (!element.isShown) return Deselect();
     selected_ = element.key;
     handles = element.shown;
 }
@@ -243,22 +259,40 @@ Corner Model::CornerFrom(Place at, bool fromRight, bool fromBottom) const {
             fromBottom};
 }
 
-void Model::Press(Place at) {
-    for (int i = 7; handles && i >= 0; --i)
-        if (const Box box = Handle(i); box.Contains(at)) {
-            held_ = Held::Handle;
-            handle_ = i;
-            down_ = {at.x - box.left, at.y - box.top};
-            return;
-        }
-    for (int i = static_cast<int>(current_->corners.size()) - 1; i >= 0; --i) {
+int Model::HandleAt(Place at) const {
+    int i = handles ? 7 : -1;
+    while (i >= 0 && !Handle(i).Contains(at)) --i;
+    return i;
+}
+
+int Model::CornerAt(Place at) const {
+    int i = static_cast<int>(current_->corners.size()) - 1;
+    for (; i >= 0; --i) {
         const Place corner = CornerPlace(i);
-        const Box box = {corner.x - CornerReach, corner.y - CornerReach, CornerSize, CornerSize};
-        if (!box.Contains(at)) continue;
+        if (Box{corner.x - CornerReach, corner.y - CornerReach, CornerSize, CornerSize}.Contains(at)) break;
+    }
+    return i;
+}
+
+std::string Model::ElementUnder(Place at) {
+    if (HandleAt(at) >= 0 || CornerAt(at) >= 0) return "";
+    const Element* element = ElementAt(at);
+    return element ? element->key : "";
+}
+
+void Model::Press(Place at) {
+    if (const int handle = HandleAt(at); handle >= 0) {
+        held_ = Held::Handle;
+        handle_ = handle;
+        down_ = {at.x - Handle(handle).left, at.y - Handle(handle).top};
+        return;
+    }
+    if (const int index = CornerAt(at); index >= 0) {
+        const Place corner = CornerPlace(index);
         Deselect();
-        selected_ = "K" + std::to_string(i + 1);
+        selected_ = "K" + std::to_string(index + 1);
         held_ = Held::Corner;
-        down_ = {at.x - box.left, at.y - box.top};
+        down_ = {at.x - corner.x + CornerReach, at.y - corner.y + CornerReach};
         return;
     }
     if (Element* element = ElementAt(at)) {

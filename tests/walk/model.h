@@ -32,7 +32,8 @@ struct Element {
     Locks across, down;
     bool visible = true;
     int background = 0, scrollSpeed = 0;
-    Box shown;  // on the canvas
+    Box shown;            // on the canvas
+    bool isShown = true;  // it had an extent when it was composed
 };
 
 /// A corner of the shape; `fromFar`: counted from the right or the bottom edge.
@@ -51,6 +52,8 @@ using LayoutRef = std::shared_ptr<Layout>;
 class Model {
 public:
     Model(std::string name, int width, int height);
+    /// As it is read from its file.
+    Model Reopened() const;
 
     // What the tool windows do.
     void AddElement(int type);
@@ -77,9 +80,12 @@ public:
     std::optional<Box> handles;  // what they stand round; nothing when they are hidden
     Box Handle(int index) const;
     Place CornerPlace(int index) const;
+    /// The key of the element that a press there would take; "" where it would take something else.
+    std::string ElementUnder(Place at);
     Element& Named(const std::string& key);
     std::string SelectedKey() const { return selected_; }  // a corner's is "K" and its number from 1
     Layout& current() { return *current_; }
+    std::vector<LayoutRef>& layouts() { return layouts_; }
 
     /// The file's lines from <Layouts> on, and what stands before the preferences.
     std::string LayoutLines() const;
@@ -90,6 +96,8 @@ public:
 
 private:
     enum class Held { Nothing, Element, Handle, Corner };
+    int HandleAt(Place at) const;  // -1: none
+    int CornerAt(Place at) const;
     Element* ElementAt(Place at);
     Element* Selected();
     void Compose();
