@@ -119,6 +119,8 @@ QString Desktop::Window(const QString& title) {
     QString found;
     WaitFor("a window " + title.toStdString(), [&] {
         found = Tool("xdotool", {"search", "--onlyvisible", "--name", title}).section('\n', 0, 0);
+        if (found.isEmpty() && program_.waitForFinished(0))
+            Fail("the program has ended with code " + Number(program_.exitCode()));
         return !found.isEmpty();
     });
     return found;

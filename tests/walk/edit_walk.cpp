@@ -38,6 +38,7 @@ protected:
     void Keys(const std::string& key, int times = 1, bool shift = false, bool ctrl = false);
     void Menu(const std::string& key, const char* item, const std::function<void()>& effect);
     void ResizeCanvas(QSize size);
+    void ResetView();
     void CanvasBecomes(QSize size);
 
     // The parts of the walk.
@@ -78,6 +79,9 @@ void EditWalk::CreateSkin() {
     desktop_.Place(toolbox_, ToolboxPlace);
     desktop_.ParkPointer();
     CanvasBecomes(SkinSize);
+    // The composition that follows a new size some time later would end a drag; of these two it can be seen.
+    ResizeCanvas(LargerSize);
+    ResetView();
 }
 
 void EditWalk::ClickPanelPicture(int index) {
@@ -189,6 +193,11 @@ void EditWalk::Menu(const std::string& key, const char* item, const std::functio
 void EditWalk::ResizeCanvas(QSize size) {
     desktop_.Resize(main_, size);
     CanvasBecomes(size);
+}
+
+void EditWalk::ResetView() {
+    ToolboxKeys({"alt+r"});
+    CanvasBecomes(SkinSize);
 }
 
 void EditWalk::CanvasBecomes(QSize size) {
@@ -354,8 +363,7 @@ void EditWalk::AddLayout() {
     DragElement("Main", {{1, 0}});
     DragHandle(3, {{-31, 0}});
     Click({5, 802});
-    ToolboxKeys({"alt+r"});
-    CanvasBecomes(SkinSize);
+    ResetView();
 }
 
 void EditWalk::CloneRenameDelete() {

@@ -198,6 +198,11 @@ void Model::AddLayout(const std::string& name) {
     Compose();
 }
 
+void Model::Save() {
+    dirty = false;
+    Compose();
+}
+
 /// A clone is also a save.
 void Model::CloneLayout(const std::string& name) {
     auto clone = std::make_shared<Layout>(*current_);
@@ -218,6 +223,7 @@ void Model::RenameLayout(const std::string& key, const std::string& name) {
 void Model::DeleteLayout(const std::string& key) {
     std::erase(layouts_, Find(key));
     dirty = true;
+    Compose();
 }
 
 void Model::ChooseLayout(const std::string& key) {
@@ -386,6 +392,10 @@ void Model::AddCorner(int side, Place at) {
                              CornerFrom(at, far(at.x, canvasWidth_, before.fromRight),
                                         far(at.y, canvasHeight_, before.fromBottom)));
     dirty = true;
+    if (selected_.empty() || Selected()) return;
+    // A selected corner stays selected, whatever its number is now.
+    if (const int order = std::stoi(selected_.substr(1)); order > side)
+        selected_ = "K" + std::to_string(order + 1);
 }
 
 void Model::MoveCorner(int index, Place by) {

@@ -62,7 +62,7 @@ public:
     void RenameLayout(const std::string& key, const std::string& name);
     void DeleteLayout(const std::string& key);
     void ChooseLayout(const std::string& key);
-    void Save() { dirty = false; }
+    void Save();
     void ResizeCanvas(int width, int height);
 
     // What happens on the canvas.
