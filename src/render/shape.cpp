@@ -9,6 +9,7 @@ namespace {
 const QColor Dim(0, 0, 0, 96);
 const QColor LineDark(0, 0, 0, 170), LineLight(255, 255, 255, 230);
 constexpr int Beyond = 10;  // pixels by which the frame of an inverted shape lies outside the window
+constexpr int Far = 4096;   // pixels outside the window where the sides of a region may be cut off
 
 /// The same polygon with a frame around the window spliced in after its first corner, so that an odd-even
 /// filling covers what lies outside.
@@ -23,6 +24,37 @@ QPolygon Inverted(const QPolygon& shape, const Frame& frame) {
     return all;
 }
 
+/// How far inside of one edge of the bounds a point lies; negative outside.
+using Depth = double (*)(const QPointF&, const QRectF& bounds);
+constexpr Depth Depths[] = {
+    [](const QPointF& at, const QRectF& bounds) { return at.x() - bounds.left(); },
+    [](const QPointF& at, const QRectF& bounds) { return bounds.right() - at.x(); },
+    [](const QPointF& at, const QRectF& bounds) { return at.y() - bounds.top(); },
+    [](const QPointF& at, const QRectF& bounds) { return bounds.bottom() - at.y(); },
+};
+
+/// What is left of the polygon inside of one edge; where it was cut its sides run along that edge.
+QPolygonF CutAt(const QPolygonF& polygon, const QRectF& bounds, Depth depth) {
+    QPolygonF kept;
+    for (qsizetype i = 0; i < polygon.size(); ++i) {
+        const QPointF from = polygon[(i == 0 ? polygon.size() : i) - 1], to = polygon[i];
+        const double before = depth(from, bounds), behind = depth(to, bounds);
+        if ((before < 0) != (behind < 0)) kept << from + (to - from) * (before / (before - behind));
+        if (behind >= 0) kept << to;
+    }
+    return kept;
+}
+
+/// The same inside of the window with no corner far away: a region costs memory for each of its rows.
+QPolygon Nearby(const QPolygon& shape, const Frame& frame) {
+    const QRect window(0, 0, frame.TargetWidth, frame.TargetHeight);
+    const QRect bounds = window.adjusted(-Far, -Far, Far, Far);
+    if (bounds.contains(shape.boundingRect())) return shape;
+    QPolygonF cut = shape;
+    for (const Depth depth : Depths) cut = CutAt(cut, bounds, depth);
+    return cut.toPolygon();
+}
+
 }  // namespace
 
 QPolygon ShapePolygon(const dbLayout& layout, const Frame& frame, bool forRegion) {
@@ -35,7 +67,7 @@ QPolygon ShapePolygon(const dbLayout& layout, const Frame& frame, bool forRegion
 }
 
 QRegion ShapeRegion(const dbLayout& layout, const Frame& frame) {
-    const QPolygon polygon = ShapePolygon(layout, frame, true);
+    const QPolygon polygon = Nearby(ShapePolygon(layout, frame, true), frame);
     return polygon.size() < 3 ? QRegion() : QRegion(polygon, Qt::OddEvenFill);
 }
 

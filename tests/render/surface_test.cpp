@@ -3,6 +3,7 @@
 
 #include <QPainter>
 
+#include "render/shape.h"
 #include "support/skin_fixture.h"
 
 namespace ornavo::testing {
@@ -101,6 +102,39 @@ TEST_F(SurfaceTest, TheOverlayDimsOneSideAndItsLineShowsOnBlackAndOnWhite) {
             }
             EXPECT_GT(lightest - darkest, 120) << ground.name().toStdString();
         }
+    }
+}
+
+TEST(ShapeRegion, CornersFarAwayCostNothingAndChangeNothingInTheWindow) {
+    constexpr int most = 3'000'000;
+    const struct {
+        std::vector<Point> corners;
+        QRegion seen;
+    } rows[] = {
+        {{{-most, 40}, {most, 40}, {most, -most}, {-most, -most}}, QRegion(0, 0, 100, 40)},
+        {{{0, 0}, {most, 0}, {0, most}}, QRegion(0, 0, 100, 80)},
+        {{{-most, -most},
+          {most, -most},
+          {most, most},
+          {-most, most},
+          {-most, -most},
+          {20, 20},
+          {20, 60},
+          {70, 60},
+          {70, 20},
+          {20, 20}},
+         QRegion(0, 0, 100, 80).subtracted(QRegion(20, 20, 50, 40))},
+        {{{10, -300}, {30, -300}, {30, 300}, {10, 300}}, QRegion(10, 0, 20, 80)},
+    };
+    for (const auto& row : rows) {
+        dbLayout layout;
+        for (const Point& corner : row.corners) {
+            const dbPointRef point = layout.dbPoints->Add(static_cast<int>(layout.dbPoints->Count()) + 1);
+            point->X = corner.x, point->Y = corner.y;
+        }
+        const QRegion region = ShapeRegion(layout, {100, 80, 100, 80});
+        EXPECT_LT(region.boundingRect().height(), 10'000);
+        EXPECT_EQ(region.intersected(QRect(0, 0, 100, 80)), row.seen) << row.corners.size();
     }
 }
 
