@@ -136,7 +136,7 @@ std::string WithSeparator(std::string_view folder) {
 }
 
 bool IsPlainName(std::string_view name) {
-    return !name.empty() && name != "." && name != ".." && CleanFileName(name) == name;
+    return !TrimBlanks(name).empty() && name != "." && name != ".." && CleanFileName(name) == name;
 }
 
 fs::path OnDisk(std::string_view path) {

@@ -17,7 +17,7 @@ std::string GetFileExtension(std::string_view path);     // lower case, with the
 std::string CleanFileName(std::string_view name);
 /// The path with a separator at its end: "\" where the path itself uses only that, otherwise "/".
 std::string WithSeparator(std::string_view folder);
-/// Whether the name can be that of one folder: not empty, ".", "..", no separator, unchanged by
+/// Whether the name can be that of one folder: not blank, ".", "..", no separator, unchanged by
 /// CleanFileName.
 bool IsPlainName(std::string_view name);
 

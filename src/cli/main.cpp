@@ -74,7 +74,7 @@ int RunCommand(const Command& command, const QStringList& words) {
         return command.run(arguments);
     } catch (const UsageError& error) {
         return Misused(QString::fromStdString(error.description()));
-    } catch (const Failure& failure) {
+    } catch (const std::exception& failure) {  // the system's own too, such as a current folder that is gone
         std::fprintf(stderr, "ornavo-cli: %s\n", failure.what());
         return 1;
     }

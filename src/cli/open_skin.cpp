@@ -38,6 +38,7 @@ std::string Arguments::Need(const std::string& name) const {
 }
 
 void OpenNamedSkin(const Arguments& arguments, bool upgraded) {
+    if (arguments.skin.empty()) throw UsageError("name one skin");
     const std::string folder = FolderOf(arguments.skin);
     if (!FileExists(folder + SettingsFile)) throw Failure(53, "Skin", folder + SettingsFile + " not found!");
     const std::string bare = folder.substr(0, folder.size() - 1);

@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "cli/open_skin.h"
+#include "platform/pictures.h"
 #include "platform/prompts.h"
 #include "render/compose.h"
 #include "render/layout_host.h"
@@ -94,8 +95,11 @@ int Render(const Arguments& arguments) {
     OpenNamedSkin(arguments);
     objCurrentLayout = NamedLayout(arguments);
     const Size size = NamedSize(arguments);
-    if (size.width < 1 || size.height < 1)
-        throw Failure(5, "Render", "The skin has no size; give one with --size.");
+    const bool tooLarge = std::int64_t{size.width} * size.height > PicturePixelLimit;
+    if (size.width < 1 || size.height < 1 || tooLarge)
+        throw Failure(5, "Render",
+                      tooLarge ? "The picture would be too large; give another size with --size."
+                               : "The skin has no size; give one with --size.");
     const ConsolePrompts answers;
     OffscreenTarget target(size);
     (preview ? ComposePreview : ComposeLayout)(target, objCurrentLayout, objSkin->SkinWidth,

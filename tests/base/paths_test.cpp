@@ -42,7 +42,7 @@ TEST(Paths, NamesAreCleaned) {
     EXPECT_EQ(CleanFileName("x\u00A0\\*|?\"<>y"), "x _.!!'y");
     EXPECT_EQ(CleanFileName(std::string_view("a\0b", 3)), "ab");
     EXPECT_TRUE(IsPlainName("Blue Skin") && IsPlainName("...") && IsPlainName("\u4E16"));
-    for (const char* name : {"", ".", "..", "a/b", "a\\b", "c:", "a?", "x\u00A0y"})
+    for (const char* name : {"", "  ", ".", "..", "a/b", "a\\b", "c:", "a?", "x\u00A0y"})
         EXPECT_FALSE(IsPlainName(name)) << name;
 }
 

@@ -103,7 +103,8 @@ TEST_F(ToolTest, SaveWritesBackAndUnderAnotherName) {
     ASSERT_EQ(RunTool({"save", skin_, "--as", "Red/1"}).code, 0);
     EXPECT_EQ(Bytes(folder_.filePath("Red_1/SkinSettings.xml")),
               QByteArray(once).replace("<SkinName>Blue<", "<SkinName>Red_1<"));
-    for (const char* bad : {"..", "**", ""}) EXPECT_EQ(RunTool({"save", skin_, "--as", bad}).code, 2) << bad;
+    for (const char* bad : {"..", "**", "", "  "})
+        EXPECT_EQ(RunTool({"save", skin_, "--as", bad}).code, 2) << bad;
 }
 
 TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
@@ -113,13 +114,27 @@ TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
     EXPECT_EQ(preview.size(), QSize(100, 80));
     EXPECT_EQ(preview.pixelColor(99, 79).alpha(), 0);
     EXPECT_EQ(preview.pixelColor(2, 2).alpha(), 255);
-    ASSERT_EQ(
-        RunTool({"render", skin_, "--layout", "Standard", "--out", out, "--view", "canvas", "--size", "90x90"})
-            .code,
-        0);
+    ASSERT_EQ(RunTool({"render", skin_, "--layout", "Standard", "--out", out, "--view", "canvas", "--size",
+                       "90x90"})
+                  .code,
+              0);
     const QImage canvas(out);
     EXPECT_EQ(canvas.size(), QSize(90, 90));
     EXPECT_EQ(canvas.pixelColor(18, 88), QColor(Qt::green)) << "the element, from the bottom edge";
+}
+
+TEST_F(ToolTest, AHugeSkinIsRefusedBeforeMemoryIsTaken) {
+    QFile file(skin_ + "/SkinSettings.xml");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(SkinText).replace(">100</SkinWidth", ">900000</SkinWidth"));
+    file.close();
+    const QStringList render = {"render",   skin_,   "--layout",
+                                "Standard", "--out", folder_.filePath("out.png")};
+    const Outcome refused = RunTool(render);
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_TRUE(refused.err.contains("too large")) << refused.err.toStdString();
+    EXPECT_EQ(RunTool(render + QStringList{"--size", "90x80"}).code, 0);
+    EXPECT_EQ(RunTool({"place", skin_, "--layout", "Standard"}).code, 0);
 }
 
 TEST_F(ToolTest, ExitCodes) {
@@ -130,6 +145,7 @@ TEST_F(ToolTest, ExitCodes) {
         {{}, 2},
         {{"paint", skin_}, 2},
         {{"dump"}, 2},
+        {{"dump", ""}, 2},
         {{"dump", skin_, "--nonsense"}, 2},
         {{"dump", skin_, skin_}, 2},
         {{"place", skin_}, 2},
