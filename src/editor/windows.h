@@ -2,6 +2,7 @@
 // How one window asks for another. The program ties these to the real windows.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace ornavo {
@@ -47,7 +48,12 @@ public:
     virtual void ShowSkinProject() {}  // the project panel, at start
     virtual void SaveSkin() {}         // what its Save button does
     virtual void ShowToolbox() {}
-    virtual void ShowPreview() {}
+    virtual void ToggleMagnifier() {}
+    virtual void ShowPreview() {}   // and the four windows hide,
+    virtual void LeavePreview() {}  // and come back
+    /// The picture editor on a picture of the skin: `finalName` is the proposed base name, `path` the picture
+    /// and then what was saved. False: cancelled.
+    virtual bool EditPicture(const std::string& /*finalName*/, std::string& /*path*/) { return false; }
     virtual PropertiesPanel& properties() {
         static PropertiesPanel none;
         return none;
