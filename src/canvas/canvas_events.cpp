@@ -45,6 +45,10 @@ const Gesture& GestureOf(const Control& control) {
 
 constexpr int LeftButton = 1;
 
+QPoint OnScreen(const Control& control, const Mouse& mouse) {
+    return control.mapToGlobal(QPoint(mouse.x, mouse.y));
+}
+
 bool AnotherIsHeld(int button) {
     return QGuiApplication::mouseButtons() & ~Qt::MouseButtons(button);
 }
@@ -60,6 +64,7 @@ void CanvasEvents::MouseDown(Control& control, const Mouse& mouse) {
     FinishDrag(parts_);
     readOut_.hide();
     button_ = mouse.button;
+    lastPlace_ = OnScreen(control, mouse);
     Attempt([&] { GestureOf(control).down(parts_, control, mouse); });
 }
 
@@ -68,17 +73,26 @@ void CanvasEvents::MouseMove(Control& control, const Mouse& mouse) {
     if (pressedTwice_ == &control && mouse.button & LeftButton)
         MouseDown(control, {LeftButton, mouse.shift, mouse.x, mouse.y});
     if (!parts_.drag.MouseIsDown) return;
-    if (mouse.button == 0)  // the release went elsewhere
+    if (mouse.button == 0) {  // the release went elsewhere
+        lastPlace_ = OnScreen(control, mouse);
         return MouseUp(control, {button_, mouse.shift, mouse.x, mouse.y});
-    const QPoint at = control.mapToGlobal(QPoint(mouse.x, mouse.y));
+    }
+    Drag(control, mouse);
+    if (SelControl) readOut_.ShowBeside(lastPlace_, *SelControl);
+}
+
+void CanvasEvents::Drag(Control& control, const Mouse& mouse) {
+    lastPlace_ = OnScreen(control, mouse);
     Attempt([&] { GestureOf(control).move(parts_, control, mouse); });
-    if (SelControl) readOut_.ShowBeside(at, *SelControl);
 }
 
 void CanvasEvents::MouseUp(Control& control, const Mouse& mouse) {
     pressedTwice_ = nullptr;
     if (parts_.drag.MouseIsDown && mouse.button != button_) return;
     readOut_.hide();
+    // A quick hand's last move may be lost to a later one that waits behind the release.
+    if (parts_.drag.MouseIsDown && OnScreen(control, mouse) != lastPlace_)
+        Drag(control, {button_, mouse.shift, mouse.x, mouse.y});
     Attempt([&] { GestureOf(control).up(parts_, control, mouse); });
 }
 

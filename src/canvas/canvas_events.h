@@ -22,9 +22,12 @@ public:
     void Form_MouseMove(int x, int y);
 
 private:
+    void Drag(Control& control, const Mouse& mouse);
+
     CanvasParts& parts_;
     ReadOut readOut_;
     int button_ = 0;                   // that began the drag
+    QPoint lastPlace_;                 // of the drag, on the screen
     Control* pressedTwice_ = nullptr;  // by a double click, and still held
 };
 

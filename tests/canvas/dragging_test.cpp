@@ -82,6 +82,19 @@ TEST_F(DraggingTest, DeadZonesAndWhatMakesDirty) {
     EXPECT_TRUE(objSkin->Dirty) << "a step of nothing is a step";
 }
 
+TEST_F(DraggingTest, ALastMoveThatWasLostIsMadeUpForAtTheRelease) {
+    Add("Button1", TypeButton, {200, 50, 100, 80});
+    Compose();
+    Press(210, 60);
+    MoveTo(215, 65);
+    Release(240, 100);
+    EXPECT_EQ(Fields(Element("Button1")), (Rect{230, 90, 100, 80}));
+    const QPoint handle = anchors().Anchor[4]->geometry().center();
+    Press(handle.x(), handle.y());
+    Release(handle.x() + 10, handle.y() + 6);
+    EXPECT_EQ(Fields(Element("Button1")), (Rect{230, 90, 110, 86}));
+}
+
 TEST_F(DraggingTest, APlainClickWritesByTheLocksAndLeavesTheSkinClean) {
     dbLayoutElement& e = Add("Button1", TypeButton, {300, 50, 100, 80});
     e.LockLeft = false;
