@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
+#include "picture/frm_pictureeditor.h"
+
 namespace ornavo {
 
 Program::Program(std::string version, const std::string& ownFolder, const std::string& dataFolder)
@@ -50,6 +52,16 @@ void Program::ShowToolbox() {
     if (toolboxWaits_) return;
     if (!toolbox_) toolbox_ = std::make_unique<frm_Toolbox>(main_.parts());
     toolbox_->Open();
+}
+
+bool Program::EditPicture(const std::string& finalName, std::string& path) {
+    frm_PictureEditor editor(&main_);
+    editor.SetFinalName(finalName);
+    editor.SetEditPicture(path);
+    editor.ShowModal();
+    if (editor.IsCanceled()) return false;
+    path = editor.EditPicture();
+    return true;
 }
 
 }  // namespace ornavo

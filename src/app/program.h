@@ -27,6 +27,7 @@ public:
     bool MayClose() override;
     void UnloadOthers() override;
     void ShowToolbox() override;
+    bool EditPicture(const std::string& finalName, std::string& path) override;
 
 private:
     std::string ownFolder_;

@@ -231,6 +231,12 @@ fs::path ReplaceableBehindLinks(const fs::path& path) {
     return Replaceable(target);
 }
 
+void PutInPlace(const fs::path& target, std::string_view bytes) {
+    Scratch scratch(target);
+    scratch.Write(bytes);
+    scratch.TakePlace();
+}
+
 }  // namespace
 
 int FileLayer::Create(const fs::path& path) {
@@ -322,11 +328,11 @@ std::string ReadFile(std::string_view path) {
 }
 
 void ReplaceFile(const fs::path& path, std::string_view bytes) {
-    Named(path, "written", [&] {
-        Scratch scratch(ReplaceableBehindLinks(path));
-        scratch.Write(bytes);
-        scratch.TakePlace();
-    });
+    Named(path, "written", [&] { PutInPlace(ReplaceableBehindLinks(path), bytes); });
+}
+
+void ReplaceFileItself(const fs::path& path, std::string_view bytes) {
+    Named(path, "written", [&] { PutInPlace(Replaceable(path), bytes); });
 }
 
 void CopyFileWhole(const fs::path& source, const fs::path& target) {

@@ -39,6 +39,8 @@ std::string ReadFile(std::string_view path);  // plain files only; found as OnDi
 /// Written beside it, flushed, renamed; leaves no scratch file. The permission bits of an old file stay, a
 /// link stays and what it leads to is replaced. Failure 75 where something else than a file stands.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
+/// The same, but a link in the file's place is replaced itself, as by CopyFileWhole.
+void ReplaceFileItself(const std::filesystem::path& path, std::string_view bytes);
 /// A copy that is whole or not there; an existing target is replaced. A link in the target's place is
 /// replaced itself: pictures come from strangers, and a copy of one must not land where their link leads.
 void CopyFileWhole(const std::filesystem::path& source, const std::filesystem::path& target);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/picture_items.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <array>
 #include <vector>
@@ -13,6 +12,7 @@
 #include "canvas/shape_points.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
+#include "platform/picture_bytes.h"
 #include "render/element_button.h"
 #include "render/element_info.h"
 #include "render/layout_host.h"
@@ -22,8 +22,6 @@
 
 namespace ornavo {
 namespace {
-
-constexpr int BestQuality = 100;
 
 dbLayoutElementRef SelectedElement() {
     return SelControl && objCurrentLayout ? objCurrentLayout->dbLayoutElements->Find(SelControl->Tag)
@@ -70,14 +68,6 @@ QImage PixelsOf(QWidget& canvas, const Rect& bounds) {
         canvas.render(&pixels, seen.topLeft() - QPoint(bounds.left, bounds.top), QRegion(seen),
                       QWidget::DrawWindowBackground | QWidget::DrawChildren);
     return pixels;
-}
-
-std::string JpegOf(const QImage& pixels) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (pixels.isNull() || !buffer.open(QIODevice::WriteOnly) || !pixels.save(&buffer, "JPG", BestQuality))
-        throw Failure(513, "UseBackgroundAsPicture", "There is no picture to write");
-    return bytes.toStdString();
 }
 
 struct Redraw {
@@ -134,7 +124,8 @@ void UseBackgroundAsPicture(CanvasParts& parts) {
     {
         const ToolsHidden hidden(parts);
         const QImage picCopyBackground = PixelsOf(parts.form, SelControl->Bounds());
-        ReplaceFile(OnDisk(objSkin->SkinFolder() + name), JpegOf(picCopyBackground));
+        ReplaceFileItself(OnDisk(objSkin->SkinFolder() + name),
+                          FileBytesOf(picCopyBackground, FileKind::Jpeg));
     }
     element->PicNormal = name;
     Attempt([&] { RedrawElement(parts.host, *SelControl, *element); });

@@ -31,4 +31,9 @@ inline constexpr Setting<int> SkinProjectHeight = {"SkinProject", "Height", 3090
 inline constexpr Setting<int> NewSkinWidth = {"CreateNewSkin", "Width", 1024};  // pixels
 inline constexpr Setting<int> NewSkinHeight = {"CreateNewSkin", "Height", 768};
 
+inline constexpr Setting<int> PictureHue = {"Picture-Editor", "Hue", 100};
+inline constexpr Setting<int> PictureSaturation = {"Picture-Editor", "Saturation", 100};
+inline constexpr Setting<bool> SaveAsBMP = {"Picture-Editor", "SaveAsBMP", true};
+inline constexpr Setting<int> PresetCount = {"Picture-Editor", "PresetCount", 0};
+
 }  // namespace ornavo::settings

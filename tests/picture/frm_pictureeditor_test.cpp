@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "picture/frm_pictureeditor.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include "editor/selection.h"
+#include "editor/settings_keys.h"
+#include "support/scripted_prompts.h"
+#include "support/skin_fixture.h"
+#include "support/step_layer.h"
+
+namespace ornavo::testing {
+namespace {
+
+class PictureEditorTest : public SkinTest {
+protected:
+    PictureEditorTest() {
+        UseSettingsFile(Path("settings.ini"));
+        SelKey.clear();
+    }
+    ~PictureEditorTest() override {
+        UseFileLayer(nullptr);
+        SelKey.clear();
+    }
+    void Open(const char* picture, const char* finalName = "a") {
+        form_ = std::make_unique<frm_PictureEditor>(nullptr);
+        form_->SetFinalName(finalName);
+        form_->SetEditPicture(picture);
+        form_->Form_Load();
+        form_->resize(900, 600);
+        form_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+    }
+    static void Click(TileCommand* button) { QTest::mouseClick(button, Qt::LeftButton); }
+    void ClickPreset(int row) const {
+        const QRect place = form_->lstPresets->visualItemRect(form_->lstPresets->item(row));
+        QTest::mouseClick(form_->lstPresets->viewport(), Qt::LeftButton, {}, place.center());
+    }
+    QStringList PresetNames() const {
+        QStringList names;
+        for (int i = 0; i < form_->lstPresets->count(); ++i) names += form_->lstPresets->item(i)->text();
+        return names;
+    }
+    std::array<int, 2> Sliders() const { return {form_->hscHue->value(), form_->hscSaturation->value()}; }
+    static QRgb Seen(const DibView* box, int x, int y) {
+        return box->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32).pixel(x, y);
+    }
+    QString Notice() const { return form_->lbl_Notice->text(); }
+
+    ScriptedPrompts prompts_;
+    std::unique_ptr<frm_PictureEditor> form_;
+};
+
+QRgb Recoloured(QRgb pixel, int hue, int saturation) {
+    cDIBSection dib;
+    dib.CreateFromPicture(reinterpret_cast<const std::uint8_t*>(&pixel), 1, 1, 4);
+    cColourise engine;
+    engine.Hue = hue;
+    engine.Saturation = saturation;
+    engine.ProcessByRule(dib, dib);
+    const std::uint8_t* bits = dib.DIBSectionBitsPtr();
+    return qRgb(bits[2], bits[1], bits[0]);
+}
+
+TEST_F(PictureEditorTest, BothBoxesShowTheirPixelsWhereverTheyAreScrolled) {
+    QImage large(1101, 903, QImage::Format_RGB32);  // rows that are padded
+    for (int y = 0; y < large.height(); ++y)
+        for (int x = 0; x < large.width(); ++x) large.setPixel(x, y, qRgb(x & 255, y & 255, (x + y) / 9));
+    ASSERT_TRUE(large.save(Path("a.png")));
+    Open("a.png");
+    for (const QPoint corner : {QPoint(0, 0), QPoint(301, 77), QPoint(9999, 9999)}) {
+        form_->picResult->horizontalScrollBar()->setValue(corner.x());
+        form_->picResult->verticalScrollBar()->setValue(corner.y());
+        const QPoint at(form_->picSource->horizontalScrollBar()->value(),
+                        form_->picSource->verticalScrollBar()->value());
+        for (const QPoint place : {QPoint(0, 0), QPoint(17, 60), QPoint(80, 3)}) {
+            const QRgb pixel = large.pixel(at + place);
+            EXPECT_EQ(Seen(form_->picSource, place.x(), place.y()), pixel);
+            EXPECT_EQ(Seen(form_->picResult, place.x(), place.y()), Recoloured(pixel, 100, 100));
+        }
+    }
+    EXPECT_EQ(form_->picSource->horizontalScrollBar()->value(), 1101 - form_->picSource->viewport()->width());
+}
+
+TEST_F(PictureEditorTest, SlidersGoByKeysWheelAndPress) {
+    Picture("a.png", QColor(90, 30, 200));
+    settings::PictureHue.Write(40);
+    settings::PictureSaturation.Write(999);
+    Open("a.png");
+    EXPECT_EQ(Sliders(), (std::array{40, 255}));
+    const auto expect = [&](int hue) {
+        EXPECT_EQ(form_->lblHueValue->text().toInt(), hue);
+        EXPECT_EQ(Seen(form_->picResult, 1, 1), Recoloured(qRgb(90, 30, 200), hue, 255)) << hue;
+    };
+    const std::pair<Qt::Key, int> keys[] = {
+        {Qt::Key_Right, 41}, {Qt::Key_PageUp, 49}, {Qt::Key_End, 255}, {Qt::Key_Home, 0}, {Qt::Key_Up, 1}};
+    for (const auto& [key, hue] : keys) {
+        QTest::keyClick(form_->hscHue, key);
+        expect(hue);
+    }
+    QTest::mouseClick(form_->hscHue, Qt::LeftButton, {}, QPoint(form_->hscHue->width() - 20, 12));
+    expect(9);
+    QWheelEvent turn(QPointF(50, 12), form_->hscHue->mapToGlobal(QPointF(50, 12)), {}, QPoint(0, 120), {}, {},
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(form_->hscHue, &turn);
+    expect(9 + QApplication::wheelScrollLines());
+}
+
+TEST_F(PictureEditorTest, PresetsAreSavedPickedAndDeleted) {
+    Picture("a.png", Qt::red);
+    Open("a.png");
+    EXPECT_FALSE(form_->btn_DeletePreset->isEnabled());
+    prompts_.inputs = {"  Sea ", "   ", "Rust"};
+    form_->hscHue->setValue(170);
+    Click(form_->btn_SavePreset);
+    Click(form_->btn_SavePreset);
+    form_->hscSaturation->setValue(20);
+    Click(form_->btn_SavePreset);
+    EXPECT_EQ(PresetNames(), (QStringList{"Sea", "Rust"}));
+    ClickPreset(0);
+    EXPECT_EQ(Sliders(), (std::array{170, 100}));
+    form_->hscHue->setValue(3);
+    ClickPreset(0);  // the same once more
+    EXPECT_EQ(Sliders(), (std::array{170, 100}));
+    QTest::keyClick(form_->lstPresets, Qt::Key_Down);
+    EXPECT_EQ(Sliders(), (std::array{170, 20}));
+    Click(form_->btn_SavePreset);  // cancelled
+    EXPECT_EQ(prompts_.asked.front(), "Save preset: Enter name for Color preset []");
+    EXPECT_EQ(prompts_.asked.back(), "Save preset: Enter name for Color preset [Rust]");
+    ClickPreset(0);
+    Click(form_->btn_DeletePreset);
+    EXPECT_EQ(PresetNames(), QStringList{"Rust"});
+    Click(form_->btn_DeletePreset);  // none is selected
+    EXPECT_EQ(PresetNames(), QStringList{"Rust"});
+}
+
+TEST_F(PictureEditorTest, SavesOrStaysOpen) {
+    Picture("a.png", QColor(90, 30, 200));
+    Open("a.png", "b");
+    form_->hscHue->setValue(7);
+    form_->optJPG->setChecked(true);
+    form_->tbx_FinalName->setText(" ../c ");
+    Click(form_->btn_Save);
+    EXPECT_EQ(Notice(), "\"../c\" can't be the name of a file.");
+    form_->tbx_FinalName->setText("  ");
+    StepLayer disk;
+    disk.before = [](int step) {
+        if (step > 1) throw Failure(61, "disk", "No space left on device");
+    };
+    UseFileLayer(&disk);
+    QTest::keyClick(form_->tbx_FinalName, Qt::Key_Return);
+    UseFileLayer(nullptr);
+    EXPECT_TRUE(Notice().contains("No space left on device")) << Notice().toStdString();
+    EXPECT_TRUE(form_->isVisible() && form_->IsCanceled());
+    EXPECT_EQ(form_->EditPicture(), Path("a.png").toStdString());
+    Click(form_->btn_Save);
+    EXPECT_FALSE(form_->isVisible() || form_->IsCanceled());
+    EXPECT_EQ(form_->EditPicture(), Path("b.jpg").toStdString());
+    EXPECT_EQ(settings::PictureHue.Read(), 7);
+    EXPECT_FALSE(settings::SaveAsBMP.Read());
+
+    Picture("a.png", Qt::green);  // what is kept is opened, and the settings with it
+    Open("a.png");
+    EXPECT_EQ(Seen(form_->picSource, 0, 0), qRgb(90, 30, 200));
+    EXPECT_TRUE(form_->optJPG->isChecked());
+    form_->tbx_FinalName->setText("b");
+    EXPECT_EQ(Notice(), "The skin has a picture \"b.jpg\"; saving replaces it.");
+    QTest::keyClick(form_.get(), Qt::Key_Escape);
+    EXPECT_TRUE(form_->IsCanceled() && !form_->isVisible());
+}
+
+TEST_F(PictureEditorTest, TellsWhatIsLost) {
+    QImage half(2, 1, QImage::Format_ARGB32);
+    half.setPixel(0, 0, qRgba(255, 0, 0, 255));
+    half.setPixel(1, 0, qRgba(255, 0, 0, 0));
+    ASSERT_TRUE(half.save(Path("half.png")));
+    Add("E1", 1, {0, 0, 10, 10}).BackgroundColor = Rgb(10, 20, 30);
+    for (const auto& [key, ground] : {std::pair{"E1", qRgb(10, 20, 30)}, {"", qRgb(255, 255, 255)}}) {
+        SelKey = key;
+        Open("half.png");
+        EXPECT_TRUE(Notice().contains("transparent")) << key;
+        EXPECT_EQ(Seen(form_->picSource, 0, 0), qRgb(255, 0, 0));
+        EXPECT_EQ(Seen(form_->picSource, 1, 0), ground);
+    }
+    Open("gone.png");
+    EXPECT_EQ(Notice(), "\"gone.png\" can't be opened as a picture.");
+    EXPECT_FALSE(form_->btn_Save->isEnabled());
+    form_->hscHue->setValue(9);  // nothing to recolour
+}
+
+}  // namespace
+}  // namespace ornavo::testing

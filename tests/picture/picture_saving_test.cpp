@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "picture/picture_saving.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "document/current_skin.h"
+#include "pixels/cdibsection.h"
+#include "support/failure_number.h"
+#include "support/step_layer.h"
+#include "support/temporary_folder.h"
+
+namespace ornavo {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SavingTest : public ::testing::Test {
+protected:
+    SavingTest() {
+        objSkin = std::make_shared<dbSkin>();
+        objSkin->SetBasePath(folder_.place().string());
+        objSkin->SkinName = "Blue";
+        layout_ = objSkin->AddNewLayout("Standard");
+        result_.Create(3, 2);
+        result_.RandomiseBits(7);
+    }
+    ~SavingTest() override { UseFileLayer(nullptr); }
+
+    /// Opens the picture as the skin names it and saves it.
+    std::string Save(const std::string& picture, const std::string& name,
+                     FileKind kind = FileKind::Bmp) const {
+        return SaveRecoloured(result_, {SourcePath(picture), picture, name, kind});
+    }
+    /// An element that shows the picture.
+    void Show(const char* key, const char* picture) const {
+        layout_->dbLayoutElements->Add(layout_->dbLayoutElements->Count() + 1, key, 1, 0)->PicNormal =
+            picture;
+    }
+    /// All files below the folder with their bytes.
+    std::map<std::string, std::string> Files() const {
+        std::map<std::string, std::string> files;
+        for (const auto& entry : fs::recursive_directory_iterator(folder_.place()))
+            if (entry.is_regular_file())
+                files[entry.path().lexically_relative(folder_.place()).generic_string()] =
+                    TemporaryFolder::Read(entry.path());
+        return files;
+    }
+    std::string Named(const std::string& path) const {
+        return fs::path(path).lexically_relative(folder_.place()).generic_string();
+    }
+
+    const TemporaryFolder folder_;
+    dbLayoutRef layout_;
+    cDIBSection result_;
+};
+
+TEST_F(SavingTest, TheKeptSourceIsFound) {
+    for (const char* name : {"a.PNG", "b.jpg", "B.png", "b.bmp", "c.d.png", "c.d.e.png"})
+        folder_.Write(std::string("Blue/Original/") + name, "kept");
+    const std::pair<const char*, const char*> cases[] = {{"a.bmp", "Blue/Original/a.PNG"},
+                                                         {"A.jpg", "Blue/Original/a.PNG"},
+                                                         {"b.bmp", "Blue/Original/b.bmp"},
+                                                         {"B.bmp", "Blue/Original/B.png"},
+                                                         {"c.bmp", "Blue/c.bmp"},
+                                                         {"c.d.bmp", "Blue/Original/c.d.png"},
+                                                         {"/far/b.gif", "Blue/Original/b.bmp"}};
+    for (const auto& [picture, source] : cases) EXPECT_EQ(Named(SourcePath(picture)), source) << picture;
+    EXPECT_EQ(SourcePath("/far/x.gif"), "/far/x.gif");
+}
+
+TEST_F(SavingTest, KeepsTheSourceOnceAndWritesTheFile) {
+    folder_.Write("Blue/a.bmp", "source");
+    folder_.Write("far/z.gif", "far");
+    EXPECT_EQ(Named(Save("a.bmp", "a")), "Blue/a.bmp");
+    EXPECT_EQ(Named(Save("a.bmp", "a", FileKind::Jpeg)), "Blue/a.jpg");
+    EXPECT_EQ(Named(Save((folder_ / "far/z.gif").string(), "y")), "Blue/y.bmp");
+    std::map<std::string, std::string> files = Files();
+    const std::string jpeg = files["Blue/a.jpg"], bmp = files["Blue/y.bmp"];
+    files["Blue/a.jpg"] = files["Blue/y.bmp"] = "";
+    EXPECT_EQ(files, (std::map<std::string, std::string>{{"Blue/Original/a.bmp", "source"},
+                                                         {"Blue/Original/z.gif", "far"},
+                                                         {"Blue/a.jpg", ""},
+                                                         {"Blue/y.bmp", ""},
+                                                         {"far/z.gif", "far"}}));
+    EXPECT_EQ(jpeg.substr(0, 2), "\xFF\xD8");
+    ASSERT_EQ(bmp.size(), 54u + 2 * 12);
+    EXPECT_EQ(bmp[10], 54);
+    for (int row = 0; row < 2; ++row)
+        EXPECT_EQ(bmp.substr(54 + row * 12, 9),
+                  std::string(reinterpret_cast<const char*>(result_.ScanLine(row)), 9));
+}
+
+TEST_F(SavingTest, AJpegTakesTheBmpsPlaceUnlessItIsShownElsewhere) {
+    struct Case {
+        const char *shown, *alsoShown, *picture;
+        bool stays;
+    };
+    for (const Case& c : {Case{"k.bmp", "x.png", "k.bmp", false}, Case{"k.bmp", "K.BMP", "k.bmp", true},
+                          Case{"k.bmp", "s.png", "s.png", true}, Case{"x.png", "s.png", "s.png", false}}) {
+        while (layout_->dbLayoutElements->Count() > 0) layout_->dbLayoutElements->Remove(1);
+        Show("A", c.shown);
+        Show("B", c.alsoShown);
+        folder_.Write("Blue/k.bmp", "old");
+        folder_.Write("Blue/s.png", "source");
+        Save(c.picture, "k", FileKind::Jpeg);
+        EXPECT_EQ(Files().contains("Blue/k.bmp"), c.stays) << c.shown << ' ' << c.alsoShown;
+    }
+}
+
+TEST_F(SavingTest, LeavesTheSkinsFolderByNoRoad) {
+    folder_.Write("Blue/a.png", "source");
+    folder_.Write("far/b.bmp", "far");
+    const auto before = Files();
+    for (const char* name : {"../far/b", "..\\far\\b", "/tmp/x", "", "  ", ".", "..", "c:x", "a*"})
+        EXPECT_EQ(FailureNumber([&] { Save("a.png", name); }), 513) << name;
+    objSkin->SkinName.clear();
+    EXPECT_EQ(FailureNumber([&] { Save((folder_ / "Blue/a.png").string(), "a"); }), 513);
+    objSkin->SkinName = "Blue";
+    EXPECT_EQ(FailureNumber([&] { Save("gone.png", "a"); }), 53);
+    EXPECT_EQ(Files(), before);
+
+    fs::create_directory_symlink(folder_ / "far", folder_ / "Blue/Original");
+    EXPECT_EQ(FailureNumber([&] { Save("a.png", "a"); }), 75);
+    EXPECT_EQ(Files(), before);
+    fs::remove(folder_ / "Blue/Original");
+    fs::create_symlink(folder_ / "far/b.bmp", folder_ / "Blue/b.bmp");
+    fs::create_directory(folder_ / "Blue/Original");
+    fs::create_symlink(folder_ / "far/new.png", folder_ / "Blue/Original/a.png");  // leads nowhere yet
+    Save("a.png", "b");
+    EXPECT_EQ(TemporaryFolder::Read(folder_ / "far/b.bmp"), "far");
+    EXPECT_FALSE(fs::exists(folder_ / "far/new.png"));
+    EXPECT_EQ(TemporaryFolder::Read(folder_ / "Blue/Original/a.png"), "source");
+}
+
+/// Each step towards the disk fails once: the skin has its old picture and no kept source, or everything is
+/// new.
+TEST_F(SavingTest, AnyStepMayFail) {
+    for (const FileKind kind : {FileKind::Bmp, FileKind::Jpeg}) {
+        int failed = 0;
+        for (int bad = 1;; ++bad) {
+            fs::remove_all(folder_ / "Blue");
+            folder_.Write("Blue/a.bmp", "source");
+            folder_.Write("Blue/a.jpg", "old");
+            const auto before = Files();
+            StepLayer disk;
+            disk.before = [&](int step) {
+                if (step == bad) throw Failure(61, "disk", "full");
+            };
+            UseFileLayer(&disk);
+            const bool wentWell = FailureNumber([&] { Save("a.bmp", "a", kind); }) == 0;
+            UseFileLayer(nullptr);
+            if (!wentWell) ++failed;
+            if (disk.steps < bad) break;
+            const auto after = Files();
+            if (!wentWell) {
+                EXPECT_EQ(after, before) << "step " << bad;
+            } else {
+                EXPECT_EQ(after.at("Blue/Original/a.bmp"), "source") << "step " << bad;
+                EXPECT_NE(after.at(kind == FileKind::Bmp ? "Blue/a.bmp" : "Blue/a.jpg").substr(0, 3), "old");
+            }
+        }
+        EXPECT_GE(failed, 9);
+    }
+}
+
+}  // namespace
+}  // namespace ornavo
