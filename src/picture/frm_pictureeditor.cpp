@@ -26,15 +26,22 @@
 namespace ornavo {
 namespace {
 
-constexpr int Margin = 12, Gap = 8;  // pixels
+constexpr int Margin = 12, Gap = 8, RowGap = 14;  // pixels
 constexpr QSize UsualSize = {1000, 660}, ButtonSize = {104, 26};
 constexpr int SwatchSize = 14;
 constexpr int RoomOfScreen = 92;  // percent
 
-/// What a picture is put on that the result can't be see-through with.
-QColor Ground() {
+/// What a see-through picture is put on: the background of the element that shows it, else white.
+struct Ground {
+    QColor colour = Qt::white;
+    std::string name = "white";
+};
+
+Ground GroundOfSelection() {
     const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(SelKey);
-    return element ? ScreenColour(element->BackgroundColor) : QColor(Qt::white);
+    if (!element) return {};
+    const QColor colour = ScreenColour(element->BackgroundColor);
+    return {colour, "the element's background color, " + colour.name().toStdString()};
 }
 
 int ValueOf(const std::string& text, int otherwise) {
@@ -50,6 +57,10 @@ QIcon Swatch(int hue, int saturation) {
 
 std::string Trimmed(const QLineEdit& box) {
     return std::string(TrimBlanks(box.text().toStdString()));
+}
+
+std::string Quoted(const std::string& text) {
+    return std::string("\"").append(text).append("\"");
 }
 
 QString Shown(const std::string& text) {
@@ -121,6 +132,7 @@ frm_PictureEditor::frm_PictureEditor(QWidget* owner)
 QWidget* frm_PictureEditor::ColourBox() {
     auto* box = new QGroupBox(QStringLiteral("Color"));
     auto* grid = new QGridLayout(box);
+    grid->setVerticalSpacing(RowGap);
     grid->addWidget(Label("lblHue", "&Hue", hscHue), 0, 0);
     grid->addWidget(hscHue, 0, 1);
     grid->addWidget(lblHueValue, 0, 2);
@@ -150,6 +162,7 @@ QWidget* frm_PictureEditor::PresetBox() {
 
 QWidget* frm_PictureEditor::OptionsBox() {
     auto* grid = new QGridLayout(fraOptions);
+    grid->setVerticalSpacing(RowGap);
     fraOptions->setObjectName(QStringLiteral("fraOptions"));
     tbx_FinalName->setObjectName(QStringLiteral("tbx_FinalName"));
     tbx_FinalName->setAccessibleName(QStringLiteral("Save As"));
@@ -178,9 +191,9 @@ void frm_PictureEditor::Arrange() {
     pictures->addWidget(picResult, 1, 1);
     auto* boxes = new QHBoxLayout;
     boxes->setSpacing(Margin);
-    boxes->addWidget(ColourBox(), 4);
-    boxes->addWidget(PresetBox(), 3);
-    boxes->addWidget(OptionsBox(), 3);
+    boxes->addWidget(ColourBox(), 5);
+    boxes->addWidget(PresetBox(), 2);
+    boxes->addWidget(OptionsBox(), 2);
     auto* last = new QHBoxLayout;
     lbl_Notice->setWordWrap(true);
     lbl_Notice->setMinimumHeight(2 * lbl_Notice->fontMetrics().lineSpacing());
@@ -252,15 +265,18 @@ void frm_PictureEditor::Form_Load() {
 
 void frm_PictureEditor::LoadSource() {
     const PictureRef picture = LoadSkinPicture(editPicture_);
-    const QImage flat = picture ? Flattened(picture->image, Ground()) : QImage();
+    const Ground ground = GroundOfSelection();
+    const QImage flat = picture ? Flattened(picture->image, ground.colour) : QImage();
     const bool loaded = !flat.isNull() && source_.CreateFromPicture(flat.constBits(), flat.width(),
                                                                     flat.height(), flat.bytesPerLine());
     btn_Save->setEnabled(loaded);
     if (!loaded)
-        loss_ = "\"" + GetFileName(editPicture_) + "\" can't be opened as a picture.";
+        loss_ = Quoted(GetFileName(editPicture_)) + " can't be opened as a picture.";
+    else if (IsAnimatedGIF(picture->path))
+        loss_ = "The picture is animated and the saved one can't be: it is the first frame.";
     else if (IsSeeThrough(picture->image))
         loss_ = "The picture is transparent in places and the saved one can't be: they are filled with " +
-                Ground().name().toStdString() + ".";
+                ground.name + ".";
 }
 
 void frm_PictureEditor::Redraw() {
@@ -343,7 +359,8 @@ void frm_PictureEditor::ShowNotice(const std::string& failure) {
             TargetPath(finalName_, optBMP->isChecked() ? FileKind::Bmp : FileKind::Jpeg);
         const std::string name = GetFileName(target);
         if (!failure.empty() || EqualText(name, GetFileName(picture_)) || !FileExists(target)) return;
-        text += (text.empty() ? "" : "\n") + ("The skin has a picture \"" + name + "\"; saving replaces it.");
+        if (!text.empty()) text += '\n';
+        text += "The skin has a picture " + Quoted(name) + "; saving replaces it.";
     });
     QPalette colours = palette();
     if (!failure.empty()) colours.setColor(QPalette::WindowText, QColor(0xA0, 0x10, 0x10));
