@@ -8,7 +8,8 @@ namespace ornavo {
 Program::Program(std::string version, const std::string& ownFolder, const std::string& dataFolder)
     : ownFolder_(ownFolder),
       main_(*this, std::move(version)),
-      project_(&main_, *this, main_, SkinFiles(ownFolder, dataFolder)) {
+      project_(&main_, *this, main_, SkinFiles(ownFolder, dataFolder)),
+      properties_(&main_, *this, main_) {
     UsePrompts(&prompts_);
 }
 
@@ -41,6 +42,7 @@ bool Program::MayClose() {
 
 void Program::UnloadOthers() {
     if (toolbox_) toolbox_->close();
+    properties_.close();
     if (project_.LastUnload() == frm_SkinProject::Unload::Done) return;
     // It stayed open, is asked to close once more, and is the last window if it stays again.
     if (!project_.close()) project_.StandAlone();

@@ -10,6 +10,7 @@
 #include "dialogs/qt_prompts.h"
 #include "editor/windows.h"
 #include "project/frm_skinproject.h"
+#include "properties/frm_properties.h"
 
 namespace ornavo {
 
@@ -28,12 +29,14 @@ public:
     void UnloadOthers() override;
     void ShowToolbox() override;
     bool EditPicture(const std::string& finalName, std::string& path) override;
+    PropertiesPanel& properties() override { return properties_; }
 
 private:
     std::string ownFolder_;
     QtPrompts prompts_;
     frm_Ornavo main_;
     frm_SkinProject project_;
+    frm_Properties properties_;
     std::unique_ptr<frm_Toolbox> toolbox_;  // null until it is first shown
     bool toolboxWaits_ = false;             // for the main window, above which it stays
 };

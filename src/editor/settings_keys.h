@@ -28,6 +28,10 @@ inline constexpr Setting<int> SkinProjectLeft = {"SkinProject", "Left", 10830};
 inline constexpr Setting<int> SkinProjectTop = {"SkinProject", "Top", 945};
 inline constexpr Setting<int> SkinProjectHeight = {"SkinProject", "Height", 3090};
 
+inline constexpr Setting<int> PropertiesLeft = {"Properties", "Left", 9045};
+inline constexpr Setting<int> PropertiesTop = {"Properties", "Top", 4035};
+inline constexpr Setting<int> PropertiesWidth = {"Properties", "Width", 4800};
+
 inline constexpr Setting<int> NewSkinWidth = {"CreateNewSkin", "Width", 1024};  // pixels
 inline constexpr Setting<int> NewSkinHeight = {"CreateNewSkin", "Height", 768};
 

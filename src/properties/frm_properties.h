@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// The properties panel: one sheet of rows for what is selected. Its life, its size, and which sheet.
+#pragma once
+
+#include <QScrollArea>
+#include <QTimer>
+
+#include "platform/form.h"
+#include "properties/panel_parts.h"
+
+namespace ornavo {
+
+class frm_Properties : public Form, public PropertiesPanel, private RowEvents {
+    Q_OBJECT
+public:
+    /// Owned by `owner`, the main window; null for none.
+    frm_Properties(QWidget* owner, Windows& windows, Canvas& canvas);
+    ~frm_Properties() override;
+
+    void Open() override;
+    void ShowProperties() override;
+    void UnloadProperties() override;
+    void Hide() override { hide(); }
+    bool IsShown() const override { return isVisible(); }
+
+    PanelParts& parts() { return parts_; }
+    QTimer tmrUpdate;  // 100 ms after the last edit
+
+protected:
+    void Form_Activate() override;
+    void Form_Resize() override;
+    void Form_Unload() override;
+
+private:
+    void Form_Load();
+
+    void TextChanged(int index) override;
+    void EnterPressed(int index) override;
+    void FocusLost(int index) override;
+    void CheckClicked(int index) override;
+    void ComboClicked(int index) override;
+    void ButtonClicked(int index) override;
+    void PicEditClicked(int index) override;
+
+    QScrollArea scroll_;
+    QWidget sheet_;
+    RowPools pools_;
+    PanelParts parts_;
+};
+
+}  // namespace ornavo

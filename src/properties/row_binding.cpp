@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "properties/row_binding.h"
+
+#include "base/failure.h"
+#include "base/numbers.h"
+#include "document/current_skin.h"
+#include "document/fields.h"
+
+namespace ornavo {
+namespace {
+
+constexpr std::size_t Digits = 4;
+
+/// Four digits with leading zeros; a longer number is cut on the left.
+std::string FourDigits(int number) {
+    const std::string digits = "000" + std::to_string(number);
+    return digits.substr(digits.size() - Digits);
+}
+
+/// Calls `use` with the object that the key belongs to and the name of its member.
+template <class Use>
+auto WithOwner(const BoundObjectRef& bound, std::string_view key, Use use) -> decltype(use(dbPoint(), "")) {
+    const std::string_view member = GetMethod(key);
+    if (const std::string_view preference = GetClass(key); !preference.empty())
+        return use(*objSkin->dbSkinPrefs->Item(preference), member);
+    if (const auto* element = std::get_if<dbLayoutElementRef>(&bound); element && *element)
+        return use(**element, member);
+    if (const auto* point = std::get_if<dbPointRef>(&bound); point && *point) return use(**point, member);
+    throw Failure(91, "Properties", "Nothing is bound");
+}
+
+}  // namespace
+
+std::string_view GetClass(std::string_view key) {
+    const std::size_t dot = key.find('.');
+    return dot == std::string_view::npos ? std::string_view() : key.substr(0, dot);
+}
+
+std::string_view GetMethod(std::string_view key) {
+    const std::size_t dot = key.find('.');
+    return dot == std::string_view::npos ? key : key.substr(dot + 1);
+}
+
+Value GetRowValue(const BoundObjectRef& bound, std::string_view key) {
+    return WithOwner(bound, key,
+                     [](const auto& owner, std::string_view member) { return GetField(owner, member); });
+}
+
+void SetRowValue(const BoundObjectRef& bound, std::string_view key, const Value& value) {
+    WithOwner(bound, key, [&](auto&& owner, std::string_view member) {
+        SetField(owner, member, value);
+        return 0;
+    });
+}
+
+std::string ButtonTag::Text() const {
+    return FourDigits(kind) + FourDigits(row) + key;
+}
+
+ButtonTag ButtonTag::Of(std::string_view text) {
+    if (text.size() < 2 * Digits) throw Failure(13, "Properties", "Type mismatch");
+    return {ToLong(ToNumber(text.substr(0, Digits))), ToLong(ToNumber(text.substr(Digits, Digits))),
+            std::string(text.substr(2 * Digits))};
+}
+
+}  // namespace ornavo

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "properties/row_controls.h"
+
+#include <QWheelEvent>
+
+#include "base/failure.h"
+#include "platform/fonts.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int ListRows = 24;  // of an open list before it scrolls
+
+QFont RowFont(bool bold) {
+    Font font;
+    font.Bold = bold;
+    return ScreenFont(font);
+}
+
+bool IsDark(const QColor& colour) {
+    return qGray(colour.rgb()) < 128;
+}
+
+}  // namespace
+
+RowLabel::RowLabel(QWidget* sheet, int index) : QLabel(sheet), Index(index) {
+    setObjectName(QStringLiteral("lbl_Prop"));
+    setTextFormat(Qt::PlainText);
+    setAutoFillBackground(true);
+    SetHeading(false);
+    hide();
+}
+
+void RowLabel::SetHeading(bool heading) {
+    setFont(RowFont(heading));
+    setBackgroundRole(heading ? QPalette::Mid : QPalette::Window);
+}
+
+RowText::RowText(QWidget* sheet, int index) : QLineEdit(sheet), Index(index) {
+    setObjectName(QStringLiteral("tbx_Prop"));
+    setFont(RowFont(false));
+    setFrame(false);
+    hide();
+}
+
+void RowText::SetText(std::string_view text) {
+    setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    setCursorPosition(0);
+}
+
+void RowText::SetBackColor(Colour colour) {
+    if (colour == backColor_) return;
+    if (TranslateColor(colour) == -1) throw Failure(380, "tbx_Prop", "Invalid property value");
+    backColor_ = colour;
+    if (colour == WindowBackground) return setPalette(QPalette());
+    const QColor ground = ScreenColour(colour);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, ground);
+    colours.setColor(QPalette::Text, IsDark(ground) ? Qt::white : Qt::black);
+    setPalette(colours);
+}
+
+RowCheck::RowCheck(QWidget* sheet, int index) : QCheckBox(sheet), Index(index) {
+    setObjectName(QStringLiteral("chk_Boolean"));
+    hide();
+}
+
+RowCombo::RowCombo(QWidget* frame, int index) : QComboBox(frame), Index(index) {
+    setObjectName(QStringLiteral("cboProp"));
+    setFont(RowFont(false));
+    setFocusPolicy(Qt::StrongFocus);
+    setMaxVisibleItems(ListRows);
+}
+
+void RowCombo::SetListIndex(int index) {
+    setCurrentIndex(index < count() ? index : -1);
+}
+
+void RowCombo::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+RowFrame::RowFrame(QWidget* sheet, int index)
+    : Control(sheet, "cboPic", index), cboProp(*new RowCombo(this, index)) {
+    hide();
+}
+
+}  // namespace ornavo

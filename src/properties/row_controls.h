@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// The controls of a row, each with the Tag that binds it and its index in its pool.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "platform/control.h"
+
+namespace ornavo {
+
+inline constexpr Colour WindowBackground = ColourOf(0x80000005);
+
+class RowLabel : public QLabel {
+public:
+    RowLabel(QWidget* sheet, int index);
+    void SetHeading(bool heading);  // bold on a ground of its own
+
+    std::string Tag;
+    const int Index;
+};
+
+class RowText : public QLineEdit {
+public:
+    RowText(QWidget* sheet, int index);
+
+    std::string Text() const { return text().toStdString(); }
+    void SetText(std::string_view text);  // shown from its start
+    bool Locked() const { return isReadOnly(); }
+    void SetLocked(bool locked) { setReadOnly(locked); }
+    Colour BackColor() const { return backColor_; }
+    /// The text is black or white, whichever can be read. Failure 380 for what is no colour.
+    void SetBackColor(Colour colour);
+
+    std::string Tag;
+    const int Index;
+
+private:
+    Colour backColor_ = WindowBackground;
+};
+
+class RowCheck : public QCheckBox {
+public:
+    RowCheck(QWidget* sheet, int index);
+    bool Value() const { return isChecked(); }
+    void SetValue(bool value) { setChecked(value); }
+
+    std::string Tag;
+    const int Index;
+};
+
+/// The wheel changes it only while it has the focus.
+class RowCombo : public QComboBox {
+public:
+    RowCombo(QWidget* frame, int index);
+    int ListIndex() const { return currentIndex(); }
+    void SetListIndex(int index);  // what lies outside of the list selects nothing
+
+    std::string Tag;
+    const int Index;
+
+protected:
+    void wheelEvent(QWheelEvent*) override;
+};
+
+/// Clips a combo box to the height of a row.
+class RowFrame : public Control {
+public:
+    RowFrame(QWidget* sheet, int index);
+    RowCombo& cboProp;
+};
+
+}  // namespace ornavo
