@@ -13,8 +13,8 @@
 namespace ornavo::walk {
 namespace {
 
-constexpr QSize ScreenSize = {1600, 1200};
-constexpr QPoint Parking = {1598, 1198};
+constexpr QSize ScreenSize = {1800, 1200};
+constexpr QPoint Parking = {1798, 1198};
 constexpr int Patience = 20000, Interval = 15;  // milliseconds
 
 [[noreturn]] void Fail(const QString& what) {
@@ -132,8 +132,11 @@ void Desktop::WaitUntilGone(const QString& title) {
     });
 }
 
-int Desktop::WindowCount() {
-    return static_cast<int>(Tool("xdotool", {"search", "--onlyvisible", "--class", "ornavo"}).count('\n'));
+int Desktop::WindowCount(const QString& except) {
+    const auto count = [&](const QString& by, const QString& text) {
+        return Tool("xdotool", {"search", "--onlyvisible", by, text}).count('\n');
+    };
+    return static_cast<int>(count("--class", "ornavo") - count("--name", except));
 }
 
 void Desktop::WaitForFocus(const QString& title) {

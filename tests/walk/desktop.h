@@ -29,8 +29,8 @@ public:
     /// An id for the functions below, of the visible window whose title fits the expression. Waits for it.
     QString Window(const QString& title);
     void WaitUntilGone(const QString& title);
-    /// How many windows of the program can be seen, menus too.
-    int WindowCount();
+    /// How many windows of the program can be seen, menus too, but not those of that title.
+    int WindowCount(const QString& except);
     void WaitForFocus(const QString& title);
     QString Title(const QString& window);
     QRect Inside(const QString& window);  // without its frame, on the screen

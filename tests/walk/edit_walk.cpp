@@ -9,7 +9,8 @@ namespace ornavo::walk {
 namespace {
 
 constexpr QRgb HandleColour = 0xFFFFFF80, BlinkColour = 0xFFFF0000;
-constexpr QPoint CanvasPlace = {320, 40}, PanelPlace = {10, 40}, ToolboxPlace = {10, 420};
+constexpr QPoint CanvasPlace = {320, 40}, PanelPlace = {10, 40}, ToolboxPlace = {10, 420},
+                 SheetPlace = {1450, 40};
 constexpr QSize SkinSize = {1000, 700}, LargerSize = {1101, 803};
 constexpr int FirstRow = 66, RowHeight = 13;  // of the list of layouts, in the panel
 constexpr const char* SkinName = "Walk";
@@ -179,11 +180,11 @@ void EditWalk::Keys(const std::string& key, int times, bool shift, bool ctrl) {
 /// The item is chosen by the letter that is underlined in it.
 void EditWalk::Menu(const std::string& key, const char* item, const std::function<void()>& effect) {
     const Place at = model_.Named(key).shown.Middle();
-    const int before = desktop_.WindowCount();
+    const int before = desktop_.WindowCount("^Properties$");
     desktop_.Click(OnScreen(at), 3);
     model_.PressRight(at);
     ASSERT_EQ(model_.SelectedKey(), key);
-    desktop_.WaitFor("a menu", [&] { return desktop_.WindowCount() > before; });
+    desktop_.WaitFor("a menu", [&] { return desktop_.WindowCount("^Properties$") > before; });
     desktop_.Key({item});
     desktop_.ParkPointer();
     effect();
@@ -263,6 +264,7 @@ QByteArray EditWalk::Expected() const {
 /// Each kind, added and dragged away from where it lies over another.
 void EditWalk::AddOneOfEach() {
     Add(Button);
+    desktop_.Place(desktop_.Window("^Properties$"), SheetPlace);
     DragElement("Button1", {{60, 23}, {51, 14}});
     Add(Graphic);
     DragElement("Graphic1", {{505, 575}});
