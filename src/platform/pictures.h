@@ -18,6 +18,7 @@ inline constexpr std::int64_t PictureByteLimit = std::int64_t{512} << 20;  // of
 struct Picture {
     QImage image;                // as decoded, never null
     std::filesystem::path path;  // where it came from
+    QImage fine = {};  // the same with twice the pixels each way, for a fine screen; null without one
 };
 using PictureRef = std::shared_ptr<const Picture>;
 

@@ -21,9 +21,14 @@ public:
     int GetFree() {
         for (int i = firstFree_; i <= Top(); ++i)
             if ((*this)[i].Tag.empty()) return firstFree_ = i;
-        controls_.push_back(make_(Top() + 1));
+        firstFree_ = Load();
         controls_.back()->setVisible(true);
-        return firstFree_ = Top();
+        return firstFree_;
+    }
+    /// One slot more, as it is made; its index.
+    int Load() {
+        controls_.push_back(make_(Top() + 1));
+        return Top();
     }
     /// Frees and hides every slot from 1.
     void Clear() {

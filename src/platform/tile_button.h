@@ -22,7 +22,8 @@ public:
     PictureRef Picture, PictureOver, PictureDown;
     std::string AniPicture, AniPictureOver, AniPictureDown;  // full paths of animated GIFs; "" for none. An
                                                              // animated picture goes before the plain one
-    bool Repeats = false;                                    // while held: after 300 ms, then every 100 ms
+    std::weak_ptr<const void> ColourOwner;  // whose colour State.TransparentColor is; the caller's own mark
+    bool Repeats = false;                   // while held: after 300 ms, then every 100 ms
 
     /// Reads back the colour that the control found when the top left pixel rules.
     Colour TransparentColor() const;

@@ -173,6 +173,15 @@ int AlignedLeft(const TileLayer& layer, Size size, int width) {
     return static_cast<int>(std::floor(std::clamp(at, -1e8, 1e8)));
 }
 
+/// Left is the way from the end that Alignment names, or from the middle.
+int PictureLeft(const TileLayer& layer, Size size, int width) {
+    const auto left = static_cast<double>(layer.Left);
+    const double at = layer.Alignment == 0   ? left
+                      : layer.Alignment == 1 ? size.width - width - left
+                                             : (size.width - width) / 2.0 + left;
+    return static_cast<int>(std::floor(std::clamp(at, -1e8, 1e8)));
+}
+
 void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer, Size size) {
     if (layer.Text.empty()) return;
     painter.save();
@@ -203,7 +212,10 @@ void PaintLayer(QPainter& painter, const TileState& state, const TileLayer& laye
         PaintText(painter, state, layer, size);
     } else if (layer.Picture) {
         const int top = static_cast<int>(std::lround(std::clamp(layer.Top, -1e8F, 1e8F)));
-        painter.drawImage(AlignedLeft(layer, size, layer.Picture->image.width()), top, layer.Picture->image);
+        const QImage& plain = layer.Picture->image;
+        const bool isFine = painter.device()->devicePixelRatio() > 1 && !layer.Picture->fine.isNull();
+        const QRect area(PictureLeft(layer, size, plain.width()), top, plain.width(), plain.height());
+        painter.drawImage(area, isFine ? layer.Picture->fine : plain);
     }
 }
 

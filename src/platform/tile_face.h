@@ -15,8 +15,9 @@
 namespace ornavo {
 
 /// One layer over the button's picture: a text or a small picture. Its area reaches from Left to the button's
-/// width less RightTrim. Alignment is meant within that area: a layer that is centred moves by half of Left,
-/// one at the right end is not moved by it. A text that is wider than its area is cut at the area's ends.
+/// width less RightTrim. A text's Alignment is meant within that area: one that is centred moves by half of
+/// Left, one at the right end is not moved by it, and one that is wider is cut at the area's ends. A picture
+/// has no area: Left is its way from the end that Alignment names, or from the middle.
 struct TileLayer {
     std::string Key;
     std::string Text;

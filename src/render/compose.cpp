@@ -8,6 +8,7 @@
 #include "render/compose_report.h"
 #include "render/element_button.h"
 #include "render/element_info.h"
+#include "render/kiosk_panel.h"
 #include "render/layout_host.h"
 #include "render/shape.h"
 #include "render/standard_elements.h"
@@ -83,6 +84,8 @@ bool ClaimSingle(Control& control, dbLayoutElement& element) {
 void ComposeMain(dbLayoutElement& element, LayoutHost& host, bool) {
     if (!ClaimSingle(host.pMain, element)) return;
     SetupMainPanel(host, element);
+    SetupKioskPanel();
+    LayoutKioskPanel();
     Present(host.pMain, true);
 }
 

@@ -7,18 +7,16 @@
 namespace ornavo {
 
 LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
-    : window_(window),
+    : SamplePanel(window, listener),
+      window_(window),
       cover_(*new QWidget(&window)),
-      listener_(listener),
       Element([&window, this](int i) { return Listening(new TileButton(&window, "Element", i)); }),
       pInfo([&window, this](int i) { return Listening(new PictureBox(&window, "pInfo", i)); }),
-      pMain(*new PictureBox(&window, "pMain")),
       pMainBack(*new PictureBox(&window, "pMainBack")),
       tbx_Search(*new TextBox(&window, "tbx_Search")),
       Scrollframe(*new TileButton(&window, "Scrollframe")),
       ScrollBar(*new TileButton(&window, "ScrollBar")) {
-    for (Control* single :
-         std::initializer_list<Control*>{&pMain, &pMainBack, &tbx_Search, &Scrollframe, &ScrollBar})
+    for (Control* single : std::initializer_list<Control*>{&pMainBack, &tbx_Search, &Scrollframe, &ScrollBar})
         Listening(single);
     cover_.setAttribute(Qt::WA_TransparentForMouseEvents);
     cover_.hide();

@@ -2,14 +2,12 @@
 // Owner of every control that a layout needs, by the names that the composition uses. Knows no element.
 #pragma once
 
-#include "platform/picture_box.h"
-#include "platform/pool.h"
 #include "platform/text_controls.h"
-#include "platform/tile_button.h"
+#include "render/sample_panel.h"
 
 namespace ornavo {
 
-class LayoutHost {
+class LayoutHost : public SamplePanel {
 public:
     /// The controls become children of the window and are freed with it. The listener hears their mouse.
     LayoutHost(QWidget& window, ControlEvents* listener);
@@ -17,12 +15,10 @@ public:
 private:
     QWidget& window_;
     QWidget& cover_;  // never seen; see ClearElements
-    ControlEvents* listener_;  // before the pools, which use it
 
 public:
     Pool<TileButton> Element;
     Pool<PictureBox> pInfo;
-    PictureBox& pMain;
     PictureBox& pMainBack;  // never shown; holds the panel's background picture
     TextBox& tbx_Search;
     TileButton& Scrollframe;
@@ -32,14 +28,6 @@ public:
     int GetFreeInfo() { return pInfo.GetFree(); }
     /// Every slot freed and hidden, the single controls hidden.
     void ClearElements();
-
-private:
-    template <class T>
-    T* Listening(T* control) const {
-        control->Listen(listener_);
-        control->setVisible(false);
-        return control;
-    }
 };
 
 }  // namespace ornavo

@@ -3,7 +3,10 @@
 
 #include <QPainter>
 
+#include "document/current_skin.h"
 #include "render/element_button.h"
+#include "render/key_colour.h"
+#include "render/prefs.h"
 #include "render/skin_picture.h"
 
 namespace ornavo {
@@ -45,7 +48,7 @@ Rect ScrollBarRect(const Rect& frame) {
             frame.height >= tallFrame ? frame.height - rest : shortBar};
 }
 
-void SetupScrollElement(LayoutHost& host, const dbLayoutElement& element) {
+void SetupScrollElement(LayoutHost& host, dbLayoutElement& element) {
     TileButton& frame = host.Scrollframe;
     if (element.PicNormal.empty())
         frame.SetBackColor(element.BackgroundColor);
@@ -57,15 +60,25 @@ void SetupScrollElement(LayoutHost& host, const dbLayoutElement& element) {
     SetupScrollBar(host.ScrollBar, element);
 }
 
-void SetupScrollBar(TileButton& bar, const dbLayoutElement& element) {
-    bar.Reset();
+void SetupScrollBar(TileButton& bar, dbLayoutElement& element) {
+    TileState& state = bar.State;
+    SetupElementGround(bar, element);
+    ExchangeTransparentColor(bar, element.UseTopLeftTransparency, objCurrentLayout, element.TransparentColor,
+                             [&](Colour colour) { element.TransparentColor = colour; });
+    state.UseShadow = element.ShowShadow;
+    state.ShadowColor = element.ShadowColor;
+    state.ShadowDistance = element.ShadowDistance;
     SetTilePicture(bar.Picture, bar.AniPicture, element.PicOn);
     SetTilePicture(bar.PictureOver, bar.AniPictureOver, element.PicOver);
     SetTilePicture(bar.PictureDown, bar.AniPictureDown, element.PicDown);
-    SetupElementCaption(bar, element);
-    bar.Elements.Item("Caption").Left = 0;  // an element's X margin is not for its bar
-    SetupElementGround(bar, element);
     SetupElementRotation(bar, element);
+    bar.Elements.Clear();
+    TileLayer& layer = bar.Elements.Add("Caption");
+    layer.Text = element.Caption;
+    layer.Top = static_cast<float>(element.CaptionY);
+    if (element.Font) layer.Font = *element.Font;
+    layer.Height = TextHeight(layer.Font);
+    layer.ForeColor = element.TextColor;
     bar.Refresh();
 }
 

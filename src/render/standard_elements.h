@@ -10,10 +10,11 @@ namespace ornavo {
 /// Each sets up everything of its control but the place, which the control has already.
 void SetupMainPanel(LayoutHost& host, const dbLayoutElement& element);
 void SetupSearchElement(TextBox& box, const dbLayoutElement& element);
-void SetupScrollElement(LayoutHost& host, const dbLayoutElement& element);
+void SetupScrollElement(LayoutHost& host, dbLayoutElement& element);
 
-/// The bar of the frame, by the frame's own element: its picture is PicOn.
-void SetupScrollBar(TileButton& bar, const dbLayoutElement& element);
+/// The bar of the frame, by the frame's own element: its picture is PicOn. Without the rule of the top left
+/// pixel the element's key colour follows the bar's.
+void SetupScrollBar(TileButton& bar, dbLayoutElement& element);
 
 /// The panel's background picture: tiled from its top left, or stretched over it on black.
 void DrawMainBackground(LayoutHost& host, bool stretch);

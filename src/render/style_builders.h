@@ -16,9 +16,14 @@ void SetupAddAllButton(TileButton& button);
 void SetupSongButton(TileButton& button, int mode);
 /// `prefix` is "KBN", "KBB", "KBE", "KBU" or "KBS".
 void SetupKey(TileButton& button, std::string_view prefix);
-/// One row of the search letters.
+/// One row of the search letters; StyleLetter leaves the Refresh to its caller.
 void SetupLetterStyle(TileButton& button);
+void StyleLetter(TileButton& button);
 void SetupSearchBox(TextBox& box);
 void SetupKioskLabels();
+
+/// The key colour of an edit of `prefix` + "_TransparentColor" is the preference's: the family's controls
+/// take it when they are next styled, also where they would give their own to the preference.
+void TakeTransparentColor(std::string_view prefix);
 
 }  // namespace ornavo

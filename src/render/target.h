@@ -18,6 +18,7 @@ public:
     virtual int ScaleWidth() const = 0;  // inner size, pixels
     virtual int ScaleHeight() const = 0;
     virtual LayoutHost& host() = 0;
+    virtual void ShowForm() {}                // the window comes to be seen
     virtual void ShowShapePoints() {}         // the canvas alone has corners,
     virtual void ShowGrid() {}                // and a surface of its own
     virtual void SetShape(const QRegion&) {}  // the preview alone is cut to its shape

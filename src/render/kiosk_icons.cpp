@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "render/kiosk_icons.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <string>
+
+#include "base/failure.h"
+#include "base/text.h"
+
+// The linker drops from a library what nobody names, and the resources name themselves only.
+static void InitResources() {
+    Q_INIT_RESOURCE(kiosk);
+}
+
+namespace ornavo {
+namespace {
+
+constexpr std::array<std::string_view, 28> Keys = {
+    "StarFull",   "StarHalf",   "StarEmpty",  "Favorite",  "Party",       "Lyrics",         "NoParty",
+    "NoFavorite", "Rate",       "AlbumGenre", "AlbumYear", "ArtistGenre", "Genre",          "LastPlayed",
+    "PLGen",      "Unplayed",   "db_Script",  "Category",  "Year",        "ArtistFavorite", "AlbumFavorite",
+    "AlbumRate",  "ArtistRate", "Play",       "Stop",      "Artist",      "Album",          "Note",
+};
+
+QImage Resource(const std::string& name) {
+    static const bool ready = (InitResources(), true);
+    QImage image(QString::fromStdString(":/kiosk/" + name));
+    if (ready && !image.isNull()) image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    return image;
+}
+
+PictureRef Read(const std::string& name, const char* extension) {
+    Picture picture{Resource(name + extension), {}, Resource(name + "@2x" + extension)};
+    if (picture.image.isNull()) throw Failure(53, "img_Kiosk", "File not found");
+    return std::make_shared<Picture>(std::move(picture));
+}
+
+}  // namespace
+
+PictureRef ImageList::Item(std::string_view key) const {
+    static std::map<std::string_view, PictureRef> read;
+    const auto known =
+        std::find_if(Keys.begin(), Keys.end(), [&](std::string_view one) { return EqualText(one, key); });
+    if (known == Keys.end()) throw Failure(9, "img_Kiosk", "Element not found");
+    PictureRef& picture = read[*known];
+    if (!picture) picture = Read(std::string(*known), ".png");
+    return picture;
+}
+
+PictureRef SampleAlbum() {
+    static const PictureRef album = Read("album", ".jpg");
+    return album;
+}
+
+}  // namespace ornavo

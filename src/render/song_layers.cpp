@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "render/song_layers.h"
+
+#include <string>
+
+#include "base/failure.h"
+#include "render/layout_host.h"
+#include "render/prefs.h"
+#include "render/target.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int RightAligned = 1, Centred = 2;
+constexpr int IconStep = 14;  // pixels from one small icon to the next
+constexpr int Stars = 5, FullStars = 4;
+
+void TakeNumber(float& field, std::string_view key) {
+    Attempt([&] { field = static_cast<float>(Pref(key).value.ToDouble()); });
+}
+
+void TakeWhole(int& field, std::string_view key) {
+    Attempt([&] { field = Pref(key).value.ToLong(); });
+}
+
+struct TextRow {
+    std::string_view layer, text, font, align, left, top, colour;
+    double fontSize;
+};
+constexpr TextRow SongOfTwo = {
+    "Song",          "The Lantern Over The Reef", "SOD_SongFontD",    "SOD_SongCapAlign",
+    "SOD_SongXTrim", "SOD_SongOffsetYD",          "SO_SongTextColor", 13};
+constexpr TextRow SongOfOne = {"Song",          "Trance",           "SOS_SongFontS",    "SOS_SongCapAlign",
+                               "SOS_SongXTrim", "SOS_SongOffsetYS", "SO_SongTextColor", 13};
+constexpr TextRow Artist = {
+    "Artist",          "Quillmar",          "SOD_ArtistFont",      "SOD_ArtistCapAlign",
+    "SOD_ArtistXTrim", "SOD_ArtistOffsetY", "SOD_ArtistTextColor", 7};
+
+void AddText(TileButton& button, const TextRow& row) {
+    TileLayer& layer = button.Elements.Add(row.layer);
+    TakeFont(layer, row.font, row.fontSize);
+    TakeWhole(layer.Alignment, row.align);
+    layer.Text = row.text;
+    TakeNumber(layer.Left, row.left);
+    TakeNumber(layer.Top, row.top);
+    layer.RightTrim = layer.Left;
+    TakeWhole(layer.ForeColor, row.colour);
+}
+
+struct IconRow {
+    std::string_view layer, image, align, left, top;
+};
+constexpr IconRow Icon = {"Icon", "Genre", "SO_IconsAlign", "SO_IconsX", "SO_IconsY"};
+constexpr IconRow Favorite = {"Favorite", "Favorite", "SOD_IconsUserAlign", "SOD_IconsUserX",
+                              "SOD_IconsUserY"};
+constexpr IconRow Party = {"Party", "Party", "SOD_IconsUserAlign", "SOD_IconsUserX", "SOD_IconsUserY"};
+
+TileLayer& AddIcon(TileButton& button, const IconRow& row, std::string_view image) {
+    TileLayer& layer = button.Elements.Add(row.layer);
+    layer.IsText = false;
+    if (!image.empty()) Attempt([&] { layer.Picture = TargetForm->host().img_Kiosk.Item(image); });
+    TakeWhole(layer.Alignment, row.align);
+    TakeNumber(layer.Left, row.left);
+    TakeNumber(layer.Top, row.top);
+    return layer;
+}
+
+/// Where the first star stands and how far it is to the next: a row at the right end grows to the left.
+struct StarRow {
+    float left = 0;
+    float step = IconStep;
+};
+
+StarRow StarsFor(int alignment) {
+    StarRow row;
+    TakeNumber(row.left, "SOD_IconsRateX");
+    if (alignment == RightAligned) row = {row.left + 4 * IconStep, -IconStep};
+    if (alignment == Centred) row.left -= 1.5F * IconStep;
+    return row;
+}
+
+void AddStars(TileButton& button) {
+    int alignment = 0;
+    TakeWhole(alignment, "SOD_IconsRateAlign");
+    const StarRow row = StarsFor(alignment);
+    for (int i = 0; i < Stars; ++i) {
+        TileLayer& star = AddIcon(
+            button,
+            {"Star" + std::to_string(i), "", "SOD_IconsRateAlign", "SOD_IconsRateX", "SOD_IconsRateY"},
+            i < FullStars ? "StarFull" : "StarEmpty");
+        star.Left = row.left + static_cast<float>(i) * row.step;
+    }
+}
+
+}  // namespace
+
+void TakeFont(TileLayer& layer, std::string_view key, double defaultSize) {
+    Attempt([&] { layer.Font = *GetPrefFont(key, defaultSize); });
+    layer.Height = TextHeight(layer.Font);
+}
+
+void SetupSongLayers(TileButton& button, int mode) {
+    button.Elements.Clear();
+    AddText(button, mode == 0 ? SongOfTwo : SongOfOne);
+    AddIcon(button, Icon, mode == 1 ? Icon.image : "");
+    if (mode == 1) return;
+    AddText(button, Artist);
+    AddIcon(button, Favorite, Favorite.image);
+    AddIcon(button, Party, Party.image).Left += IconStep;
+    AddStars(button);
+}
+
+}  // namespace ornavo

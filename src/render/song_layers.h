@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// What stands on the sample's song rows: texts, icons and the stars of a rating.
+#pragma once
+
+#include <string_view>
+
+#include "platform/tile_button.h"
+
+namespace ornavo {
+
+/// All layers anew. Mode 0 is the row of two lines, mode 1 that of one.
+void SetupSongLayers(TileButton& button, int mode);
+
+/// A text layer's font from a preference, and the layer's height with it.
+void TakeFont(TileLayer& layer, std::string_view key, double defaultSize);
+
+}  // namespace ornavo
