@@ -6,8 +6,8 @@
 
 namespace ornavo {
 
-LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
-    : SamplePanel(window, listener),
+LayoutHost::LayoutHost(QWidget& window, ControlEvents* events)
+    : SamplePanel(window, events),
       window_(window),
       cover_(*new QWidget(&window)),
       Element([&window, this](int i) { return Listening(new TileButton(&window, "Element", i)); }),

@@ -16,7 +16,7 @@ namespace ornavo {
 
 struct SamplePanel {
     /// The controls become children of the window, the panel, and the strip of keys; all are freed with it.
-    SamplePanel(QWidget& window, ControlEvents* listener);
+    SamplePanel(QWidget& window, ControlEvents* events);
 
     ControlEvents* const listener;  // before the pool, which uses it
     PictureBox& pMain;

@@ -37,9 +37,9 @@ struct Column {
 
 Column MeasureColumn(const LayoutHost& host) {
     Column column;
-    const int panelHeight = host.pMain.Bounds().height;
-    Attempt([&] { column.height = ToLong(double{panelHeight} - SafeLong(PrefText("SP_KioskAdSpace"))); });
-    column.rowHeight = FloorToLong((double{column.height} - 1) / Letters);
+    const double panelHeight = host.pMain.Bounds().height;
+    Attempt([&] { column.height = ToLong(panelHeight - SafeLong(PrefText("SP_KioskAdSpace"))); });
+    column.rowHeight = FloorToLong((column.height - 1.0) / Letters);
     Attempt([&] { column.border = Pref("SL_ShowBorder").value.ToBoolean() ? 1 : 0; });
     Attempt([&] { column.fontSize = Pref("SL_FontSizeFactor").value.ToDouble() * (column.rowHeight / 1.5); });
     return column;
