@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
 
 #include "pixels/mhlsrgb.h"
@@ -51,6 +52,13 @@ void Indices(const std::uint8_t* from, std::uint16_t* indices) {
     }
 }
 
+/// Two pixels and two bytes more, to be overwritten by the next pair: fewer and wider stores.
+void PutPair(std::uint8_t* to, std::uint64_t first, std::uint64_t second) {
+    constexpr bool LowByteFirst = std::endian::native == std::endian::little;
+    const std::uint64_t pair = LowByteFirst ? first | second << 24 : first << 32 | second << 8;
+    std::memcpy(to, &pair, sizeof pair);
+}
+
 }  // namespace
 
 float TargetHue(int hue) {
@@ -91,8 +99,10 @@ void ColourTable::Apply(const std::uint8_t* from, std::uint8_t* to, std::int64_t
     for (; count > BlockPixels; count -= BlockPixels, from += BlockBytes, to += BlockBytes) {
         std::array<std::uint16_t, BlockBytes> indices;
         Indices(from, indices.data());
-        // Four bytes at once, the fourth to be overwritten by the next pixel.
-        for (std::size_t i = 0; i < BlockBytes - 3; i += 3) std::memcpy(to + i, &colours[indices[i]], 4);
+        for (std::size_t i = 0; i < BlockBytes - 6; i += 6)
+            PutPair(to + i, colours[indices[i]], colours[indices[i + 3]]);
+        // Nothing beyond the block: in place it has yet to be read.
+        std::memcpy(to + BlockBytes - 6, &colours[indices[BlockBytes - 6]], 4);
         std::memcpy(to + BlockBytes - 3, &colours[indices[BlockBytes - 3]], 3);
     }
     for (; count > 0; --count, from += 3, to += 3) {
