@@ -22,7 +22,12 @@ protected:
         Add("Scrollframe", TypeScrollbar, {650, 50, 40, 400});
         Compose();
     }
-    dbLayoutElement& Element(const char* key) { return *objCurrentLayout->dbLayoutElements->Item(key); }
+    /// Straight to the control: the mouse over the window fills in what a real one may lose.
+    static void Send(Control& control, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
+        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, at, control.mapToGlobal(at), button, held, {});
+        QCoreApplication::sendEvent(&control, &event);
+    }
     ReadOut* readOut() const { return form_->findChild<ReadOut*>(); }
 };
 
@@ -55,61 +60,33 @@ TEST_F(DraggingTest, EachFamilyFollowsThePointerAndIsWrittenAtTheRelease) {
     EXPECT_EQ(host().ScrollBar.Bounds(), (Rect{681, 178, 40, 150}));
 }
 
-TEST_F(DraggingTest, DeadZonesAndWhatMakesDirty) {
-    AddAll();
-    const struct {
-        const char* key;
-        QPoint by;
-        int left;
-        bool dirty;
-    } cases[] = {{"Button1", {1, -1}, 200, false},     {"Button1", {2, 0}, 202, true},
-                 {"Main", {1, 0}, 51, true},           {"Main", {0, 0}, 51, false},
-                 {"Scrollframe", {-1, 1}, 650, false}, {"Info1", {-1, 0}, 349, true}};
-    for (const auto& c : cases) {
-        objSkin->Dirty = false;
-        const Rect at = Fields(Element(c.key));
-        const QPoint press(at.left + 5, at.top + 5);
-        Press(press.x(), press.y());
-        MoveTo(press.x() + c.by.x(), press.y() + c.by.y());
-        Release(press.x() + c.by.x(), press.y() + c.by.y());
-        EXPECT_EQ(Element(c.key).LeftX, c.left) << c.key;
-        EXPECT_EQ(objSkin->Dirty, c.dirty) << c.key << " " << c.by.x();
-    }
-    viewSwitches.SnapGrid = true;
-    objSkin->Dirty = false;
-    Drag({210, 60}, {4, 4});
-    EXPECT_EQ(Element("Button1").LeftX, 202);
-    EXPECT_TRUE(objSkin->Dirty) << "a step of nothing is a step";
-}
-
-TEST_F(DraggingTest, ALastMoveThatWasLostIsMadeUpForAtTheRelease) {
-    Add("Button1", TypeButton, {200, 50, 100, 80});
+TEST_F(DraggingTest, WhatTheMouseLosesIsMadeUpFor) {
+    const dbLayoutElement& e = Add("Button1", TypeButton, {200, 50, 100, 80});
     Compose();
-    Press(210, 60);
-    MoveTo(215, 65);
-    Release(240, 100);
-    EXPECT_EQ(Fields(Element("Button1")), (Rect{230, 90, 100, 80}));
-    const QPoint handle = anchors().Anchor[4]->geometry().center();
-    Press(handle.x(), handle.y());
-    Release(handle.x() + 10, handle.y() + 6);
-    EXPECT_EQ(Fields(Element("Button1")), (Rect{230, 90, 110, 86}));
-}
+    Control& button = host().Element[1];
+    Send(button, QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
+    Send(button, QEvent::MouseButtonRelease, {40, 50}, {});
+    EXPECT_EQ(Fields(e), (Rect{230, 90, 100, 80})) << "the last move";
+    Send(*anchors().Anchor[4], QEvent::MouseButtonPress, {2, 2}, Qt::LeftButton);
+    Send(*anchors().Anchor[4], QEvent::MouseButtonRelease, {12, 8}, {});
+    EXPECT_EQ(Fields(e), (Rect{230, 90, 110, 86}));
 
-TEST_F(DraggingTest, APlainClickWritesByTheLocksAndLeavesTheSkinClean) {
-    dbLayoutElement& e = Add("Button1", TypeButton, {300, 50, 100, 80});
-    e.LockLeft = false;
-    e.LockRight = true;
-    Compose();
-    ASSERT_EQ(host().Element[1].Bounds().left, 500);
-    e.LeftX = 7;
-    Click(510, 60);
-    EXPECT_EQ(e.LeftX, 300);
-    EXPECT_FALSE(objSkin->Dirty);
+    Send(button, QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
+    Send(button, QEvent::MouseMove, {20, 10}, Qt::LeftButton);
+    Send(button, QEvent::MouseMove, {50, 50}, {});
+    EXPECT_FALSE(form_->parts().drag.MouseIsDown) << "the release";
+    EXPECT_EQ(Fields(e), (Rect{240, 90, 110, 86}));
+
+    Send(button, QEvent::MouseButtonDblClick, {10, 10}, Qt::LeftButton);
+    Send(button, QEvent::MouseMove, {12, 10}, Qt::LeftButton);
+    Send(button, QEvent::MouseMove, {32, 10}, Qt::LeftButton);
+    Send(button, QEvent::MouseButtonRelease, {12, 10}, {});
+    EXPECT_EQ(Fields(e), (Rect{260, 90, 110, 86})) << "the second press of a double click";
 }
 
 TEST_F(DraggingTest, HandlesStandAroundTheSelectionAndWinThePress) {
     dbLayoutElement& e = Add("Button1", TypeButton, {200, 100, 100, 80});
-    Add("Button2", TypeButton, {300, 100, 100, 80});
+    Add("Button2", TypeButton, {300, 100, 100, 100});
     Compose();
     Click(210, 110);
     const int pointers[] = {Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor, Qt::SizeHorCursor,
@@ -119,14 +96,10 @@ TEST_F(DraggingTest, HandlesStandAroundTheSelectionAndWinThePress) {
         EXPECT_EQ(anchors().Anchor[i]->cursor().shape(), pointers[i]) << i;
         EXPECT_FALSE(anchors().Anchor[i]->toolTip().isEmpty());
     }
-    const Rect sized[] = {{195, 97, 105, 83}, {195, 94, 105, 86}, {195, 91, 100, 89}, {195, 91, 95, 89},
-                          {195, 91, 90, 86},  {195, 91, 90, 83},  {190, 91, 95, 80},  {185, 91, 100, 80}};
-    for (int i = 0; i < 8; ++i) {
-        const QPoint at = anchors().Anchor[i]->geometry().center();
-        Drag(at, {-5, -3});
-        EXPECT_EQ(Fields(e), sized[i]) << i;
-        EXPECT_EQ(SelKey, "Button1");
-    }
+    const QPoint corner = anchors().Anchor[4]->geometry().center();
+    Drag(corner, {-5, -3});
+    EXPECT_EQ(SelKey, "Button1") << "though it lies over the other one";
+    EXPECT_EQ(Fields(e), (Rect{200, 100, 95, 77}));
 }
 
 TEST_F(DraggingTest, ARightPressOnAHandleSizesAndALostSelectionHidesThem) {
@@ -167,9 +140,6 @@ TEST_F(DraggingTest, TheMenuOffersWhatTheFamilyAllows) {
         EXPECT_EQ(enabled, wanted) << c.key;
         EXPECT_EQ(SelKey, c.key);
         Release(at.left + 5, at.top + 5, Qt::RightButton);
-        const Rect before = SelControl->Bounds();
-        MoveTo(at.left + 50, at.top + 70);
-        EXPECT_EQ(SelControl->Bounds(), before) << "no drag";
     }
 }
 
@@ -198,15 +168,10 @@ TEST_F(DraggingTest, ACompositionDuringADragKeepsThePlaceAndEndsIt) {
     EXPECT_FALSE(form_->parts().drag.MouseIsDown);
 }
 
-TEST_F(DraggingTest, ADragLeavesTheWindowAndTheSecondPressOfADoubleClickDragsToo) {
+TEST_F(DraggingTest, ADragLeavesTheWindow) {
     AddAll();
     Drag({210, 60}, {-400, -300});
     EXPECT_EQ(Fields(Element("Button1")), (Rect{-200, -250, 100, 80}));
-    QTest::mouseDClick(form_->windowHandle(), Qt::LeftButton, {}, {60, 60});
-    QTest::mousePress(form_->windowHandle(), Qt::LeftButton, {}, {60, 60});
-    Release(60, 60);
-    EXPECT_EQ(SelKey, "Main");
-    EXPECT_EQ(Fields(Element("Main")), (Rect{50, 50, 100, 80}));
 }
 
 TEST_F(DraggingTest, TheNumbersStandBesideThePointer) {
@@ -254,15 +219,6 @@ TEST_F(DraggingTest, AStepPaintsOnceAndOnlyWhereTheControlAndItsHandlesWereAndAr
     EXPECT_TRUE((watch.painted - allowed).isEmpty());
     EXPECT_FALSE(watch.painted.isEmpty());
     Release(332, 325);
-}
-
-TEST_F(DraggingTest, TheBareCanvasDropsTheSelection) {
-    AddAll();
-    Click(210, 60);
-    Click(400, 500);
-    EXPECT_EQ(SelControl, nullptr);
-    EXPECT_EQ(SelKey, "");
-    EXPECT_FALSE(anchors().Anchor[3]->isVisible() || windows_.panel.shown);
 }
 
 }  // namespace

@@ -1,50 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/frm_ornavo.h"
 
-#include <QSignalSpy>
-#include <QTemporaryFile>
-#include <QTest>
-#include <QTimerEvent>
-
 #include "document/codes.h"
 #include "editor/settings_keys.h"
-#include "support/scripted_prompts.h"
-#include "support/skin_fixture.h"
+#include "support/canvas_fixture.h"
 
 namespace ornavo::testing {
 namespace {
 
-class NoWindows : public Windows {
-public:
-    void LoadDebug(std::string_view skinName) override {
-        asked = skinName;
-        if (!failure.empty()) throw Failure(513, "LoadSkin", failure);
-    }
-    void UnloadOthers() override { ++unloaded; }
-    std::string asked, failure;
-    int unloaded = 0;
-};
-
 class CanvasTest : public SkinTest {
 protected:
-    CanvasTest() {
-        QTemporaryFile file;
-        file.open();
-        settingsFile_ = file.fileName() + ".ini";
-        UseSettingsFile(settingsFile_);
-    }
-    ~CanvasTest() override { QFile::remove(settingsFile_); }
+    CanvasTest() { UseSettingsFile(settings_.filePath("settings.ini")); }
     ScriptedPrompts prompts_;
-    NoWindows windows_;
+    RecordedWindows windows_;
 
 private:
-    QString settingsFile_;
+    QTemporaryDir settings_;
 };
-
-void Fire(QTimer& timer) {
-    QTimerEvent event(timer.timerId());
-    QCoreApplication::sendEvent(&timer, &event);
-}
 
 TEST_F(CanvasTest, AFirstRunHasItsDesignedPlace) {
     frm_Ornavo form(windows_, "0.1");
@@ -97,7 +69,7 @@ TEST_F(CanvasTest, ASkinThatCannotBeOpenedIsTold) {
     windows_.failure = "no such disk";
     frm_Ornavo form(windows_, "0.1");
     form.Start("Blue Moon");
-    EXPECT_EQ(windows_.asked, "Blue Moon");
+    EXPECT_EQ(windows_.opened, "Blue Moon");
     ASSERT_EQ(prompts_.asked.size(), 1u);
     EXPECT_EQ(prompts_.asked[0], "Loading Skin Error: no such disk");
 }

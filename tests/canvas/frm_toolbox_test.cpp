@@ -6,21 +6,19 @@
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QTemporaryDir>
 
 #include "canvas/new_elements.h"
-#include "canvas/stage.h"
 #include "document/codes.h"
 #include "editor/settings_keys.h"
+#include "support/canvas_fixture.h"
 
 namespace ornavo::testing {
 namespace {
 
-class ToolboxTest : public StageTest {
+class ToolboxTest : public EditingTest {
 protected:
-    ToolboxTest() : toolbox(form.parts()) {
-        UseSettingsFile(folder_.filePath("settings.ini"));
-        form.parts().showGrid = [this] { ++grids; };
+    ToolboxTest() : toolbox(form_->parts()) {
+        form_->parts().showGrid = [this] { ++grids; };
         toolbox.Open();
         QCoreApplication::processEvents();
         grids = 0;
@@ -29,8 +27,8 @@ protected:
         const dbLayoutElements& all = *objCurrentLayout->dbLayoutElements;
         return *all.Item(all.Count());
     }
-    void Click(TileCommand* command) { QTest::mouseClick(command, Qt::LeftButton); }
-    void Type(QLineEdit* box, const char* text) {
+    static void Click(TileCommand* command) { QTest::mouseClick(command, Qt::LeftButton); }
+    static void Type(QLineEdit* box, const char* text) {
         box->setFocus();
         box->selectAll();
         QTest::keyClicks(box, QString::fromLatin1(text));
@@ -38,81 +36,39 @@ protected:
     }
     frm_Toolbox toolbox;
     int grids = 0;
-
-private:
-    QTemporaryDir folder_;
 };
 
-TEST_F(ToolboxTest, EachButtonAddsItsElementOnTopAndSelected) {
-    struct Row {
-        TileCommand* command;
-        int type;
-        const char* key;
-        Rect fields, shown;
-        bool left, right;
-        Colour background;
-        int speed;
-    };
-    const Row rows[] = {
-        {toolbox.btn_AddButton, 1, "Button1", {25, 25, 50, 50}, {25, 25, 50, 50}, true, false, 0, 0},
-        {toolbox.btn_AddGraphic, 2, "Graphic1", {25, 25, 50, 50}, {25, 25, 50, 50}, true, false, 0, 0},
-        {toolbox.btn_AddVolume, 3, "Volume1", {75, 25, 50, 50}, {725, 25, 50, 50}, false, true, 0, 0},
-        {toolbox.btn_AddInfo, 4, "Info1", {100, 20, 400, 50}, {100, 20, 400, 50}, true, true, ButtonFace, 1},
-    };
-    int order = 0;
-    for (const Row& row : rows) {
-        windows.panel.notes.clear();
-        objSkin->Dirty = false;
-        Click(row.command);
-        const dbLayoutElement& e = Last();
-        EXPECT_EQ(e.Key, row.key);
-        EXPECT_EQ(e.ElementName, row.key);
-        EXPECT_EQ(e.ElementType, row.type);
-        EXPECT_EQ(e.Order, ++order);
-        EXPECT_EQ((Rect{e.LeftX, e.TopY, e.WidthX, e.HeightY}), row.fields);
-        EXPECT_EQ(e.LockLeft, row.left);
-        EXPECT_EQ(e.LockRight, row.right);
-        EXPECT_TRUE(e.LockTop && !e.LockBottom && e.Visible);
-        EXPECT_EQ(e.BackgroundColor, row.background);
-        EXPECT_EQ(e.CapScrollSpeed, row.speed);
-        EXPECT_TRUE(objSkin->Dirty);
-        EXPECT_EQ(SelKey, row.key);
+TEST_F(ToolboxTest, WhatIsAddedOrClonedIsSelectedAndHasASheetOfItsOwn) {
+    for (TileCommand* add :
+         {toolbox.btn_AddButton, toolbox.btn_AddGraphic, toolbox.btn_AddVolume, toolbox.btn_AddInfo}) {
+        Click(add);
+        EXPECT_EQ(SelKey, Last().Key);
         ASSERT_TRUE(SelControl);
-        EXPECT_EQ(SelControl->Bounds(), row.shown);
-        EXPECT_NE(windows.panel.notes.find("unload open "), std::string::npos);
+        EXPECT_EQ(SelControl->Tag, SelKey);
     }
-}
-
-TEST_F(ToolboxTest, NumbersFillTheGapsAndClonesShareThem) {
-    Add("Button1", TypeButton, {10, 10, 20, 20});
-    Add("Button3", TypeButton, {10, 10, 20, 20}).ElementName = "Play";
-    Show();
-    Click(toolbox.btn_AddButton);
-    EXPECT_EQ(Last().Key, "Button2");
-    form.PlaceAnchors(&form.host().Element[2], false);
-    ASSERT_EQ(SelKey, "Button3");
-    const dbLayoutElementRef source = objCurrentLayout->dbLayoutElements->Item("Button3");
-    source->Font = std::make_shared<Font>();
-    source->Caption = "Go";
-    CloneElement(form.parts());
+    EXPECT_EQ(SelControl->Bounds(), (Rect{100, 20, 400, 50}));
+    dbLayoutElement& source = Element("Info1");
+    source.ElementName = "Song";
+    source.Font = std::make_shared<Font>();
+    source.InfoField = "Now";
+    CloneElement(form_->parts());
     const dbLayoutElement& clone = Last();
-    EXPECT_EQ(clone.Key, "Button4");
-    EXPECT_EQ(clone.ElementName, "Clone of Play");
-    EXPECT_EQ(clone.Order, 4);
-    EXPECT_EQ(clone.Caption, "Go");
-    EXPECT_EQ(clone.Font, source->Font) << "one font serves both";
-    EXPECT_EQ(SelKey, "Button4");
-    EXPECT_EQ(SelControl->Bounds(), (Rect{10, 10, 20, 20}));
+    EXPECT_EQ(clone.Key + ", " + clone.ElementName + ", " + clone.InfoField, "Info2, Clone of Song, Now");
+    EXPECT_EQ(clone.Order, 5);
+    EXPECT_EQ(clone.Font, source.Font) << "one font serves both";
+    EXPECT_EQ(SelKey, "Info2");
+    EXPECT_EQ(windows_.panel.unloaded, 5);
+    EXPECT_EQ(windows_.panel.opened, 5);
 }
 
 TEST_F(ToolboxTest, WhatCannotBeAddedOrClonedChangesNothing) {
     Add("Main", TypeMain, {100, 100, 200, 200});
-    Show();
-    CloneElement(form.parts());
-    form.PlaceAnchors(&form.host().pMain, false);
-    CloneElement(form.parts());
-    AddElement(form.parts(), 0);
-    AddElement(form.parts(), 5);
+    Compose();
+    CloneElement(form_->parts());
+    form_->PlaceAnchors(&form_->host().pMain, false);
+    CloneElement(form_->parts());
+    AddElement(form_->parts(), 0);
+    AddElement(form_->parts(), 5);
     EXPECT_EQ(objCurrentLayout->dbLayoutElements->Count(), 1);
     objCurrentLayout = std::make_shared<dbLayout>();
     Click(toolbox.btn_AddButton);
@@ -128,15 +84,14 @@ TEST_F(ToolboxTest, EachBoxTurnsItsSwitchAndNothingElse) {
         {toolbox.chk_ShowPoints, &ViewSwitches::ShowPoints},
         {toolbox.chk_ShowLines, &ViewSwitches::ShowLines},
         {toolbox.chk_ShowGrid, &ViewSwitches::ShowGrid},
-        {toolbox.chk_SnapGrid, &ViewSwitches::SnapGrid},
-    };
+        {toolbox.chk_SnapGrid, &ViewSwitches::SnapGrid}};
     for (const auto& [box, viewSwitch] : rows) {
         const bool before = viewSwitches.*viewSwitch;
         EXPECT_EQ(box->isChecked(), before) << box->text().toStdString();
         box->click();
         EXPECT_EQ(viewSwitches.*viewSwitch, !before) << box->text().toStdString();
         {
-            const Raised placing(form.parts().drag.IsPlacing);
+            const Raised placing(form_->parts().drag.IsPlacing);
             box->click();
             EXPECT_EQ(viewSwitches.*viewSwitch, box == toolbox.chk_SnapGrid ? before : !before)
                 << box->text().toStdString();
@@ -148,17 +103,18 @@ TEST_F(ToolboxTest, EachBoxTurnsItsSwitchAndNothingElse) {
 
 TEST_F(ToolboxTest, SwitchesShowOnTheCanvas) {
     Add("Button1", TypeButton, {10, 10, 20, 20});
-    Show();
-    form.PlaceAnchors(&form.host().Element[1], false);
+    objCurrentLayout->AddDummyPoints();
+    Compose();
+    form_->PlaceAnchors(&form_->host().Element[1], false);
     toolbox.chk_ShowElements->click();
-    EXPECT_FALSE(form.host().Element[1].isVisible());
-    EXPECT_FALSE(form.parts().anchors.Anchor[0]->isVisible());
+    EXPECT_FALSE(form_->host().Element[1].isVisible());
+    EXPECT_FALSE(form_->parts().anchors.Anchor[0]->isVisible());
     toolbox.chk_ShowElements->click();
-    EXPECT_TRUE(form.host().Element[1].isVisible());
+    EXPECT_TRUE(form_->host().Element[1].isVisible());
     toolbox.chk_ShowLines->click();
-    EXPECT_TRUE(form.parts().points.cPoint[4].isVisible());
+    EXPECT_TRUE(form_->parts().points.cPoint[4].isVisible());
     toolbox.chk_ShowPoints->click();
-    EXPECT_FALSE(form.parts().points.cPointMover[1].isVisible());
+    EXPECT_FALSE(form_->parts().points.cPointMover[1].isVisible());
     const int before = grids;
     toolbox.chk_ShowGrid->click();
     EXPECT_EQ(grids, before + 1);
@@ -181,9 +137,9 @@ TEST_F(ToolboxTest, ASpacingIsAWholeNumberFromOne) {
 TEST_F(ToolboxTest, TheOtherButtons) {
     objSkin->SkinWidth = 700;
     Click(toolbox.btn_ResetView);
-    EXPECT_EQ(form.width(), 700);
+    EXPECT_EQ(form_->width(), 700);
     Click(toolbox.btn_Preview);
-    EXPECT_EQ(windows.previews, 1);
+    EXPECT_EQ(windows_.previews, 1);
 }
 
 TEST_F(ToolboxTest, ItComesBackWhereItWas) {
@@ -214,9 +170,9 @@ TEST_F(ToolboxTest, ADroppedSkinIsOpenedAndAFailureTold) {
         QCoreApplication::sendEvent(&toolbox, &event);
     };
     drop();
-    EXPECT_EQ(windows.opened, "/skins/Blue");
+    EXPECT_EQ(windows_.opened, "/skins/Blue");
     EXPECT_TRUE(prompts_.asked.empty());
-    windows.failure = "no such disk";
+    windows_.failure = "no such disk";
     drop();
     ASSERT_EQ(prompts_.asked.size(), 1u);
     EXPECT_EQ(prompts_.asked[0], "Loading Skin Error: no such disk");

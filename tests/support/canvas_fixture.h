@@ -21,21 +21,25 @@ public:
         ++opened;
     }
     void ShowProperties() override { ++sheets; }
+    void UnloadProperties() override { ++unloaded; }
     void Hide() override { shown = false; }
     bool IsShown() const override { return shown; }
-    int opened = 0, sheets = 0;
+    int opened = 0, sheets = 0, unloaded = 0;
     bool shown = false;
 };
 
 class RecordedWindows : public Windows {
 public:
-    void LoadDebug(std::string_view skinName) override { opened = skinName; }
-    void UnloadOthers() override {}
+    void LoadDebug(std::string_view skinName) override {
+        opened = skinName;
+        if (!failure.empty()) throw Failure(513, "LoadSkin", failure);
+    }
+    void UnloadOthers() override { ++unloaded; }
     void SaveSkin() override { ++saved; }
     void ShowPreview() override { ++previews; }
     PropertiesPanel& properties() override { return panel; }
-    std::string opened;
-    int saved = 0, previews = 0;
+    std::string opened, failure;
+    int saved = 0, previews = 0, unloaded = 0;
     RecordedPanel panel;
 };
 
@@ -68,6 +72,16 @@ protected:
         form_->tmrResizer.stop();
         QCoreApplication::processEvents();
     }
+    static dbLayoutElement& Element(const char* key) {
+        return *objCurrentLayout->dbLayoutElements->Item(key);
+    }
+    /// Another corner of the shape, the next in order; it is shown by the next composition.
+    static dbPoint& AddPoint(Point at) {
+        dbPoint& point = *objCurrentLayout->dbPoints->Add(objCurrentLayout->dbPoints->Count() + 1);
+        point.X = at.x;
+        point.Y = at.y;
+        return point;
+    }
     LayoutHost& host() { return form_->host(); }
     Anchors& anchors() { return form_->parts().anchors; }
 
@@ -78,9 +92,9 @@ protected:
     void Release(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
         QTest::mouseRelease(form_->windowHandle(), button, {}, {x, y});
     }
-    void Click(int x, int y) {
-        Press(x, y);
-        Release(x, y);
+    void Click(int x, int y, Qt::MouseButton button = Qt::LeftButton) {
+        Press(x, y, button);
+        Release(x, y, button);
     }
     void Drag(QPoint from, QPoint by) {
         Press(from.x(), from.y());
