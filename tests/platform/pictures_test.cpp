@@ -44,18 +44,6 @@ std::string HugeJpeg() {
     return With(bytes, frame + 5, {0xFF, 0xDC, 0xFF, 0xDC});
 }
 
-std::string HugePng() {
-    std::string bytes = With(Encoded(Gradient(16, 16), "png"), 16, {0, 1, 0x86, 0xA0, 0, 1, 0x86, 0xA0});
-    std::uint32_t check = 0xFFFFFFFF;  // over the header's name and fields
-    for (std::size_t i = 12; i < 29; ++i) {
-        check ^= static_cast<unsigned char>(bytes[i]);
-        for (int bit = 0; bit < 8; ++bit) check = check >> 1 ^ (check & 1 ? 0xEDB88320 : 0);
-    }
-    check = ~check;
-    const auto byte = [check](int at) { return static_cast<int>(check >> (24 - 8 * at) & 0xFF); };
-    return With(std::move(bytes), 29, {byte(0), byte(1), byte(2), byte(3)});
-}
-
 class Pictures : public ::testing::Test {
 protected:
     // Decoders may complain of what is broken.
@@ -87,7 +75,6 @@ TEST_F(Pictures, EveryFormatIsKnownByItsContent) {
 
 TEST_F(Pictures, WhatIsTooLargeIsRefused) {
     const QImage image = Gradient(16, 16);
-    EXPECT_FALSE(Load(HugePng()));
     EXPECT_FALSE(Load(With(Encoded(image, "bmp"), 18, {0xA0, 0x86, 1, 0, 0xA0, 0x86, 1, 0})));
     EXPECT_FALSE(Load(With(Encoded(image, "bmp"), 18, {0, 0, 0, 0x80, 0, 0, 0, 0x80})));
     EXPECT_FALSE(Load(SmallGif(1, 65000, 65000)));
@@ -103,10 +90,7 @@ TEST_F(Pictures, BrokenFilesGiveAPartOrNothing) {
         for (std::size_t length = 0; length < whole.size();
              length += std::max<std::size_t>(1, whole.size() / 23)) {
             const PictureRef picture = Load(whole.substr(0, length));
-            if (picture) {
-                EXPECT_LE(picture->image.width(), 64);
-                EXPECT_LE(picture->image.height(), 64);
-            }
+            EXPECT_TRUE(!picture || (picture->image.width() <= 64 && picture->image.height() <= 64));
         }
     for (const char* text : {"", "GIF89a", "BM", "no picture", "\xFF\xD8\xFF", "<html></html>"})
         EXPECT_FALSE(Load(text));
