@@ -56,6 +56,35 @@ void Program::ShowToolbox() {
     toolbox_->Open();
 }
 
+void Program::ShowPreview() {
+    if (preview_ || !main_.BeginPreview()) return;
+    preview_ = std::make_unique<frm_Preview>(*this);
+    const Rect place = main_.TwipBounds();
+    try {
+        preview_->Open({place.left, place.top});
+    } catch (const Failure& failure) {
+        LeavePreview();
+        prompts_.Message(failure.description(), "Ornavo", Icon::Critical, Buttons::Ok);
+        return;
+    }
+    main_.hide();
+    if (toolbox_) toolbox_->hide();
+    properties().Hide();
+    project_.hide();
+}
+
+void Program::LeavePreview() {
+    if (!preview_) return;
+    preview_->hide();
+    preview_.release()->deleteLater();  // it may be its own close that leads here
+    main_.EndPreview();
+    main_.show();
+    ShowToolbox();
+    project_.show();
+    main_.activateWindow();
+    main_.setFocus();
+}
+
 bool Program::EditPicture(const std::string& finalName, std::string& path) {
     frm_PictureEditor editor(&main_);
     editor.SetFinalName(finalName);

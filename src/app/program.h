@@ -9,6 +9,7 @@
 #include "canvas/frm_toolbox.h"
 #include "dialogs/qt_prompts.h"
 #include "editor/windows.h"
+#include "preview/frm_preview.h"
 #include "project/frm_skinproject.h"
 #include "properties/frm_properties.h"
 
@@ -28,6 +29,8 @@ public:
     bool MayClose() override;
     void UnloadOthers() override;
     void ShowToolbox() override;
+    void ShowPreview() override;
+    void LeavePreview() override;
     bool EditPicture(const std::string& finalName, std::string& path) override;
     PropertiesPanel& properties() override { return properties_; }
 
@@ -39,6 +42,7 @@ private:
     frm_Properties properties_;
     std::unique_ptr<frm_Toolbox> toolbox_;  // null until it is first shown
     bool toolboxWaits_ = false;             // for the main window, above which it stays
+    std::unique_ptr<frm_Preview> preview_;  // null while there is none
 };
 
 }  // namespace ornavo

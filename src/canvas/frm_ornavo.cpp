@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/frm_ornavo.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPaintEvent>
@@ -151,6 +152,21 @@ void frm_Ornavo::UpdateCurrentLayout() {
         HideSelectionTools();
     ComposeLayout(*this, objCurrentLayout, objSkin->SkinWidth, objSkin->SkinHeight);
     anchors_.FollowSelection(host_, points_);
+}
+
+bool frm_Ornavo::BeginPreview() {
+    if (!LayoutIsShown()) return false;
+    if (QWidget* focus = QApplication::focusWidget()) focus->clearFocus();  // what was typed there counts
+    FinishDrag(parts_);
+    windows_.properties().DrawPendingEdits();
+    if (tmrResizer.isActive()) tmrResizer_Timer();
+    tmrShowProperties.stop();
+    return true;
+}
+
+void frm_Ornavo::EndPreview() {
+    ReleasePreview(*this, objCurrentLayout, objSkin->SkinWidth, objSkin->SkinHeight);
+    UpdateCurrentLayout();
 }
 
 void frm_Ornavo::ResetSelection() {

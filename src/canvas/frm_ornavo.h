@@ -27,6 +27,11 @@ public:
     /// Shows the window with its first activation done, so that the first picture of it is complete.
     void Start(std::string commandLine);
 
+    /// Finishes what is being edited, for another window takes the composition. False without a layout.
+    bool BeginPreview();
+    /// Takes it back; element and control are tied again as this window's own controls are.
+    void EndPreview();
+
     void UpdateCurrentLayout() override;
     void UpdateCaption() override;
     void ResetFormToOriginal() override;

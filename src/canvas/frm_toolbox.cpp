@@ -160,8 +160,8 @@ void frm_Toolbox::Connect() {
 }
 
 void frm_Toolbox::Open() {
-    if (isVisible()) return;
-    Form_Load();
+    if (!loaded_) Form_Load();  // one that was only hidden comes back where it was
+    loaded_ = true;
     show();
 }
 
@@ -187,6 +187,7 @@ void frm_Toolbox::Form_Load() {
 }
 
 void frm_Toolbox::Form_Unload() {
+    loaded_ = false;
     const Rect place = TwipBounds();
     settings::ToolboxLeft.Write(place.left);
     settings::ToolboxTop.Write(place.top);

@@ -48,6 +48,7 @@ private:
     void SpacingLeft(QLineEdit& box, int& spacing);
 
     CanvasParts& parts_;
+    bool loaded_ = false;
 };
 
 }  // namespace ornavo

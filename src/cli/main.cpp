@@ -21,7 +21,7 @@ constexpr const char* Usage =
     "                                        write the skin, also under another name beside it\n"
     "  place SKIN --layout KEY [--size WxH]  where elements and points stand, as JSON\n"
     "  render SKIN --layout KEY --out FILE.png [--size WxH] [--view preview|canvas] [--edge soft|hard]\n"
-    "                                        a picture of the layout\n"
+    "         [--time HH:MM:SS]              a picture of the layout, its clocks at that time\n"
     "  recolour IN OUT --hue N --saturation N\n"
     "                                        a picture in one hue and saturation, 0 to 255 each; OUT ends in "
     ".bmp\n"
@@ -40,7 +40,7 @@ const Command Commands[] = {
     {"dump", {"raw!"}, Dump},
     {"save", {"as", "keep-existing!"}, Save},
     {"place", {"layout", "size"}, Place},
-    {"render", {"layout", "out", "size", "view", "edge"}, Render},
+    {"render", {"layout", "out", "size", "view", "edge", "time"}, Render},
     {"recolour", {"hue", "saturation"}, Recolour, true},
 };
 

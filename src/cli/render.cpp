@@ -7,8 +7,10 @@
 #include <cstdio>
 
 #include "cli/open_skin.h"
+#include "platform/clock.h"
 #include "platform/pictures.h"
 #include "platform/prompts.h"
+#include "playback/info_show.h"
 #include "render/compose.h"
 #include "render/layout_host.h"
 #include "render/shape.h"
@@ -79,6 +81,22 @@ QImage Cut(const QImage& picture, const dbLayout& layout, bool soft) {
     return cut;
 }
 
+/// Stands still at the time of --time, HH:MM:SS; without one it is the real clock.
+class GivenClock : public Clock {
+public:
+    explicit GivenClock(const std::string& text) {
+        if (text.empty()) return;
+        now_ = QDateTime(QDate(2000, 1, 1), QTime::fromString(QString::fromStdString(text), "HH:mm:ss"));
+        if (!now_.isValid()) throw UsageError("--time is HH:MM:SS");
+        UseClock(this);
+    }
+    ~GivenClock() override { UseClock(nullptr); }
+    QDateTime Now() const override { return now_; }
+
+private:
+    QDateTime now_;
+};
+
 bool OneOf(const Arguments& arguments, const std::string& name, const std::string& first,
            const std::string& second) {
     const std::string value = arguments.Get(name, first);
@@ -92,6 +110,7 @@ int Render(const Arguments& arguments) {
     const std::string out = arguments.Need("out");
     const bool preview = OneOf(arguments, "view", "preview", "canvas");
     const bool soft = OneOf(arguments, "edge", "soft", "hard");
+    const GivenClock clock(arguments.Get("time", ""));
     OpenNamedSkin(arguments);
     objCurrentLayout = NamedLayout(arguments);
     const Size size = NamedSize(arguments);
@@ -104,6 +123,7 @@ int Render(const Arguments& arguments) {
     OffscreenTarget target(size);
     (preview ? ComposePreview : ComposeLayout)(target, objCurrentLayout, objSkin->SkinWidth,
                                                objSkin->SkinHeight);
+    if (preview) InfoShow().Begin(target.host(), *objCurrentLayout);
     QImage picture = target.grab().toImage();
     if (preview) picture = Cut(picture, *objCurrentLayout, soft);
     if (!picture.save(QString::fromStdString(out), "PNG"))

@@ -32,6 +32,14 @@ inline constexpr Setting<int> PropertiesLeft = {"Properties", "Left", 9045};
 inline constexpr Setting<int> PropertiesTop = {"Properties", "Top", 4035};
 inline constexpr Setting<int> PropertiesWidth = {"Properties", "Width", 4800};
 
+/// By default the preview opens where the main window stands.
+constexpr Setting<int> PreviewLeft(int standard) {
+    return {"Skin-Preview", "Left", standard};
+}
+constexpr Setting<int> PreviewTop(int standard) {
+    return {"Skin-Preview", "Top", standard};
+}
+
 inline constexpr Setting<int> NewSkinWidth = {"CreateNewSkin", "Width", 1024};  // pixels
 inline constexpr Setting<int> NewSkinHeight = {"CreateNewSkin", "Height", 768};
 

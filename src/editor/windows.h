@@ -31,6 +31,7 @@ public:
     virtual void ShowProperties() {}
     virtual void UnloadProperties() {}
     virtual void Hide() {}
+    virtual void DrawPendingEdits() {}  // what still waits to be drawn is drawn now
     virtual bool IsShown() const { return false; }
 };
 

@@ -29,7 +29,8 @@ Mouse MouseOf(const QMouseEvent& event, int button) {
     const int shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
                       (keys & Qt::AltModifier ? 4 : 0);
     const QPoint at = event.position().toPoint();
-    return {button, shift, at.x(), at.y()};
+    const QPoint onScreen = event.globalPosition().toPoint();
+    return {button, shift, at.x(), at.y(), onScreen.x(), onScreen.y()};
 }
 
 }  // namespace

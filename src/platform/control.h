@@ -16,6 +16,7 @@ struct Mouse {
     int button = 0;    // 1 left, 2 right, 4 middle; on a move the mask of those held
     int shift = 0;     // 1 Shift, 2 Ctrl, 4 Alt
     int x = 0, y = 0;  // pixels of the control
+    int screenX = 0, screenY = 0;
 };
 
 /// What a window hears of its controls.

@@ -53,6 +53,10 @@ void PictureBox::DrawText(std::string_view text, const Rect& area) {
     });
 }
 
+int PictureBox::TextWidth(std::string_view text) const {
+    return QFontMetrics(ScreenFont(Font)).horizontalAdvance(ShownText(Font, text));
+}
+
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), ScreenColour(BackColor()));

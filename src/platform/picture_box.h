@@ -21,6 +21,7 @@ public:
     void Draw(const std::function<void(QPainter&)>& drawing);
     /// A single line of text, its rectangle's top left given; nothing is broken, "&" is a character.
     void DrawText(std::string_view text, const Rect& area);
+    int TextWidth(std::string_view text) const;  // pixels, of such a line
 
     ornavo::Font Font;
     Colour ForeColor = 0;

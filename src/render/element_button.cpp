@@ -58,6 +58,7 @@ void SetupElementButton(TileButton& button, dbLayoutElement& element, bool previ
     SetupElementGround(button, element);
     SetupElementRotation(button, element);
     button.SetMousePointer(PointerOf(element, preview));
+    button.Repeats = preview;
     button.Refresh();
     if (element.UseTopLeftTransparency) element.TransparentColor = button.TransparentColor();
 }

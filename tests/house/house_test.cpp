@@ -15,18 +15,19 @@ const Plan OurPlan = {
     {"pixels", {"base"}},
     {"platform", {"base"}},
     {"render", {"platform", "document", "base"}},
+    {"playback", {"render", "platform", "document", "base"}},
     {"dialogs", {"platform", "base"}},
     {"editor", {"platform"}},
     {"project", {"editor", "dialogs", "platform", "document", "base"}},
     {"canvas", {"editor", "render", "platform", "document", "base"}},
-    {"preview", {"editor", "render", "platform", "document", "base"}},
+    {"preview", {"playback", "editor", "render", "platform", "document", "base"}},
     {"properties", {"editor", "dialogs", "render", "platform", "document", "base"}},
     {"picture", {"editor", "render", "platform", "pixels", "document", "base"}},
     {"magnifier", {"editor", "platform", "base"}},
     {"app",
      {"project", "canvas", "properties", "preview", "magnifier", "picture", "dialogs", "editor", "platform",
       "document", "base"}},
-    {"cli", {"render", "platform", "pixels", "document", "base"}},
+    {"cli", {"playback", "render", "platform", "pixels", "document", "base"}},
 };
 
 std::string Listed(const std::vector<std::string>& texts) {

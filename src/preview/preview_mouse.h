@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// What a press, a drag or a release on the preview does: the skin's own buttons work its window, its volume
+// and its song.
+#pragma once
+
+#include <QPoint>
+#include <QSize>
+
+#include "document/dblayouts.h"
+#include "platform/control.h"
+#include "playback/info_show.h"
+
+namespace ornavo {
+
+/// What the mouse asks of the window. Pixels.
+class PreviewWindow {
+public:
+    virtual ~PreviewWindow() = default;
+    virtual bool IsMaximised() const = 0;
+    virtual QPoint Corner() const = 0;
+    virtual QSize Inside() const = 0;
+    virtual void MoveCorner(const QPoint& corner) = 0;
+    virtual void ShowOutline(const QSize& size) = 0;  // in place of the window
+    virtual void EndOutline() = 0;                    // the window again, in the outline's size
+    virtual void ToggleMaximise() = 0;
+    virtual void Minimise() = 0;
+    virtual void Unload() = 0;
+};
+
+inline constexpr int LeastPreview = 600;  // pixels each way, for the resizer
+
+/// The length of a side whose grip was pressed at `from` and is now at `to`. Pixels.
+int ResizedSide(int length, int from, int to);
+
+class PreviewMouse : public ControlEvents {
+public:
+    PreviewMouse(PreviewWindow& window, InfoShow& infos) : window_(window), infos_(infos) {}
+
+    dbLayoutRef Layout;
+    bool Resizing = false;  // from the press on a resizer until the release
+
+    void MouseDown(Control& control, const Mouse& mouse) override;
+    void MouseMove(Control& control, const Mouse& mouse) override;
+    void MouseUp(Control& control, const Mouse& mouse) override;
+    void DblClick(Control& control) override;
+    void Repeat(Control& control) override;
+
+private:
+    const dbLayoutElement* ElementOf(const Control& control, const char* pool) const;
+    void Element_MouseDown(const dbLayoutElement& element, const Mouse& mouse);
+    void Element_MouseMove(const dbLayoutElement& element, const Mouse& mouse);
+    void Element_MouseUp(const dbLayoutElement& element);
+    void pInfo_MouseMove(const dbLayoutElement& element, const Rect& box, const Mouse& mouse);
+    void ChangeVolume(double by);
+
+    PreviewWindow& window_;
+    InfoShow& infos_;
+    bool dragging_ = false;
+    QPoint grip_;  // from the window's corner to the pointer
+    int StartX = 0, StartY = 0, StartWidth = 0, StartHeight = 0;
+    int VolumeY = 0;  // last place over a dial
+};
+
+}  // namespace ornavo
