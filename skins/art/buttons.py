@@ -137,6 +137,22 @@ def simple(name, colour):
 
 
 INK = "2f5f9e"
+
+
+def lens(pen):
+    """A magnifying glass in the manner of the plain signs."""
+    style.solid(pen, INK)
+    pen.set_line_cap(1)
+    pen.new_path()
+    pen.arc(13, 13, 8.5, 0, 6.3)
+    pen.set_line_width(3.4)
+    pen.stroke()
+    pen.move_to(20.5, 20.5)
+    pen.line_to(27, 27)
+    pen.set_line_width(5)
+    pen.stroke()
+
+
 PICTURES = {  # name: (how it is drawn on 32 by 32, its edge in pixels)
     "add_button": (button, 32),
     "add_graphic": (graphic, 32),
@@ -147,6 +163,7 @@ PICTURES = {  # name: (how it is drawn on 32 by 32, its edge in pixels)
     "save_skin": (save_skin, 32),
     "preview": (simple("play", INK), 16),
     "reset_view": (simple("maximise", INK), 16),
+    "magnifier": (lens, 16),
 }
 
 

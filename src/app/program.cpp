@@ -43,6 +43,7 @@ bool Program::MayClose() {
 void Program::UnloadOthers() {
     if (toolbox_) toolbox_->close();
     properties_.close();
+    if (magnifier_) magnifier_->close();
     if (project_.LastUnload() == frm_SkinProject::Unload::Done) return;
     // It stayed open, is asked to close once more, and is the last window if it stays again.
     if (!project_.close()) project_.StandAlone();
@@ -83,6 +84,15 @@ void Program::LeavePreview() {
     project_.show();
     main_.activateWindow();
     main_.setFocus();
+}
+
+void Program::ToggleMagnifier() {
+    if (magnifier_ && magnifier_->isVisible()) {
+        magnifier_->close();
+        return;
+    }
+    magnifier_ = std::make_unique<frm_Magnifier>(&main_);
+    magnifier_->Open();
 }
 
 bool Program::EditPicture(const std::string& finalName, std::string& path) {

@@ -9,6 +9,7 @@
 #include "canvas/frm_toolbox.h"
 #include "dialogs/qt_prompts.h"
 #include "editor/windows.h"
+#include "magnifier/frm_magnifier.h"
 #include "preview/frm_preview.h"
 #include "project/frm_skinproject.h"
 #include "properties/frm_properties.h"
@@ -31,6 +32,7 @@ public:
     void ShowToolbox() override;
     void ShowPreview() override;
     void LeavePreview() override;
+    void ToggleMagnifier() override;
     bool EditPicture(const std::string& finalName, std::string& path) override;
     PropertiesPanel& properties() override { return properties_; }
 
@@ -40,9 +42,10 @@ private:
     frm_Ornavo main_;
     frm_SkinProject project_;
     frm_Properties properties_;
-    std::unique_ptr<frm_Toolbox> toolbox_;  // null until it is first shown
-    bool toolboxWaits_ = false;             // for the main window, above which it stays
-    std::unique_ptr<frm_Preview> preview_;  // null while there is none
+    std::unique_ptr<frm_Toolbox> toolbox_;      // null until it is first shown
+    std::unique_ptr<frm_Magnifier> magnifier_;  // the one last opened
+    std::unique_ptr<frm_Preview> preview_;      // null while there is none
+    bool toolboxWaits_ = false;                 // for the main window, above which it stays
 };
 
 }  // namespace ornavo

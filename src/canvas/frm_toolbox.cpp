@@ -68,6 +68,8 @@ frm_Toolbox::frm_Toolbox(CanvasParts& parts) : Form(&parts.form, "frm_Toolbox", 
                           "Show the layout as the jukebox does");
     btn_ResetView = Command("btn_ResetView", "&Reset View", "reset_view", SmallPictureSize,
                             "Give the window the skin's own size");
+    btn_Magnifier = Command("btn_Magnifier", "&Magnifier", "magnifier", SmallPictureSize,
+                            "Show the screen about the pointer enlarged, or no longer");
     Arrange();
     Connect();
 }
@@ -135,6 +137,7 @@ void frm_Toolbox::Arrange() {
     across(Separator(this, "Line2"));
     across(btn_Preview);
     across(btn_ResetView);
+    across(btn_Magnifier);
 }
 
 void frm_Toolbox::Connect() {
@@ -146,6 +149,7 @@ void frm_Toolbox::Connect() {
         connect(command, &TileCommand::Click, this, [this, type = type] { AddElement(parts_, type); });
     connect(btn_Preview, &TileCommand::Click, this, [this] { parts_.windows.ShowPreview(); });
     connect(btn_ResetView, &TileCommand::Click, this, [this] { parts_.canvas.ResetFormToOriginal(); });
+    connect(btn_Magnifier, &TileCommand::Click, this, [this] { parts_.windows.ToggleMagnifier(); });
     Switch(chk_ShowShape, viewSwitches.ShowShape, &frm_Toolbox::Recompose);
     Switch(chk_ShapeInverted, viewSwitches.ShapeInverted, &frm_Toolbox::Recompose);
     Switch(chk_ShowLines, viewSwitches.ShowLines, &frm_Toolbox::Recompose);

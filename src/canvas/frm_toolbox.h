@@ -22,7 +22,8 @@ public:
     /// Shown at its place of the last time, if it is hidden.
     void Open();
 
-    TileCommand *btn_AddButton, *btn_AddGraphic, *btn_AddVolume, *btn_AddInfo, *btn_Preview, *btn_ResetView;
+    TileCommand *btn_AddButton, *btn_AddGraphic, *btn_AddVolume, *btn_AddInfo, *btn_Preview, *btn_ResetView,
+        *btn_Magnifier;
     QCheckBox *chk_ShowShape, *chk_ShapeInverted, *chk_ShowElements, *chk_ShowPoints, *chk_ShowLines,
         *chk_ShowGrid, *chk_SnapGrid;
     QLineEdit *tbx_GridX, *tbx_GridY;

@@ -43,6 +43,11 @@ constexpr Setting<int> PreviewTop(int standard) {
 inline constexpr Setting<int> NewSkinWidth = {"CreateNewSkin", "Width", 1024};  // pixels
 inline constexpr Setting<int> NewSkinHeight = {"CreateNewSkin", "Height", 768};
 
+inline constexpr Setting<int> MagnifierLeft = {"Magnifier", "Left", 30};
+inline constexpr Setting<int> MagnifierTop = {"Magnifier", "Top", 6300};
+inline constexpr Setting<int> MagnifierWidth = {"Magnifier", "Width", 2800};
+inline constexpr Setting<int> MagnifierHeight = {"Magnifier", "Height", 2500};
+
 inline constexpr Setting<int> PictureHue = {"Picture-Editor", "Hue", 100};
 inline constexpr Setting<int> PictureSaturation = {"Picture-Editor", "Saturation", 100};
 inline constexpr Setting<bool> SaveAsBMP = {"Picture-Editor", "SaveAsBMP", true};

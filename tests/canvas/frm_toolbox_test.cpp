@@ -186,7 +186,7 @@ TEST_F(ToolboxTest, TheTabKeyVisitsAllAndEachHasAName) {
         QAccessibleInterface* told = QAccessible::queryAccessibleInterface(next);
         EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << next->objectName().toStdString();
     }
-    EXPECT_EQ(visited, 15);
+    EXPECT_EQ(visited, 16);
 }
 
 }  // namespace

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "magnifier/magnify.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "base/failure.h"
+#include "platform/control.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int Milliseconds = 50;
+constexpr int WheelStep = 120;  // eighths of a degree
+
+}  // namespace
+
+Magnify::Magnify(QWidget* parent, PixelSource& desktop, PixelSource& own)
+    : QFrame(parent), desktop_(desktop), own_(own) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    SetBorderStyle(1);
+    tmr.setInterval(Milliseconds);
+    connect(&tmr, &QTimer::timeout, this, &Magnify::tmr_Timer);
+}
+
+void Magnify::SetZoom(int zoom) {
+    if (std::find(std::begin(Zooms), std::end(Zooms), zoom) == std::end(Zooms))
+        throw Failure(380, "Magnify", "Invalid property value");
+    zoom_ = zoom;
+}
+
+void Magnify::StepZoom(int by) {
+    const int last = static_cast<int>(std::size(Zooms)) - 1;
+    const auto now = std::find(std::begin(Zooms), std::end(Zooms), zoom_) - std::begin(Zooms);
+    zoom_ = Zooms[std::clamp(static_cast<int>(now) + by, 0, last)];
+}
+
+void Magnify::SetFrozen(bool frozen) {
+    frozen_ = frozen;
+    if (frozen_ || !isVisible())
+        tmr.stop();
+    else
+        tmr.start();
+    Capture();
+}
+
+void Magnify::SetBorderStyle(int style) {
+    setFrameStyle(style == 0 ? static_cast<int>(NoFrame) : Box | Plain);
+}
+
+int Magnify::ScaleWidth() const {
+    return static_cast<int>(std::lround(contentsRect().width() * devicePixelRatioF()));
+}
+
+int Magnify::ScaleHeight() const {
+    return static_cast<int>(std::lround(contentsRect().height() * devicePixelRatioF()));
+}
+
+void Magnify::Clear() {
+    picture_.fill(ScreenColour(BackColor));
+    view_ = {};
+    update();
+}
+
+/// False if the source refuses to be read.
+bool Magnify::See(PixelSource& source, View& view) const {
+    view = {{ScaleWidth(), ScaleHeight()}, zoom_, BackColor, {}, {}};
+    view.pieces = PiecesOf(source.Pointer(), view.size, zoom_, source.Screens());
+    for (const Piece& piece : view.pieces) {
+        view.pixels.push_back(source.Grab(piece.screen, piece.source));
+        if (view.pixels.back().isNull()) return false;
+    }
+    return true;
+}
+
+void Magnify::Capture() {
+    if (busy_) return;
+    const ornavo::Raised capturing(busy_);
+    View view;
+    if (!See(desktop_, view) && !See(own_, view)) return;
+    if (view == view_) return;
+    view_ = std::move(view);
+    picture_ = QImage(view_.size, QImage::Format_RGB32);
+    picture_.fill(ScreenColour(BackColor));
+    QPainter painter(&picture_);
+    for (std::size_t i = 0; i < view_.pieces.size(); ++i)
+        painter.drawImage(view_.pieces[i].target, view_.pixels[i]);
+    painter.end();
+    update();
+}
+
+void Magnify::tmr_Timer() {
+    Capture();
+    if (Events) emit Tick();
+}
+
+void Magnify::mousePressEvent(QMouseEvent* event) {
+    emit MouseDown(event);
+}
+
+void Magnify::mouseMoveEvent(QMouseEvent* event) {
+    emit MouseMove(event);
+}
+
+void Magnify::mouseReleaseEvent(QMouseEvent* event) {
+    emit MouseUp(event);
+    emit Click();
+}
+
+void Magnify::mouseDoubleClickEvent(QMouseEvent*) {
+    emit DblClick();
+}
+
+void Magnify::wheelEvent(QWheelEvent* event) {
+    turned_ += event->angleDelta().y();
+    StepZoom(turned_ / WheelStep);
+    turned_ %= WheelStep;
+}
+
+void Magnify::resizeEvent(QResizeEvent*) {
+    emit Resize();
+}
+
+void Magnify::showEvent(QShowEvent*) {
+    Capture();
+    if (!frozen_) tmr.start();
+}
+
+void Magnify::hideEvent(QHideEvent*) {
+    tmr.stop();
+}
+
+void Magnify::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect inside = contentsRect();
+    picture_.setDevicePixelRatio(devicePixelRatioF());
+    if (picture_.size() != QSize(ScaleWidth(), ScaleHeight()))
+        painter.fillRect(inside, ScreenColour(BackColor));
+    painter.setClipRect(inside);
+    painter.drawImage(inside.topLeft(), picture_);
+    painter.setClipping(false);
+    drawFrame(&painter);
+}
+
+}  // namespace ornavo
