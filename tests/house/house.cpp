@@ -96,32 +96,4 @@ std::vector<std::string> House::LongerThan(std::size_t limit) const {
     return files;
 }
 
-std::vector<std::string> House::LongestChain() const {
-    std::map<std::string, std::vector<std::string>> longest;
-    const std::function<const std::vector<std::string>&(const std::string&)> from =
-        [&](const std::string& file) -> const std::vector<std::string>& {
-        if (const auto known = longest.find(file); known != longest.end()) return known->second;
-        std::vector<std::string> best;
-        if (const auto found = includes_.find(file); found != includes_.end())
-            for (const std::string& next : found->second)
-                if (const auto& chain = from(next); chain.size() > best.size()) best = chain;
-        best.insert(best.begin(), file);
-        return longest[file] = std::move(best);
-    };
-    std::vector<std::string> best;
-    for (const auto& [file, lines] : lines_)
-        if (const auto& chain = from(file); chain.size() > best.size()) best = chain;
-    return best;
-}
-
-std::vector<std::pair<std::size_t, std::string>> House::MostIncluded() const {
-    std::map<std::string, std::size_t> counts;
-    for (const auto& [file, targets] : includes_)
-        for (const std::string& target : targets) ++counts[target];
-    std::vector<std::pair<std::size_t, std::string>> files;
-    for (const auto& [file, count] : counts) files.emplace_back(count, file);
-    std::sort(files.rbegin(), files.rend());
-    return files;
-}
-
 }  // namespace ornavo

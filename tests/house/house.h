@@ -26,10 +26,6 @@ public:
     /// Files from the given rooms that include a header of the window library.
     std::vector<std::string> WindowHeadersIn(const std::set<std::string>& rooms) const;
     std::vector<std::string> LongerThan(std::size_t lines) const;
-    /// Only for a house without a ring.
-    std::vector<std::string> LongestChain() const;
-    /// Pairs of count and file, the most-included first.
-    std::vector<std::pair<std::size_t, std::string>> MostIncluded() const;
 
 private:
     void ReadFile(const std::string& name, const std::filesystem::path& path);

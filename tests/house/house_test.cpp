@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <iostream>
-
 #include "house/house.h"
 #include "support/temporary_folder.h"
 
@@ -48,11 +46,7 @@ TEST(House, NobodyLooksUp) {
 TEST(House, HasNoRing) {
     const House house(ORNAVO_SOURCE_DIR "/src");
     const auto ring = house.Ring();
-    ASSERT_TRUE(ring.empty()) << Listed(ring);
-    std::cout << "Longest chain:" << Listed(house.LongestChain()) << "\nMost included:\n";
-    const auto files = house.MostIncluded();
-    for (std::size_t i = 0; i < std::min<std::size_t>(5, files.size()); ++i)
-        std::cout << "  " << files[i].first << " times " << files[i].second << '\n';
+    EXPECT_TRUE(ring.empty()) << Listed(ring);
 }
 
 TEST(House, FilesStayShort) {
@@ -81,17 +75,6 @@ TEST(Inspection, FindsWhatIsWrong) {
     EXPECT_EQ(house.WindowHeadersIn({"low"}), Texts{"low/c.h"});
     EXPECT_TRUE(house.WindowHeadersIn({"high"}).empty());
     EXPECT_EQ(house.LongerThan(500), Texts{"high/long.cpp has 501 lines"});
-}
-
-TEST(Inspection, FollowsTheLongestChain) {
-    const TemporaryFolder tree;
-    tree.Write("r/a.cpp", "#include \"r/b.h\"\n#include \"r/c.h\"\n");
-    tree.Write("r/b.h", "#include \"r/c.h\"\n");
-    tree.Write("r/c.h", "");
-    const House house(tree.place());
-    EXPECT_TRUE(house.Ring().empty());
-    EXPECT_EQ(house.LongestChain(), (std::vector<std::string>{"r/a.cpp", "r/b.h", "r/c.h"}));
-    EXPECT_EQ(house.MostIncluded().front(), std::make_pair(std::size_t{2}, std::string("r/c.h")));
 }
 
 }  // namespace
