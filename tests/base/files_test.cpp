@@ -2,12 +2,7 @@
 #include "base/files.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <csignal>
 
 #include "base/failure.h"
 #include "base/paths.h"
@@ -20,14 +15,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The call of one number fails, or kills the process. A failing write has written half.
+/// The call of one number fails. A failing write has written half.
 class FailingLayer : public StepLayer {
 public:
-    explicit FailingLayer(int failing, bool deadly = false) : failing_(failing) {
-        before = [failing, deadly](int step) {
-            if (step != failing) return;
-            if (deadly) ::raise(SIGKILL);
-            throw Failure(61, "Files", "No space left on device");
+    explicit FailingLayer(int failing) : failing_(failing) {
+        before = [failing](int step) {
+            if (step == failing) throw Failure(61, "Files", "No space left on device");
         };
         UseFileLayer(this);
     }
@@ -37,16 +30,6 @@ public:
 private:
     int failing_;
 };
-
-/// Runs the action in a process of its own; gives its exit code, or -1 if it was killed.
-template <class Action>
-int InChild(Action&& action) {
-    const pid_t child = ::fork();
-    if (child == 0) ::_exit(action());
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
 
 /// Lets each call of the action fail in turn. Whatever happens, the target holds the new bytes when the
 /// action ends well and the old ones otherwise, and nothing else lies in the folder.
@@ -90,37 +73,6 @@ TEST(CopyFileWhole, IsAllOrNothingAtEveryStep) {
     const fs::path target = folder / "target";
     ExpectAllOrNothing(folder, target, bytes, [&] { CopyFileWhole(source, target); });
     EXPECT_EQ(TemporaryFolder::Read(source), bytes);
-}
-
-TEST(ReplaceFile, IsWholeWhereverTheProcessDies) {
-    const TemporaryFolder folder;
-    const std::string bytes(100'000, 'n');
-    int deaths = 0;
-    for (bool died = true; died; deaths += died) {
-        const fs::path target = folder.Write("target", "old");
-        died = InChild([&] {
-                   const FailingLayer layer(deaths + 1, true);
-                   ReplaceFile(target, bytes);
-                   return 0;
-               }) == -1;
-        const std::string found = TemporaryFolder::Read(target);
-        EXPECT_TRUE(found == bytes || (died && found == "old")) << deaths;
-    }
-    EXPECT_GE(deaths, 5);
-}
-
-TEST(ReplaceFile, KeepsTheOldFileWhenTheSystemTakesNoMoreBytes) {
-    const TemporaryFolder folder;
-    const fs::path target = folder.Write("target", "old");
-    const int number = InChild([&] {
-        ::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{50'000, 50'000};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        return FailureNumber([&] { ReplaceFile(target, std::string(100'000, 'n')); });
-    });
-    EXPECT_EQ(number, 75);
-    EXPECT_EQ(TemporaryFolder::Read(target), "old");
-    EXPECT_EQ(folder.Entries(), 1u);
 }
 
 TEST(ReplaceFile, TellsTheUserWhatFailed) {
