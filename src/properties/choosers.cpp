@@ -1,12 +1,72 @@
 // SPDX-License-Identifier: MIT
 #include "properties/choosers.h"
 
+#include <array>
+
+#include "base/failure.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "dialogs/ccommondialog.h"
+#include "document/codes.h"
+#include "document/current_skin.h"
+#include "properties/live_update.h"
 #include "properties/panel_parts.h"
 
 namespace ornavo {
+namespace {
 
-void btn_Prop_Click(PanelParts&, int) {}
+constexpr const char* PictureTitle = "Open Picture";
+constexpr const char* PictureFilter =
+    "All Pictures|*.jpg;*.jpeg;*.bmp;*.gif|JPEG (*.jpg)|*.jpg;*.jpeg|Bitmap (*.bmp)|*.bmp|GIF (*.gif)|*.gif";
 
-void btn_PicEdit_Click(PanelParts&, int) {}
+void ChooseColour(RowText& box) {
+    Colour colour = 0;
+    Attempt([&] { colour = Value(box.Text()).ToLong(); });
+    if (!cCommonDialog().VBChooseColor(colour)) return;
+    Attempt([&] { box.SetBackColor(colour); });
+    box.SetText(Value(colour).ToText());
+}
+
+void ChooseFont(PanelParts& parts, RowText& box) {
+    const std::string key = box.Tag;
+    FontRef now;
+    Attempt([&] { now = GetRowValue(parts.BoundObject, key).ToFont(); });
+    Font font = now ? *now : Font();
+    if (!cCommonDialog().VBChooseFont(font)) return;
+    box.SetText(font.Name);
+    Attempt([&] { SetRowValue(parts.BoundObject, key, std::make_shared<Font>(font)); });
+    parts.tmrUpdate.start();
+}
+
+void ChoosePicture(RowText& box) {
+    std::string path, title;
+    const FileOptions options = {PictureFilter, objSkin->SkinFolder(), PictureTitle, {}};
+    if (cCommonDialog().VBGetOpenFileName(path, title, options)) box.SetText(MakeSkinRelative(path));
+}
+
+RowText& BoxOf(PanelParts& parts, const ButtonTag& tag) {
+    if (tag.row < 1 || tag.row > parts.pools.tbx_Prop.Top())
+        throw Failure(9, "Properties", "Subscript out of range");
+    return parts.pools.tbx_Prop[tag.row];
+}
+
+}  // namespace
+
+void btn_Prop_Click(PanelParts& parts, int index) {
+    const ButtonTag tag = ButtonTag::Of(parts.pools.btn_Prop[index].Tag);
+    RowText& box = BoxOf(parts, tag);
+    if (tag.kind == KindColour) ChooseColour(box);
+    if (tag.kind == KindFont) ChooseFont(parts, box);
+    if (tag.kind == KindPicture) ChoosePicture(box);
+}
+
+void btn_PicEdit_Click(PanelParts& parts, int index) {
+    RowText& box = BoxOf(parts, ButtonTag::Of(parts.pools.btn_PicEdit[index].Tag));
+    std::string path = box.Text();
+    if (TrimBlanks(path).empty()) return;
+    if (!parts.windows.EditPicture(GetBaseName(path), path)) return;
+    box.SetText(GetFileName(path));
+    UpdateCurrentLayout(parts);
+}
 
 }  // namespace ornavo

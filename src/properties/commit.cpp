@@ -1,41 +1,142 @@
 // SPDX-License-Identifier: MIT
 #include "properties/commit.h"
 
+#include <algorithm>
+#include <array>
+
 #include "base/failure.h"
+#include "base/text.h"
+#include "document/codes.h"
+#include "document/current_skin.h"
+#include "editor/selection.h"
+#include "properties/live_update.h"
 #include "properties/panel_parts.h"
+#include "render/redraw.h"
+#include "render/style_builders.h"
 
 namespace ornavo {
 namespace {
 
-void Commit(PanelParts& parts, const std::string& key, const Value& value) {
+template <std::size_t N>
+bool IsOneOf(std::string_view key, const std::array<std::string_view, N>& keys) {
+    return std::find(keys.begin(), keys.end(), key) != keys.end();
+}
+
+// What nothing on the canvas shows.
+constexpr std::array<std::string_view, 4> UndrawnTexts = {"ElementName", "dbScript", "Value",
+                                                          "SP_SkinInformation.Value"};
+constexpr std::array<std::string_view, 2> UndrawnTicks = {"Resizer", "Dragger"};
+// What decides which rows there are.
+constexpr std::array<std::string_view, 2> RebuildingTicks = {"UseTopLeftTransparency",
+                                                             "CB_UseTopLeftTransparency"};
+constexpr std::array<std::string_view, 3> RebuildingLists = {"ActionType", "ElementType", "InfoType"};
+constexpr std::array<std::int32_t, 3> FixedTypes = {TypeMain, TypeSearchBox, TypeScrollbar};
+
+constexpr std::string_view KeyColourSuffix = "_TransparentColor";
+
+void Write(PanelParts& parts, const std::string& key, const Value& value) {
     Attempt([&] { SetRowValue(parts.BoundObject, key, value); });
-    parts.tmrUpdate.start();
+}
+
+/// A family's key colour follows its control: the control takes an edited one first.
+void TakeKeyColour(std::string_view key) {
+    const std::string_view preference = GetClass(key);
+    if (preference.ends_with(KeyColourSuffix))
+        TakeTransparentColor(preference.substr(0, preference.size() - KeyColourSuffix.size()));
+}
+
+/// False: the box was empty, and its new text has been committed instead.
+bool ShowColour(RowText& box) {
+    if (box.Text().empty()) {
+        box.setText(QStringLiteral("0"));
+        return false;
+    }
+    Attempt([&] { box.SetBackColor(Value(box.Text()).ToLong()); });
+    return true;
+}
+
+dbLayoutElementRef BoundElement(const PanelParts& parts) {
+    const auto* element = std::get_if<dbLayoutElementRef>(&parts.BoundObject);
+    return element ? *element : nullptr;
+}
+
+bool IsFixed(std::int32_t type) {
+    return std::find(FixedTypes.begin(), FixedTypes.end(), type) != FixedTypes.end();
+}
+
+/// False: such a change can't be, and the list is back where it was.
+bool MayChangeType(PanelParts& parts, RowCombo& combo) {
+    const dbLayoutElementRef element = BoundElement(parts);
+    if (!element) return false;
+    if (!IsFixed(combo.ListIndex()) && !IsFixed(element->ElementType)) return true;
+    const Raised building(parts.IsBuilding);
+    combo.SetListIndex(element->ElementType);
+    return false;
+}
+
+/// The selection jumps to an element of the list, seen or not.
+void ShowElement(PanelParts& parts, int listIndex) {
+    const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Item(listIndex + 1);
+    parts.BoundObject = element;
+    KeepPropertiesOpen = true;
+    parts.canvas.ResetSelection();
+    KeepPropertiesOpen = false;
+    SelControl = &ControlOf(*element);
+    SelKey = element->Key;
+    if (element->Visible) SelControl = parts.canvas.PlaceAnchors(SelControl, false);
+    parts.panel.ShowProperties();
 }
 
 }  // namespace
 
 void tbx_Prop_Change(PanelParts& parts, int index) {
     if (parts.IsBuilding) return;
-    const RowText& box = parts.pools.tbx_Prop[index];
-    Commit(parts, box.Tag, box.Text());
+    RowText& box = parts.pools.tbx_Prop[index];
+    const std::string key = box.Tag;
+    if (LowerText(key).find("color") != std::string::npos && !ShowColour(box)) return;
+    if (!GetClass(key).empty() && GetMethod(key) == "Font") return;
+    Write(parts, key, box.Text());
+    TakeKeyColour(key);
+    if (!IsOneOf(key, UndrawnTexts)) parts.tmrUpdate.start();
 }
 
 void tbx_Prop_KeyPress(PanelParts& parts, int index) {
     tbx_Prop_Change(parts, index);
 }
 
-void tbx_Prop_LostFocus(PanelParts&, int) {}
+void tbx_Prop_LostFocus(PanelParts& parts, int index) {
+    RowText& box = parts.pools.tbx_Prop[index];
+    const std::string_view preference = GetClass(box.Tag);
+    if (preference.empty()) return;
+    const dbSkinPrefRef pref = objSkin->dbSkinPrefs->Find(preference);
+    if (!pref || pref->PrefType < KindColour || pref->PrefType > KindValue) return;
+    if (pref->value.IsEmpty() || pref->value == Value("")) box.setText(QStringLiteral("0"));
+}
 
 void chk_Boolean_Click(PanelParts& parts, int index) {
     if (parts.IsBuilding) return;
     const RowCheck& box = parts.pools.chk_Boolean[index];
-    Commit(parts, box.Tag, box.Value());
+    const std::string key = box.Tag;
+    Write(parts, key, box.Value());
+    if (!IsOneOf(key, UndrawnTicks)) parts.tmrUpdate.start();
+    const std::string_view preference = GetClass(key);
+    if (IsOneOf(preference.empty() ? std::string_view(key) : preference, RebuildingTicks))
+        parts.panel.ShowProperties();
 }
 
 void cboProp_Click(PanelParts& parts, int index) {
     if (parts.IsBuilding) return;
-    const RowCombo& combo = parts.pools.cboProp(index);
-    Commit(parts, combo.Tag, combo.ListIndex());
+    RowCombo& combo = parts.pools.cboProp(index);
+    const std::string key = combo.Tag;
+    if (key == "ShowElement") {
+        Attempt([&] { ShowElement(parts, combo.ListIndex()); });
+        return;
+    }
+    if (key == "ElementType" && !MayChangeType(parts, combo)) return;
+    Write(parts, key, combo.ListIndex());
+    parts.tmrUpdate.start();
+    if (key == "ElementType") UpdateCurrentLayout(parts);
+    if (IsOneOf(key, RebuildingLists)) parts.panel.ShowProperties();
 }
 
 }  // namespace ornavo

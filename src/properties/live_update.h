@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// After the last of a run of edits the canvas shows them.
+// After the last of a run of edits the canvas shows them: by what is selected, one thing is drawn anew.
 #pragma once
 
 namespace ornavo {

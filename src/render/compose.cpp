@@ -8,6 +8,7 @@
 #include "render/compose_report.h"
 #include "render/element_button.h"
 #include "render/element_info.h"
+#include "render/element_roads.h"
 #include "render/kiosk_panel.h"
 #include "render/layout_host.h"
 #include "render/shape.h"
@@ -17,8 +18,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int OwnControl = -1;  // ControlIndex of an element that has a control of its own
-
 class ScreenLock {
 public:
     ScreenLock() { BeginScreenUpdate(); }
@@ -26,23 +25,6 @@ public:
     ScreenLock(const ScreenLock&) = delete;
     ScreenLock& operator=(const ScreenLock&) = delete;
 };
-
-/// Puts the control at its place and ties it to its element. False where there is nothing to show: the
-/// control is then nobody's.
-bool Claim(Control& control, const dbLayoutElement& element) {
-    control.Tag.clear();
-    const Rect bounds = GetElementRect(element, TargetFrame);
-    if (bounds.width < 1 || bounds.height < 1) return false;
-    control.Move(bounds);
-    control.Tag = element.Key;
-    return true;
-}
-
-/// The end of every road.
-void Present(Control& control, bool visible) {
-    control.ZOrder();
-    control.setVisible(visible);
-}
 
 /// A slot of a pool for the element, or -1 with the slot given back.
 template <class T>
@@ -74,13 +56,6 @@ void ComposeInfo(dbLayoutElement& element, LayoutHost& host, bool preview) {
     Present(host.pInfo[slot], element.Visible);
 }
 
-/// The single controls are shown before their size is known, and stay so when they have none.
-bool ClaimSingle(Control& control, dbLayoutElement& element) {
-    element.ControlIndex = OwnControl;
-    control.setVisible(true);
-    return Claim(control, element);
-}
-
 void ComposeMain(dbLayoutElement& element, LayoutHost& host, bool) {
     if (!ClaimSingle(host.pMain, element)) return;
     SetupMainPanel(host, element);
@@ -90,17 +65,11 @@ void ComposeMain(dbLayoutElement& element, LayoutHost& host, bool) {
 }
 
 void ComposeSearchBox(dbLayoutElement& element, LayoutHost& host, bool) {
-    if (!ClaimSingle(host.tbx_Search, element)) return;
-    SetupSearchElement(host.tbx_Search, element);
-    Present(host.tbx_Search, element.Visible);
+    ShowSearchBox(element, host);
 }
 
 void ComposeScrollframe(dbLayoutElement& element, LayoutHost& host, bool) {
-    if (!ClaimSingle(host.Scrollframe, element)) return;
-    host.Scrollframe.Reset();
-    SetupScrollElement(host, element);
-    Present(host.Scrollframe, element.Visible);
-    Present(host.ScrollBar, element.Visible);
+    ShowScrollframe(element, host);
 }
 
 using Road = void (*)(dbLayoutElement&, LayoutHost&, bool preview);

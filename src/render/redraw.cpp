@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "render/redraw.h"
+
+#include <array>
+
+#include "document/codes.h"
+#include "render/element_button.h"
+#include "render/element_info.h"
+#include "render/element_roads.h"
+#include "render/kiosk_panel.h"
+#include "render/standard_elements.h"
+#include "render/target.h"
+
+namespace ornavo {
+namespace {
+
+/// The element's own slot, or a free one: another element may have got the slot that was given back.
+template <class T>
+T& SlotOf(Pool<T>& pool, dbLayoutElement& element) {
+    const int slot = element.ControlIndex;
+    if (slot >= 1 && slot <= pool.Top() && (pool[slot].Tag == element.Key || pool[slot].Tag.empty()))
+        return pool[slot];
+    element.ControlIndex = pool.GetFree();
+    T& fresh = pool[element.ControlIndex];
+    fresh.setVisible(false);
+    return fresh;
+}
+
+bool ClaimOrHide(Control& control, const dbLayoutElement& element) {
+    if (Claim(control, element)) return true;
+    control.setVisible(false);
+    return false;
+}
+
+void RedrawMain(dbLayoutElement& element, LayoutHost& host) {
+    if (!ClaimSingle(host.pMain, element)) return;
+    SetupMainPanel(host, element);
+    LayoutKioskPanel();
+}
+
+void RedrawButton(dbLayoutElement& element, LayoutHost& host) {
+    TileButton& button = SlotOf(host.Element, element);
+    if (!ClaimOrHide(button, element)) return;
+    SetupElementButton(button, element, false);
+    button.setVisible(element.Visible);
+}
+
+void RedrawInfo(dbLayoutElement& element, LayoutHost& host) {
+    PictureBox& box = SlotOf(host.pInfo, element);
+    if (!ClaimOrHide(box, element)) return;
+    SetupInfoElement(box, element, false);
+    box.setVisible(element.Visible);
+}
+
+using Road = void (*)(dbLayoutElement&, LayoutHost&);
+constexpr std::array<Road, 7> Roads = {RedrawMain, RedrawButton,  RedrawButton,   RedrawButton,
+                                       RedrawInfo, ShowSearchBox, ShowScrollframe};
+
+Control& HostOf(dbLayoutElement& element, LayoutHost& host) {
+    switch (element.ElementType) {
+        case TypeMain:
+            return host.pMain;
+        case TypeInfo:
+            return SlotOf(host.pInfo, element);
+        case TypeSearchBox:
+            return host.tbx_Search;
+        case TypeScrollbar:
+            return host.Scrollframe;
+        default:
+            return SlotOf(host.Element, element);
+    }
+}
+
+}  // namespace
+
+Control& ControlOf(dbLayoutElement& element) {
+    Control& control = HostOf(element, TargetForm->host());
+    control.Tag = element.Key;
+    return control;
+}
+
+void RedrawElement(dbLayoutElement& element) {
+    const auto type = static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table
+    if (type < Roads.size()) Roads[type](element, TargetForm->host());
+}
+
+}  // namespace ornavo
