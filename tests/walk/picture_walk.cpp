@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+// A picture of a skin is recoloured through the real windows: sliders, presets, both kinds of file, once more
+// from the kept source, and cancelled.
+#include <QBuffer>
+#include <QSettings>
+
+#include "pixels/ccolourise.h"
+#include "walk/walk_test.h"
+
+namespace ornavo::walk {
+namespace {
+
+constexpr QRgb SourceColour = 0xFF5A1EC8, KnobColour = 0xFF2F5F9E;
+constexpr QPoint InPicture = {60, 90};  // from the corner of the dialog's inside, in the source's box
+constexpr QSize DialogSize = {1000, 660};
+constexpr int PictureSize = 200;  // pixels
+
+QRgb Recoloured(int hue, int saturation) {
+    const QRgb pixel = SourceColour;
+    cDIBSection dib;
+    dib.CreateFromPicture(reinterpret_cast<const std::uint8_t*>(&pixel), 1, 1, 4);
+    cColourise engine;
+    engine.Hue = hue;
+    engine.Saturation = saturation;
+    engine.ProcessByRule(dib, dib);
+    const std::uint8_t* bits = dib.DIBSectionBitsPtr();
+    return qRgb(bits[2], bits[1], bits[0]);
+}
+
+class PictureWalk : public WalkTest {
+protected:
+    void MakeSkin();
+    void OpenEditor();
+    void DragKnob(int by);
+    void SavePreset(const char* name);
+    void WaitForResult(int hue, int saturation);
+    QRgb ResultPixel() const { return desktop_.Pixel(Inside() + QPoint(DialogSize.width() / 2, 0)); }
+    QPoint Inside() const { return dialog_.topLeft() + InPicture; }
+    void Keys(const QStringList& keys) { desktop_.Key(keys); }
+    void FirstTime();
+    void SecondTime();
+    void Cancelled();
+    void Close();
+
+    QString Path(const QString& file) const { return desktop_.Home() + "/ornavo/Skins/Walk/" + file; }
+    QStringList Files() const;
+    QByteArray Bytes(const QString& file) const;
+    QString Setting(const QString& key) const;
+    QRgb PixelOf(const QString& file) const { return QImage(Path(file)).pixel(7, 7); }
+
+    QRect dialog_;
+    QByteArray source_;
+};
+
+QByteArray PictureWalk::Bytes(const QString& file) const {
+    QFile opened(Path(file));
+    EXPECT_TRUE(opened.open(QIODevice::ReadOnly)) << file.toStdString();
+    return opened.readAll();
+}
+
+QStringList PictureWalk::Files() const {
+    QStringList files = QDir(Path("")).entryList(QDir::Files, QDir::Name);
+    for (const QString& kept : QDir(Path("Original")).entryList(QDir::Files, QDir::Name))
+        files += "Original/" + kept;
+    return files;
+}
+
+QString PictureWalk::Setting(const QString& key) const {
+    const QString file = desktop_.Home() + "/Ornavo/Ornavo for Quillmar's Jukebox 3.2.ini";
+    return QSettings(file, QSettings::IniFormat).value("Picture-Editor/" + key, "-").toString();
+}
+
+/// A skin of one button that shows one picture.
+void PictureWalk::MakeSkin() {
+    ASSERT_TRUE(QDir().mkpath(Path("")));
+    QImage picture(PictureSize, PictureSize, QImage::Format_RGB32);
+    picture.fill(SourceColour);
+    ASSERT_TRUE(picture.save(Path("a.png")));
+    source_ = Bytes("a.png");
+    QFile file(Path("SkinSettings.xml"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QByteArray text;
+    for (const QByteArray line : {"<Skin>",
+                                  "<SkinName>Walk</SkinName>",
+                                  "<SkinWidth>800</SkinWidth>",
+                                  "<SkinHeight>600</SkinHeight>",
+                                  "<Layouts>",
+                                  "<Layout>",
+                                  "<Key>Standard</Key>",
+                                  "<LayoutName>Standard</LayoutName>",
+                                  "<Elements>",
+                                  "<Element>",
+                                  "<Key>E1</Key>",
+                                  "<ElementName>One</ElementName>",
+                                  "<Order>1</Order>",
+                                  "<ElementType>2</ElementType>",
+                                  "<LeftX>100</LeftX>",
+                                  "<TopY>100</TopY>",
+                                  "<WidthX>200</WidthX>",
+                                  "<HeightY>200</HeightY>",
+                                  "<LockLeft>True</LockLeft>",
+                                  "<LockTop>True</LockTop>",
+                                  "<Visible>True</Visible>",
+                                  "<PicNormal>a.png</PicNormal>",
+                                  "</Element>",
+                                  "</Elements>",
+                                  "</Layout>",
+                                  "</Layouts>",
+                                  "</Skin>"})
+        text += line + "\r\n";
+    file.write(text);
+}
+
+void PictureWalk::OpenEditor() {
+    desktop_.Activate(desktop_.Window("^Row$"));
+    desktop_.Key({"Return"});
+    const QString window = desktop_.Window("^Picture Editor$");
+    desktop_.WaitForFocus("Picture Editor");
+    if (desktop_.Inside(window).size() != DialogSize) desktop_.Resize(window, DialogSize);
+    dialog_ = desktop_.Inside(window);
+    desktop_.ParkPointer();
+    desktop_.WaitFor("the source", [&] { return desktop_.Pixel(Inside()) == SourceColour; });
+}
+
+/// That of the slider which has the focus: nothing else has its colour in the lower part.
+void PictureWalk::DragKnob(int by) {
+    QPoint knob;
+    desktop_.WaitFor("a knob", [&] {
+        const QImage screen = desktop_.Picture();
+        for (int y = dialog_.top() + dialog_.height() / 2; y < dialog_.bottom(); ++y)
+            for (int x = dialog_.left(); x < dialog_.left() + dialog_.width() / 2; ++x)
+                if (screen.pixel(x, y) == KnobColour) {
+                    knob = {x + 3, y + 9};
+                    return true;
+                }
+        return false;
+    });
+    const QRgb before = ResultPixel();
+    desktop_.Press(knob);
+    for (const int step : {by / 2, by}) desktop_.MoveTo(knob + QPoint(step, 0));
+    desktop_.Release();
+    desktop_.ParkPointer();
+    desktop_.WaitFor("another colour", [&] { return ResultPixel() != before; });
+}
+
+void PictureWalk::SavePreset(const char* name) {
+    Keys({"alt+a"});
+    desktop_.WaitForFocus("Save preset");
+    desktop_.Type(name);
+    Keys({"Return"});
+    desktop_.WaitForFocus("Picture Editor");
+}
+
+void PictureWalk::WaitForResult(int hue, int saturation) {
+    const QRgb expected = Recoloured(hue, saturation);
+    desktop_.WaitFor("the result of " + std::to_string(hue) + ' ' + std::to_string(saturation),
+                     [&] { return ResultPixel() == expected; });
+}
+
+void PictureWalk::Close() {
+    desktop_.Activate(desktop_.Window("^Row$"));
+    Keys({"alt+F4"});
+    EXPECT_EQ(desktop_.ProgramEnd(), 0);
+}
+
+/// Presets come and go, and the result is saved as a BMP.
+void PictureWalk::FirstTime() {
+    OpenEditor();
+    WaitForResult(100, 100);
+    DragKnob(60);
+    Keys({"Home", "Page_Up", "Page_Up", "Right"});
+    WaitForResult(17, 100);
+    Keys({"Tab", "End", "Left"});
+    WaitForResult(17, 254);
+    SavePreset("Sea");
+    Keys({"Home"});
+    SavePreset("Grey");
+    WaitForResult(17, 0);
+    Keys({"Tab", "Down", "Up"});  // into the list, to the second preset and back
+    WaitForResult(17, 254);
+    Keys({"alt+d", "Return"});
+    desktop_.WaitUntilGone("^Picture Editor$");
+    EXPECT_EQ(Files(), (QStringList{"SkinSettings.xml", "a.bmp", "a.png", "Original/a.png"}));
+    EXPECT_EQ(Bytes("a.bmp").size(), 54 + PictureSize * PictureSize * 3);
+    EXPECT_EQ(PixelOf("a.bmp"), Recoloured(17, 254));
+}
+
+/// From the kept source once more; a JPEG takes the place of the BMP.
+void PictureWalk::SecondTime() {
+    OpenEditor();
+    WaitForResult(17, 254);
+    Keys({"End"});
+    WaitForResult(255, 254);
+    Keys({"Tab", "Tab", "space"});  // into the list, to its one preset
+    WaitForResult(17, 0);
+    Keys({"Tab", "Tab", "Tab", "Tab", "Right", "Return"});  // over the buttons and the name to the kinds
+    desktop_.WaitUntilGone("^Picture Editor$");
+    EXPECT_EQ(Files(), (QStringList{"SkinSettings.xml", "a.jpg", "a.png", "Original/a.png"}));
+    const QRgb saved = PixelOf("a.jpg"), expected = Recoloured(17, 0);
+    for (const int shift : {0, 8, 16}) EXPECT_NEAR(saved >> shift & 255, expected >> shift & 255, 3);
+}
+
+void PictureWalk::Cancelled() {
+    OpenEditor();
+    const QStringList files = Files();
+    const QByteArray jpeg = Bytes("a.jpg");
+    Keys({"Page_Up"});
+    WaitForResult(25, 0);
+    Keys({"Escape"});
+    desktop_.WaitUntilGone("^Picture Editor$");
+    EXPECT_EQ(Files(), files);
+    EXPECT_EQ(Bytes("a.jpg"), jpeg);
+}
+
+TEST_F(PictureWalk, Recolour) {
+    MakeSkin();
+    desktop_.StartProgram({desktop_.Home() + "/ornavo/Skins", "Walk"}, ORNAVO_BINARY_DIR "/picture_row");
+    FirstTime();
+    SecondTime();
+    Cancelled();
+    Close();
+    EXPECT_EQ(Bytes("Original/a.png"), source_);
+    EXPECT_TRUE(Bytes("SkinSettings.xml").contains("<PicNormal>a.jpg</PicNormal>"));
+    const std::pair<const char*, const char*> settings[] = {
+        {"Hue", "17"},           {"Saturation", "0"}, {"SaveAsBMP", "False"}, {"PresetCount", "1"},
+        {"PresetName1", "Grey"}, {"HUE1", "17"},      {"Sat1", "0"},          {"PresetName2", "-"}};
+    for (const auto& [key, value] : settings) EXPECT_EQ(Setting(key), value) << key;
+}
+
+}  // namespace
+}  // namespace ornavo::walk
