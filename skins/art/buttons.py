@@ -153,6 +153,22 @@ def lens(pen):
     pen.stroke()
 
 
+def pencil(pen):
+    """Large strokes, for it is shown at twelve pixels."""
+    pen.save()
+    pen.translate(16, 16)
+    pen.rotate(0.785)
+    for colour, points in ((style.AMBER, ((-5, -9), (5, -9), (5, 9), (-5, 9))), (INK, ((-5, 10), (5, 10), (0, 19))),
+                           (INK, ((-5, -16), (5, -16), (5, -10), (-5, -10)))):
+        pen.new_path()
+        for point in points:
+            pen.line_to(*point)
+        pen.close_path()
+        style.solid(pen, colour)
+        pen.fill()
+    pen.restore()
+
+
 PICTURES = {  # name: (how it is drawn on 32 by 32, its edge in pixels)
     "add_button": (button, 32),
     "add_graphic": (graphic, 32),
@@ -164,6 +180,7 @@ PICTURES = {  # name: (how it is drawn on 32 by 32, its edge in pixels)
     "preview": (simple("play", INK), 16),
     "reset_view": (simple("maximise", INK), 16),
     "magnifier": (lens, 16),
+    "edit_picture": (pencil, 12),
 }
 
 

@@ -1,30 +1,49 @@
 // SPDX-License-Identifier: MIT
 #include "properties/frm_properties.h"
 
+#include <QScreen>
+#include <QScrollBar>
+#include <algorithm>
+
 #include "base/failure.h"
+#include "document/current_skin.h"
+#include "document/shape_edits.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
+#include "platform/screen.h"
 #include "properties/choosers.h"
 #include "properties/commit.h"
+#include "properties/element_sheet.h"
 #include "properties/live_update.h"
+#include "properties/pref_sheet.h"
+#include "properties/rows.h"
 
 namespace ornavo {
 namespace {
 
 constexpr int UpdateInterval = 100;  // milliseconds
+constexpr int LeastWidth = 200;      // pixels
+
+/// Title and frame, pixels. The desktop tells them only of a window that it has shown.
+int FrameHeight(const QWidget& window) {
+    const ScreenMetrics& metrics = screenMetrics();
+    return std::max(window.frameGeometry().height() - window.height(),
+                    2 * metrics.SM_CYFRAME + metrics.SM_CYSMCAPTION);
+}
 
 }  // namespace
 
 frm_Properties::frm_Properties(QWidget* owner, Windows& windows, Canvas& canvas)
-    : Form(owner, "frm_Properties", Qt::Tool), scroll_(this), pools_(sheet_, *this), parts_{*this,     canvas,
-                                                                                            windows,   pools_,
-                                                                                            tmrUpdate, false,
-                                                                                            {}} {
+    : Form(owner, "frm_Properties", Qt::Tool),
+      scroll_(this),
+      sheet_(scroll_),
+      pools_(sheet_, *this),
+      parts_{*this, canvas, windows, pools_, tmrUpdate} {
     setWindowTitle(QStringLiteral("Properties"));
     setAttribute(Qt::WA_ShowWithoutActivating);
     scroll_.setFrameShape(QFrame::NoFrame);
     scroll_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll_.setWidget(&sheet_);
+    setMinimumWidth(LeastWidth);
     tmrUpdate.setInterval(UpdateInterval);
     tmrUpdate.setSingleShot(true);
     connect(&tmrUpdate, &QTimer::timeout, this, [this] { tmrUpdate_Timer(parts_); });
@@ -34,7 +53,6 @@ frm_Properties::frm_Properties(QWidget* owner, Windows& windows, Canvas& canvas)
 frm_Properties::~frm_Properties() {
     parts_.IsBuilding = true;
     hide();
-    scroll_.takeWidget();
 }
 
 void frm_Properties::Form_Load() {
@@ -73,10 +91,65 @@ void frm_Properties::Open() {
 void frm_Properties::ShowProperties() {
     if (!SelControl) return;
     const Raised building(parts_.IsBuilding);
+    BeginScreenUpdate();
+    sheet_.setUpdatesEnabled(false);
+    const RowValue* focused = sheet_.Focused();
+    const std::string key = focused ? focused->key : "";
+    const auto* box = focused ? dynamic_cast<QLineEdit*>(focused->control) : nullptr;
+    const int cursor = box ? box->cursorPosition() : 0;
+    // A row that is hidden would hand the focus on to the next one, all the way down.
+    if (focused) focused->control->clearFocus();
     UnloadProperties();
+    Build(SheetOf(*SelControl));
+    if (focused) sheet_.Focus(key);
+    if (const RowValue* again = sheet_.Focused())
+        if (auto* text = dynamic_cast<QLineEdit*>(again->control)) text->setCursorPosition(cursor);
+    sheet_.setUpdatesEnabled(true);
+    EndScreenUpdate();
+}
+
+Sheet frm_Properties::SheetOf(const Control& control) {
+    if (control.Name == "cPointMover") {
+        const dbPointRef point = objCurrentLayout->dbPoints->GetFromOrder(OrderOfTag(control.Tag));
+        parts_.BoundObject = point;
+        return point ? PointSheet(*point) : Sheet();
+    }
+    if (ShowsElement(control.Name)) {
+        const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(control.Tag);
+        parts_.BoundObject = element;
+        return element ? ElementSheet(control.Name, *element) : Sheet();
+    }
+    return SampleSheet(*objSkin->dbSkinPrefs, control.Name, control.Bounds());
+}
+
+void frm_Properties::Build(const Sheet& sheet) {
+    FitHeight(static_cast<int>(sheet.size()));
+    const int height = static_cast<int>(sheet.size()) * RowPitch - 1;
+    const bool scrolls = height > MostHeight();
+    const int scaleWidth = ScaleWidth() - (scrolls ? scroll_.verticalScrollBar()->sizeHint().width() : 0);
+    sheet_.resize(scaleWidth, std::max(height, 0));
+    Rows rows(pools_, scaleWidth);
+    for (const SheetRow& row : sheet) rows.AddProperties(row);
+    sheet_.SetValues(rows.Values());
+}
+
+/// What the screen has room for, pixels inside.
+int frm_Properties::MostHeight() const {
+    return screen()->availableGeometry().height() - FrameHeight(*this);
+}
+
+/// The height follows from the rows; a panel that would leave the screen below moves up.
+void frm_Properties::FitHeight(int rows) {
+    // The line below the last row is the window's edge.
+    const int wanted = std::clamp(rows * RowPitch - 1, RowPitch, std::max(MostHeight(), RowPitch));
+    if (wanted != height() || wanted != minimumHeight()) setFixedHeight(wanted);
+    const QRect room = screen()->availableGeometry();
+    const int tooLow = y() + wanted + FrameHeight(*this) - 1 - room.bottom();
+    if (tooLow > 0) move(x(), std::max(y() - tooLow, room.top()));
 }
 
 void frm_Properties::UnloadProperties() {
+    sheet_.SetValues({});
     pools_.UnloadProperties();
 }
 
@@ -90,6 +163,13 @@ void frm_Properties::EnterPressed(int index) {
 
 void frm_Properties::FocusLost(int index) {
     if (!parts_.IsBuilding) tbx_Prop_LostFocus(parts_, index);
+}
+
+void frm_Properties::ButtonWanted(int index) {
+    for (int i = 1; i <= pools_.btn_Prop.Top(); ++i) {
+        TileCommand& button = pools_.btn_Prop[i];
+        if (!button.Tag.empty() && ButtonTag::Of(button.Tag).row == index) return button.PerformClick();
+    }
 }
 
 void frm_Properties::CheckClicked(int index) {

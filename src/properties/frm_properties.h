@@ -7,6 +7,8 @@
 
 #include "platform/form.h"
 #include "properties/panel_parts.h"
+#include "properties/row_sheet.h"
+#include "properties/sheet_row.h"
 
 namespace ornavo {
 
@@ -19,7 +21,7 @@ public:
 
     void Open() override;
     void ShowProperties() override;
-    void UnloadProperties() override;
+    void UnloadProperties() override;  // every row goes
     void Hide() override { hide(); }
     bool IsShown() const override { return isVisible(); }
 
@@ -33,17 +35,22 @@ protected:
 
 private:
     void Form_Load();
+    Sheet SheetOf(const Control& control);
+    void Build(const Sheet& sheet);
+    void FitHeight(int rows);
+    int MostHeight() const;
 
     void TextChanged(int index) override;
     void EnterPressed(int index) override;
     void FocusLost(int index) override;
+    void ButtonWanted(int index) override;
     void CheckClicked(int index) override;
     void ComboClicked(int index) override;
     void ButtonClicked(int index) override;
     void PicEditClicked(int index) override;
 
     QScrollArea scroll_;
-    QWidget sheet_;
+    RowSheet sheet_;
     RowPools pools_;
     PanelParts parts_;
 };

@@ -17,7 +17,7 @@ struct PanelParts {
     RowPools& pools;
     QTimer& tmrUpdate;        // 100 ms after the last edit, one shot
     bool IsBuilding = false;  // code fills the rows; nothing that changes in them is an edit
-    BoundObjectRef BoundObject;
+    BoundObjectRef BoundObject = {};
 };
 
 }  // namespace ornavo

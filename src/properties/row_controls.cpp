@@ -70,6 +70,10 @@ RowCombo::RowCombo(QWidget* frame, int index) : QComboBox(frame), Index(index) {
     setFont(RowFont(false));
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(ListRows);
+    // Clipped, it has no edge: its ground is that of the text boxes.
+    QPalette colours = palette();
+    colours.setBrush(QPalette::Button, colours.base());
+    setPalette(colours);
 }
 
 void RowCombo::SetListIndex(int index) {

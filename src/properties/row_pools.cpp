@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 namespace ornavo {
@@ -10,20 +11,27 @@ namespace {
 
 constexpr int ButtonWidth = 18, ButtonHeight = 16, EditPictureSize = 12;  // pixels
 
-/// Tells of a text box that is left, but not for a menu or a list of its own.
-class LeaveFilter : public QObject {
+/// Tells of a text box that is left, but not for a menu or a list of its own, and of the keys for its button.
+class BoxFilter : public QObject {
 public:
-    LeaveFilter(RowText& box, RowEvents& events) : QObject(&box), box_(box), events_(events) {
+    BoxFilter(RowText& box, RowEvents& events) : QObject(&box), box_(box), events_(events) {
         box.installEventFilter(this);
     }
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() == QEvent::FocusOut &&
             static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
             events_.FocusLost(box_.Index);
-        return false;
+        if (event->type() != QEvent::KeyPress || !OpensButton(*static_cast<QKeyEvent*>(event))) return false;
+        events_.ButtonWanted(box_.Index);
+        return true;
     }
 
 private:
+    // The keys that open a list.
+    static bool OpensButton(const QKeyEvent& key) {
+        return key.key() == Qt::Key_F4 || (key.key() == Qt::Key_Down && key.modifiers() & Qt::AltModifier);
+    }
+
     RowText& box_;
     RowEvents& events_;
 };
@@ -32,7 +40,7 @@ RowText* MakeText(QWidget& sheet, RowEvents& events, int index) {
     auto* box = new RowText(&sheet, index);
     QObject::connect(box, &QLineEdit::textChanged, box, [&events, index] { events.TextChanged(index); });
     QObject::connect(box, &QLineEdit::returnPressed, box, [&events, index] { events.EnterPressed(index); });
-    new LeaveFilter(*box, events);
+    new BoxFilter(*box, events);
     return box;
 }
 

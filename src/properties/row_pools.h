@@ -15,6 +15,7 @@ public:
     virtual void TextChanged(int index) = 0;
     virtual void EnterPressed(int index) = 0;
     virtual void FocusLost(int index) = 0;
+    virtual void ButtonWanted(int index) = 0;  // by key, from a text box
     virtual void CheckClicked(int index) = 0;
     virtual void ComboClicked(int index) = 0;
     virtual void ButtonClicked(int index) = 0;

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "properties/row_sheet.h"
+
+#include <QPainter>
+#include <QScrollArea>
+#include <algorithm>
+
+namespace ornavo {
+
+RowSheet::RowSheet(QScrollArea& scroll) : scroll_(scroll) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    scroll.setWidget(this);
+}
+
+RowSheet::~RowSheet() {
+    scroll_.takeWidget();
+}
+
+const RowValue* RowSheet::Focused() const {
+    const auto found = std::find_if(values_.begin(), values_.end(), [](const RowValue& value) {
+        return value.control->window()->focusWidget() == value.control;
+    });
+    return found == values_.end() ? nullptr : &*found;
+}
+
+void RowSheet::Focus(std::string_view key) {
+    const auto found =
+        std::find_if(values_.begin(), values_.end(), [&](const RowValue& value) { return value.key == key; });
+    if (found == values_.end()) return;
+    found->control->setFocus(Qt::OtherFocusReason);
+    scroll_.ensureWidgetVisible(found->control, 0, RowPitch);
+}
+
+bool RowSheet::focusNextPrevChild(bool next) {
+    if (values_.empty()) return false;
+    const auto count = static_cast<std::ptrdiff_t>(values_.size());
+    const RowValue* focused = Focused();
+    std::ptrdiff_t at = next ? 0 : count - 1;
+    if (focused) at = (focused - values_.data() + (next ? 1 : count - 1)) % count;
+    QWidget* control = values_[static_cast<std::size_t>(at)].control;
+    control->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    scroll_.ensureWidgetVisible(control, 0, RowPitch);
+    return true;
+}
+
+void RowSheet::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(0, 0, CaptionWidth, height(), palette().window());
+    painter.fillRect(CaptionWidth, 0, width() - CaptionWidth, height(), palette().base());
+    for (int bottom = RowPitch - 1; bottom < height(); bottom += RowPitch)
+        painter.fillRect(0, bottom, width(), 1, palette().mid());
+}
+
+}  // namespace ornavo

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+#include "properties/rows.h"
+
+#include <span>
+
+#include "base/failure.h"
+#include "document/current_skin.h"
+#include "properties/row_binding.h"
+
+namespace ornavo {
+namespace {
+
+constexpr int ValueOverhang = 20, RowHeight = RowPitch - 1;  // a line parts it from the next
+constexpr QSize CheckSize = {14, 14};
+constexpr QRect ComboPlace = {-2, -5, -16, 24};  // in its frame; the width is added to that of a value
+constexpr const char* Undefined = "<undefined>";
+
+QString Shown(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+struct List {
+    int kind;
+    std::span<const std::string_view> names;
+};
+constexpr List Lists[] = {
+    {KindHAlign, HAlignNames},         {KindVAlign, VAlignNames},     {KindElementType, ElementTypeNames},
+    {KindActionType, ActionTypeNames}, {KindInfoType, InfoTypeNames}, {KindHorizontal, HorizontalNames},
+    {KindVertical, VerticalNames},
+};
+
+/// The elements of the current layout, and the position of the one with the key.
+int FillElements(QStringList& items, const std::string& key) {
+    int chosen = -1;
+    for (const dbLayoutElementRef& element : *objCurrentLayout->dbLayoutElements) {
+        if (element->Key == key) chosen = static_cast<int>(items.size());
+        items += Shown(element->ElementName) + QLatin1String(element->Visible ? "" : " (hidden)");
+    }
+    return chosen;
+}
+
+}  // namespace
+
+Rows::Rows(RowPools& pools, int scaleWidth)
+    : pools_(pools), scaleWidth_(scaleWidth), valueWidth_(scaleWidth - CaptionWidth + ValueOverhang) {}
+
+Rows::Maker Rows::MakerOf(std::int32_t kind) {
+    switch (kind) {
+        case KindBoolean:
+            return &Rows::AddBoolean;
+        case KindColour:
+            return &Rows::AddColour;
+        case KindNumber:
+        case KindValue:
+        case KindText:
+            return &Rows::AddText;
+        case KindFont:
+            return &Rows::AddFont;
+        case KindPicture:
+            return &Rows::AddPicture;
+        case KindHAlign:
+        case KindVAlign:
+        case KindElementType:
+        case KindActionType:
+        case KindElementList:
+        case KindInfoType:
+        case KindHorizontal:
+        case KindVertical:
+            return &Rows::AddList;
+        default:
+            return nullptr;
+    }
+}
+
+void Rows::AddProperties(const SheetRow& row) {
+    AddCaption(row);
+    if (const Maker maker = MakerOf(row.kind)) Attempt([&] { (this->*maker)(row); });
+    NextRowTop += RowPitch;
+    ++RowCount;
+}
+
+void Rows::AddCaption(const SheetRow& row) {
+    const bool heading = row.kind == KindHeading;
+    RowLabel& label = pools_.lbl_Prop[pools_.LoadLabel()];
+    // A heading has no key, and a label without a Tag would be free.
+    label.Tag = heading ? "Label" : row.key;
+    label.setText(QLatin1String(heading ? " " : "  ") + Shown(row.caption));
+    label.SetHeading(heading);
+    label.setGeometry(0, NextRowTop, heading ? scaleWidth_ : CaptionWidth, RowHeight);
+    label.raise();
+    label.show();
+}
+
+RowText& Rows::Box(const SheetRow& row, int width) {
+    RowText& box = pools_.tbx_Prop[pools_.LoadTextbox()];
+    box.Tag = row.key;
+    box.SetText("");
+    box.setFocusPolicy(row.kind == KindBoolean ? Qt::NoFocus : Qt::StrongFocus);
+    box.setAccessibleName(Shown(row.caption));
+    box.setGeometry(CaptionWidth, NextRowTop, width, RowHeight);
+    box.show();
+    if (row.kind != KindBoolean) values_.push_back({row.key, &box});
+    return box;
+}
+
+TileCommand& Rows::Button(TileCommand& button, const SheetRow& row, const RowText& box, int left) {
+    button.Tag = ButtonTag{row.kind, box.Index, row.key}.Text();
+    button.setAccessibleName(Shown(row.caption) + ": " + button.toolTip());
+    button.move(left, NextRowTop - 1);
+    button.raise();
+    button.show();
+    return button;
+}
+
+TileCommand& Rows::SelectButton(const SheetRow& row, const RowText& box) {
+    TileCommand& button = pools_.btn_Prop[pools_.LoadButton()];
+    return Button(button, row, box, scaleWidth_ - button.width());
+}
+
+void Rows::AddBoolean(const SheetRow& row) {
+    RowText& ground = Box(row, valueWidth_);
+    ground.SetLocked(true);
+    RowCheck& check = pools_.chk_Boolean[pools_.LoadCheckBox()];
+    check.Tag = row.key;
+    check.setAccessibleName(Shown(row.caption));
+    check.setGeometry(QRect(QPoint(CaptionWidth + 3, NextRowTop + 1), CheckSize));
+    check.raise();
+    check.show();
+    values_.push_back({row.key, &check});
+    check.SetValue(false);
+    check.SetValue(row.value.ToBoolean());
+}
+
+void Rows::AddColour(const SheetRow& row) {
+    RowText& box = Box(row, valueWidth_);
+    SelectButton(row, box);
+    box.SetText(row.value.ToText());
+    box.SetBackColor(row.value.ToLong());
+}
+
+void Rows::AddText(const SheetRow& row) {
+    RowText& box = Box(row, valueWidth_ - ValueOverhang);
+    box.SetText(row.value.ToText());
+}
+
+void Rows::AddFont(const SheetRow& row) {
+    RowText& box = Box(row, valueWidth_);
+    box.SetLocked(true);
+    SelectButton(row, box);
+    const std::string name = row.value.Is<FontRef>()
+                                 ? (row.value.As<FontRef>() ? row.value.As<FontRef>()->Name : "")
+                                 : row.value.ToText();
+    box.SetText(name.empty() ? Undefined : name);
+}
+
+void Rows::AddPicture(const SheetRow& row) {
+    const int buttonWidth = pools_.btn_Prop[0].width();
+    RowText& box = Box(row, valueWidth_ - buttonWidth);
+    SelectButton(row, box);
+    TileCommand& edit = pools_.btn_PicEdit[pools_.LoadPicEdit()];
+    Button(edit, row, box, scaleWidth_ - edit.width() - buttonWidth);
+    box.SetText(row.value.ToText());
+}
+
+void Rows::AddList(const SheetRow& row) {
+    RowFrame& frame = pools_.cboPic[pools_.LoadCombo()];
+    frame.Tag = row.key;
+    frame.Move({CaptionWidth, NextRowTop, valueWidth_, RowHeight});
+    RowCombo& combo = frame.cboProp;
+    combo.Tag = row.key;
+    combo.setAccessibleName(Shown(row.caption));
+    combo.setGeometry(ComboPlace.x(), ComboPlace.y(), valueWidth_ + ComboPlace.width(), ComboPlace.height());
+    frame.show();
+    combo.show();
+    values_.push_back({row.key, &combo});
+    FillList(combo, row);
+}
+
+void Rows::FillList(RowCombo& combo, const SheetRow& row) {
+    QStringList items;
+    if (row.kind == KindElementList) {
+        const int chosen = FillElements(items, row.value.ToText());
+        combo.addItems(items);
+        return combo.SetListIndex(chosen);
+    }
+    for (const List& list : Lists)
+        if (list.kind == row.kind)
+            for (const std::string_view name : list.names)
+                items += QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
+    combo.addItems(items);
+    combo.SetListIndex(-1);
+    combo.SetListIndex(row.value.ToLong());
+}
+
+}  // namespace ornavo

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// A row takes its controls from the pools: which ones its kind needs, and where they stand.
+#pragma once
+
+#include "document/dblayouts.h"
+#include "properties/row_pools.h"
+#include "properties/row_sheet.h"
+#include "properties/sheet_row.h"
+
+namespace ornavo {
+
+class Rows {
+public:
+    /// `scaleWidth` is the width of the sheet, pixels.
+    Rows(RowPools& pools, int scaleWidth);
+
+    int RowCount = 0;
+    int NextRowTop = 0;  // pixels
+
+    /// Appends one row. What fails (a value that is no colour, a place in no list) is left out.
+    void AddProperties(const SheetRow& row);
+    /// The values of all rows from the top, as the Tab key walks them.
+    const std::vector<RowValue>& Values() const { return values_; }
+
+private:
+    using Maker = void (Rows::*)(const SheetRow&);
+    static Maker MakerOf(std::int32_t kind);
+
+    void AddCaption(const SheetRow& row);
+    void AddBoolean(const SheetRow& row);
+    void AddColour(const SheetRow& row);
+    void AddText(const SheetRow& row);
+    void AddFont(const SheetRow& row);
+    void AddPicture(const SheetRow& row);
+    void AddList(const SheetRow& row);
+    void FillList(RowCombo& combo, const SheetRow& row);
+
+    RowText& Box(const SheetRow& row, int width);
+    TileCommand& Button(TileCommand& button, const SheetRow& row, const RowText& box, int left);
+    TileCommand& SelectButton(const SheetRow& row, const RowText& box);
+
+    RowPools& pools_;
+    const int scaleWidth_;
+    const int valueWidth_;
+    std::vector<RowValue> values_;
+};
+
+}  // namespace ornavo
