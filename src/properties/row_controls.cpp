@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "properties/row_controls.h"
 
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 #include "base/failure.h"
@@ -63,6 +65,13 @@ void RowText::SetBackColor(Colour colour) {
 RowCheck::RowCheck(QWidget* sheet, int index) : QCheckBox(sheet), Index(index) {
     setObjectName(QStringLiteral("chk_Boolean"));
     hide();
+}
+
+void RowCheck::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionButton box;
+    initStyleOption(&box);
+    painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, box);
 }
 
 RowCombo::RowCombo(QWidget* frame, int index) : QComboBox(frame), Index(index) {

@@ -49,6 +49,10 @@ public:
 
     std::string Tag;
     const int Index;
+
+protected:
+    void paintEvent(QPaintEvent*) override;  // the style's own box is higher than a row
+    bool hitButton(const QPoint& at) const override { return rect().contains(at); }
 };
 
 /// The wheel changes it only while it has the focus.

@@ -11,7 +11,7 @@ namespace ornavo {
 namespace {
 
 constexpr int ValueOverhang = 20, RowHeight = RowPitch - 1;  // a line parts it from the next
-constexpr QSize CheckSize = {14, 14};
+constexpr QSize CheckSize = {12, 12};
 constexpr QRect ComboPlace = {-2, -5, -16, 24};  // in its frame; the width is added to that of a value
 constexpr const char* Undefined = "<undefined>";
 
