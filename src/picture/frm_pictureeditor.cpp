@@ -52,7 +52,9 @@ int ValueOf(const std::string& text, int otherwise) {
 QIcon Swatch(int hue, int saturation) {
     QPixmap pixmap(SwatchSize, SwatchSize);
     pixmap.fill(QColor(PureColour(std::clamp(hue, 0, 255), std::clamp(saturation, 0, 255))));
-    return QIcon(pixmap);
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected);  // not tinted
+    return icon;
 }
 
 std::string Trimmed(const QLineEdit& box) {
@@ -273,10 +275,10 @@ void frm_PictureEditor::LoadSource() {
     if (!loaded)
         loss_ = Quoted(GetFileName(editPicture_)) + " can't be opened as a picture.";
     else if (IsAnimatedGIF(picture->path))
-        loss_ = "The picture is animated and the saved one can't be: it is the first frame.";
-    else if (IsSeeThrough(picture->image))
-        loss_ = "The picture is transparent in places and the saved one can't be: they are filled with " +
-                ground.name + ".";
+        loss_ = "The picture is animated and the saved one can't be: it is the first frame. ";
+    if (loaded && IsSeeThrough(picture->image))
+        loss_ += "The picture is transparent in places and the saved one can't be: they are filled with " +
+                 ground.name + ".";
 }
 
 void frm_PictureEditor::Redraw() {
