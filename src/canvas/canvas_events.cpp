@@ -9,6 +9,7 @@
 #include "canvas/anchors.h"
 #include "canvas/dragging.h"
 #include "canvas/resizing.h"
+#include "canvas/sample_clicks.h"
 #include "canvas/shape_gestures.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
@@ -34,6 +35,19 @@ constexpr std::array Gestures = {
     Gesture{"Anchor", Anchor_MouseDown, Anchor_MouseMove, Anchor_MouseUp},
     Gesture{"cPoint", cPoint_MouseDown, Ignore, Ignore},
     Gesture{"cPointMover", cPointMover_MouseDown, cPointMover_MouseMove, cPointMover_MouseUp},
+    Gesture{"but_AddAll", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"but_Info", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"but_Label", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"but_Picture", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"but_Song", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"but_Song2", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"KeyB", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"KeyE", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"KeyN", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"KeyS", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"KeyU", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"lbl_Kiosk", Ignore, Ignore, Sample_MouseUp},
+    Gesture{"lbl_SL", Ignore, Ignore, Sample_MouseUp},
 };
 constexpr Gesture None = {"", Ignore, Ignore, Ignore};
 

@@ -11,7 +11,8 @@
 namespace ornavo {
 namespace {
 
-constexpr int ListRows = 24;  // of an open list before it scrolls
+constexpr int ListRows = 24;      // of an open list before it scrolls
+constexpr int LeastStretch = 60;  // percent, still readable
 
 QFont RowFont(bool bold) {
     Font font;
@@ -29,12 +30,16 @@ RowLabel::RowLabel(QWidget* sheet, int index) : QLabel(sheet), Index(index) {
     setObjectName(QStringLiteral("lbl_Prop"));
     setTextFormat(Qt::PlainText);
     setAutoFillBackground(true);
-    SetHeading(false);
     hide();
 }
 
-void RowLabel::SetHeading(bool heading) {
-    setFont(RowFont(heading));
+void RowLabel::Show(const QString& caption, bool heading, int width) {
+    QFont face = RowFont(heading);
+    const int wanted = QFontMetrics(face).horizontalAdvance(caption);
+    if (wanted > width)
+        face.setStretch(std::max((face.stretch() ? face.stretch() : 100) * width / wanted, LeastStretch));
+    setFont(face);
+    setText(caption);
     setBackgroundRole(heading ? QPalette::Mid : QPalette::Window);
 }
 

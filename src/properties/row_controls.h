@@ -16,7 +16,8 @@ inline constexpr Colour WindowBackground = ColourOf(0x80000005);
 class RowLabel : public QLabel {
 public:
     RowLabel(QWidget* sheet, int index);
-    void SetHeading(bool heading);  // bold on a ground of its own
+    /// A heading is bold on a ground of its own; a caption that is too long for `width` pixels is narrowed.
+    void Show(const QString& caption, bool heading, int width);
 
     std::string Tag;
     const int Index;

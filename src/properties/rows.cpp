@@ -84,9 +84,9 @@ void Rows::AddCaption(const SheetRow& row) {
     RowLabel& label = pools_.lbl_Prop[pools_.LoadLabel()];
     // A heading has no key, and a label without a Tag would be free.
     label.Tag = heading ? "Label" : row.key;
-    label.setText(QLatin1String(heading ? " " : "  ") + Shown(row.caption));
-    label.SetHeading(heading);
-    label.setGeometry(0, NextRowTop, heading ? scaleWidth_ : CaptionWidth, RowHeight);
+    const int width = heading ? scaleWidth_ : CaptionWidth;
+    label.Show(QLatin1String(heading ? " " : "  ") + Shown(row.caption), heading, width);
+    label.setGeometry(0, NextRowTop, width, RowHeight);
     label.raise();
     label.show();
 }
