@@ -96,8 +96,8 @@ void Desktop::MapScreen() {
     pixels_ = start + field(HeaderSize) + ColourSize * field(ColourCount);
 }
 
-void Desktop::StartProgram(const QStringList& arguments, const QString& program) {
-    Start(program_, program, arguments, environment_);
+void Desktop::StartProgram(const QStringList& arguments) {
+    Start(program_, ORNAVO_BINARY_DIR "/ornavo", arguments, environment_);
 }
 
 int Desktop::ProgramEnd() {

@@ -21,8 +21,7 @@ public:
     ~Desktop();
 
     /// Starts the program; its windows come up in their own time.
-    void StartProgram(const QStringList& arguments = {},
-                      const QString& program = ORNAVO_BINARY_DIR "/ornavo");
+    void StartProgram(const QStringList& arguments = {});
     /// Waits until it has ended by itself, and gives its exit code.
     int ProgramEnd();
     QString Home() const { return home_.path(); }

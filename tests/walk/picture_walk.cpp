@@ -10,7 +10,8 @@
 namespace ornavo::walk {
 namespace {
 
-constexpr QRgb SourceColour = 0xFF5A1EC8, KnobColour = 0xFF2F5F9E;
+constexpr QRgb SourceColour = 0xFF5A1EC8, KnobColour = 0xFF2F5F9E, PencilColour = 0xFFFFC86D;
+constexpr QPoint SheetPlace = {1420, 40}, InElement = {200, 200};
 constexpr QPoint InPicture = {60, 90};  // from the corner of the dialog's inside, in the source's box
 constexpr QSize DialogSize = {1000, 660};
 constexpr int PictureSize = 200;  // pixels
@@ -30,6 +31,8 @@ QRgb Recoloured(int hue, int saturation) {
 class PictureWalk : public WalkTest {
 protected:
     void MakeSkin();
+    void Start();
+    QPoint Find(const char* what, const QRect& area, QRgb colour);
     void OpenEditor();
     void DragKnob(int by);
     void SavePreset(const char* name);
@@ -48,7 +51,8 @@ protected:
     QString Setting(const QString& key) const;
     QRgb PixelOf(const QString& file) const { return QImage(Path(file)).pixel(7, 7); }
 
-    QRect dialog_;
+    QString main_;
+    QRect dialog_, sheet_;
     QByteArray source_;
 };
 
@@ -111,9 +115,34 @@ void PictureWalk::MakeSkin() {
     file.write(text);
 }
 
+void PictureWalk::Start() {
+    desktop_.StartProgram({"Walk"});
+    main_ = desktop_.Window("^Ornavo.*Walk");
+    const QRect canvas = desktop_.Inside(main_);
+    desktop_.WaitFor("the element",
+                     [&] { return desktop_.Pixel(canvas.topLeft() + InElement) == SourceColour; });
+    desktop_.Click(canvas.topLeft() + InElement);
+    const QString sheet = desktop_.Window("^Properties$");
+    desktop_.Place(sheet, SheetPlace);
+    sheet_ = desktop_.Inside(sheet);
+}
+
+/// The first pixel of a colour, row by row.
+QPoint PictureWalk::Find(const char* what, const QRect& area, QRgb colour) {
+    QPoint found;
+    desktop_.WaitFor(what, [&] {
+        const QImage screen = desktop_.Picture();
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x)
+                if (screen.pixel(x, y) == colour) return found = {x, y}, true;
+        return false;
+    });
+    return found;
+}
+
+/// By the pencil of the first picture's row.
 void PictureWalk::OpenEditor() {
-    desktop_.Activate(desktop_.Window("^Row$"));
-    desktop_.Key({"Return"});
+    desktop_.Click(Find("a pencil", sheet_, PencilColour));
     const QString window = desktop_.Window("^Picture Editor$");
     desktop_.WaitForFocus("Picture Editor");
     if (desktop_.Inside(window).size() != DialogSize) desktop_.Resize(window, DialogSize);
@@ -124,17 +153,8 @@ void PictureWalk::OpenEditor() {
 
 /// That of the slider which has the focus: nothing else has its colour in the lower part.
 void PictureWalk::DragKnob(int by) {
-    QPoint knob;
-    desktop_.WaitFor("a knob", [&] {
-        const QImage screen = desktop_.Picture();
-        for (int y = dialog_.top() + dialog_.height() / 2; y < dialog_.bottom(); ++y)
-            for (int x = dialog_.left(); x < dialog_.left() + dialog_.width() / 2; ++x)
-                if (screen.pixel(x, y) == KnobColour) {
-                    knob = {x + 3, y + 9};
-                    return true;
-                }
-        return false;
-    });
+    const QRect lower = dialog_.adjusted(0, dialog_.height() / 2, -dialog_.width() / 2, 0);
+    const QPoint knob = Find("a knob", lower, KnobColour) + QPoint(3, 9);
     const QRgb before = ResultPixel();
     desktop_.Press(knob);
     for (const int step : {by / 2, by}) desktop_.MoveTo(knob + QPoint(step, 0));
@@ -158,8 +178,8 @@ void PictureWalk::WaitForResult(int hue, int saturation) {
 }
 
 void PictureWalk::Close() {
-    desktop_.Activate(desktop_.Window("^Row$"));
-    Keys({"alt+F4"});
+    desktop_.Activate(main_);
+    Keys({"ctrl+s", "alt+F4"});
     EXPECT_EQ(desktop_.ProgramEnd(), 0);
 }
 
@@ -214,7 +234,7 @@ void PictureWalk::Cancelled() {
 
 TEST_F(PictureWalk, Recolour) {
     MakeSkin();
-    desktop_.StartProgram({desktop_.Home() + "/ornavo/Skins", "Walk"}, ORNAVO_BINARY_DIR "/picture_row");
+    Start();
     FirstTime();
     SecondTime();
     Cancelled();
