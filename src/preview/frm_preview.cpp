@@ -102,7 +102,13 @@ void frm_Preview::SetShape(const QRegion& region) {
     CutWindow(*this, region);
 }
 
+void frm_Preview::MoveCorner(const QPoint& corner) {
+    tip_->hide();
+    move(corner);
+}
+
 void frm_Preview::ShowOutline(const QSize& size) {
+    tip_->hide();
     resizer_.Stand({pos(), size}, *mouse_.Layout, TargetFrame);
     VeilWindow(*this);
 }
@@ -120,6 +126,7 @@ void frm_Preview::EndOutline() {
 void frm_Preview::ToggleMaximise() {
     const int state = WindowState();
     if (state == StateMinimised) return;
+    tip_->hide();
     SetWindowState(state == StateNormal ? StateMaximised : StateNormal);
 }
 

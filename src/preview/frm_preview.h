@@ -44,7 +44,7 @@ public:
     bool IsMaximised() const override { return WindowState() == StateMaximised; }
     QPoint Corner() const override { return pos(); }
     QSize Inside() const override { return size(); }
-    void MoveCorner(const QPoint& corner) override { move(corner); }
+    void MoveCorner(const QPoint& corner) override;
     void ShowOutline(const QSize& size) override;
     void EndOutline() override;
     void ToggleMaximise() override;

@@ -180,6 +180,15 @@ void Desktop::Click(const QPoint& at, int button) {
     XDo({"mousemove", Number(at.x()), Number(at.y()), "click", Number(button)});
 }
 
+void Desktop::DoubleClick(const QPoint& at) {
+    XDo({"mousemove", Number(at.x()), Number(at.y()), "click", "--repeat", "2", "--delay", "40", "1"});
+}
+
+QString Desktop::WindowAt(const QPoint& at) {
+    MoveTo(at);
+    return Tool("xdotool", {"getmouselocation", "--shell"}).section("WINDOW=", 1).trimmed();
+}
+
 void Desktop::Press(const QPoint& at, int button) {
     XDo({"mousemove", Number(at.x()), Number(at.y()), "mousedown", Number(button)});
 }

@@ -40,12 +40,15 @@ public:
 
     // All places are on the screen.
     void Click(const QPoint& at, int button = 1);
+    void DoubleClick(const QPoint& at);
     void Press(const QPoint& at, int button = 1);
     void MoveTo(const QPoint& at);
     void Release(int button = 1);
     void ParkPointer();                 // where it covers nothing
     void Key(const QStringList& keys);  // "Right", "ctrl+s", ...
     void Type(const QString& text);
+
+    QString WindowAt(const QPoint& at);  // the id of what a click there would hit
 
     QRgb Pixel(const QPoint& at) const;  // opaque, as it is on the screen now
     QImage Picture() const;
