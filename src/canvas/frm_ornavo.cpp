@@ -19,6 +19,7 @@
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "editor/skin_drop.h"
+#include "platform/pictures.h"
 #include "platform/prompts.h"
 #include "render/compose.h"
 
@@ -60,6 +61,7 @@ frm_Ornavo::frm_Ornavo(Windows& windows, std::string version)
     host_.tbx_Search.Edit().setFocusPolicy(Qt::NoFocus);
     AddShortcut(Qt::Key_F5, KeyF5, 0);
     AddShortcut(QKeySequence::fromString("Ctrl+S"), KeyS, 2);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, &frm_Ornavo::ApplicationStateChanged);
     SetTimers();
     Form_Load();
 }
@@ -167,6 +169,12 @@ bool frm_Ornavo::BeginPreview() {
 void frm_Ornavo::EndPreview() {
     ReleasePreview(*this, objCurrentLayout, objSkin->SkinWidth, objSkin->SkinHeight);
     UpdateCurrentLayout();
+}
+
+/// A designer comes back from a paint program.
+void frm_Ornavo::ApplicationStateChanged(Qt::ApplicationState state) {
+    const bool shows = SkinIsOpen() && isVisible() && !drag_.MouseIsDown;
+    if (state == Qt::ApplicationActive && shows && PicturesChanged()) UpdateCurrentLayout();
 }
 
 void frm_Ornavo::ResetSelection() {

@@ -69,6 +69,7 @@ private:
     void SetTimers();
     void AddShortcut(const QKeySequence& keys, int keyCode, int shift);
     void SaveSettings() const;
+    void ApplicationStateChanged(Qt::ApplicationState state);
 
     Windows& windows_;
     std::string version_;

@@ -33,7 +33,7 @@ public:
     }
     std::optional<std::string> File(const FileQuestion&) override { return std::nullopt; }
     std::optional<Colour> ColourOf(Colour, CustomColours&) override { return std::nullopt; }
-    std::optional<Font> FontOf(const Font&) override { return std::nullopt; }
+    std::optional<Font> FontOf(const Font&, const std::vector<std::string>&) override { return std::nullopt; }
 };
 
 class OffscreenTarget : public QWidget, public CompositionTarget {

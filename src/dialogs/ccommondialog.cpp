@@ -63,8 +63,8 @@ bool cCommonDialog::VBChooseColor(Colour& colour) {
     return Ask([&] { return prompts().ColourOf(colour, customColours); }, colour);
 }
 
-bool cCommonDialog::VBChooseFont(Font& font) {
-    return Ask([&] { return prompts().FontOf(font); }, font);
+bool cCommonDialog::VBChooseFont(Font& font, const std::vector<std::string>& offered) {
+    return Ask([&] { return prompts().FontOf(font, offered); }, font);
 }
 
 }  // namespace ornavo

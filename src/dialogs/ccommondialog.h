@@ -30,7 +30,8 @@ public:
     bool VBGetSaveFileName(std::string& fileName, std::string& fileTitle, const FileOptions& options);
     static std::string VBGetFileTitle(std::string_view fileName);
     bool VBChooseColor(Colour& colour);
-    bool VBChooseFont(Font& font);
+    /// `offered` are faces for the list besides those of this machine.
+    bool VBChooseFont(Font& font, const std::vector<std::string>& offered = {});
 
 private:
     bool AskForFile(std::string& fileName, std::string& fileTitle, const FileOptions& options, bool save);

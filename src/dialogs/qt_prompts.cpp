@@ -6,11 +6,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QRegularExpression>
 
+#include "dialogs/font_dialog.h"
 #include "platform/control.h"
 
 namespace ornavo {
@@ -124,27 +124,10 @@ std::optional<Colour> QtPrompts::ColourOf(Colour start, CustomColours& custom) {
     return chosen == TranslateColor(start) ? start : chosen;
 }
 
-std::optional<Font> QtPrompts::FontOf(const Font& start) {
-    QFont font(Shown(start.Name));
-    font.setPointSizeF(start.Size);
-    font.setBold(start.Bold);
-    font.setItalic(start.Italic);
-    font.setUnderline(start.Underline);
-    font.setStrikeOut(start.Strikethrough);
-    QFontDialog box(QApplication::activeWindow());
-    box.setOption(QFontDialog::DontUseNativeDialog);
-    box.setCurrentFont(font);
-    const QFont shown = box.currentFont();
+std::optional<Font> QtPrompts::FontOf(const Font& start, const std::vector<std::string>& offered) {
+    FontDialog box(QApplication::activeWindow(), start, offered);
     if (box.exec() != QDialog::Accepted) return std::nullopt;
-    const QFont chosen = box.selectedFont();
-    Font result = start;
-    if (chosen.family() != shown.family()) result.Name = chosen.family().toStdString();
-    if (chosen.pointSizeF() != shown.pointSizeF()) result.Size = chosen.pointSizeF();
-    if (chosen.bold() != shown.bold()) result.Bold = chosen.bold();
-    if (chosen.italic() != shown.italic()) result.Italic = chosen.italic();
-    result.Underline = chosen.underline();
-    result.Strikethrough = chosen.strikeOut();
-    return result;
+    return box.Chosen();
 }
 
 }  // namespace ornavo

@@ -15,8 +15,7 @@ public:
                                      std::string_view proposal) override;
     std::optional<std::string> File(const FileQuestion& question) override;
     std::optional<Colour> ColourOf(Colour start, CustomColours& custom) override;
-    /// A face that this machine lacks and a size between two of the list stay unless others are picked.
-    std::optional<Font> FontOf(const Font& start) override;
+    std::optional<Font> FontOf(const Font& start, const std::vector<std::string>& offered) override;
 };
 
 /// "Name|*.a;*.b" becomes "Name (*.a *.b)"; ":" separates as "|" does.

@@ -2,6 +2,7 @@
 #include "platform/pictures.h"
 
 #include <QImageReader>
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <list>
@@ -27,6 +28,8 @@ struct Stamp {
 
 struct Shelf {
     std::map<Stamp, std::weak_ptr<const Picture>> known;
+    std::map<std::string, fs::file_time_type>
+        seen;                    // files and their folders, as they were when first asked for
     std::list<PictureRef> kept;  // the last used in front
     std::int64_t keptBytes = 0;
 };
@@ -45,6 +48,20 @@ bool StampOf(const fs::path& path, Stamp& stamp) {
     if (error) return false;
     stamp.time = fs::last_write_time(path, error);
     return !error;
+}
+
+fs::file_time_type TimeOf(const fs::path& path) {
+    std::error_code error;
+    const fs::file_time_type time = fs::last_write_time(path, error);
+    return error ? fs::file_time_type::min() : time;
+}
+
+void Remember(const fs::path& path) {
+    const auto [at, isNew] = shelf().seen.try_emplace(path.string());
+    if (!isNew) return;
+    at->second = TimeOf(path);
+    const fs::path folder = path.parent_path();
+    shelf().seen.try_emplace(folder.string(), TimeOf(folder));
 }
 
 QString FileName(const fs::path& path) {
@@ -127,7 +144,16 @@ void PictureMemory::Give() {
     bytesInUse -= std::exchange(bytes_, 0);
 }
 
+bool PicturesChanged() {
+    auto& seen = shelf().seen;
+    const bool changed = std::any_of(seen.begin(), seen.end(),
+                                     [](const auto& one) { return TimeOf(one.first) != one.second; });
+    if (changed) seen.clear();
+    return changed;
+}
+
 PictureRef LoadPicture(const fs::path& path) {
+    Remember(path);
     Stamp stamp;
     if (!StampOf(path, stamp)) return nullptr;
     std::weak_ptr<const Picture>& known = shelf().known[stamp];
@@ -150,6 +176,7 @@ bool HasFrames(const fs::path& path) {
 }  // namespace
 
 bool IsAnimatedGIF(const fs::path& path) {
+    Remember(path);
     Stamp stamp;
     if (!StampOf(path, stamp)) return false;
     static std::map<Stamp, bool> known;  // counting frames reads the whole file

@@ -45,5 +45,8 @@ private:
 PictureRef LoadPicture(const std::filesystem::path& path);
 /// Whether the file is a GIF of more than one frame.
 bool IsAnimatedGIF(const std::filesystem::path& path);
+/// Whether a picture that was asked for, or its folder, has been written to since. Then all is to be loaded
+/// anew: what was asked for before is forgotten.
+bool PicturesChanged();
 
 }  // namespace ornavo

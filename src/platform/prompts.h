@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/colour.h"
 #include "base/font.h"
@@ -36,7 +37,9 @@ public:
     virtual std::optional<std::string> File(const FileQuestion& question) = 0;
     /// `custom` is shown beside the colours and comes back as the user left it, after Cancel too.
     virtual std::optional<Colour> ColourOf(Colour start, CustomColours& custom) = 0;
-    virtual std::optional<Font> FontOf(const Font& start) = 0;
+    /// A face that this machine lacks, and a size, stay unless others are picked. `offered` are faces for the
+    /// list besides those of this machine.
+    virtual std::optional<Font> FontOf(const Font& start, const std::vector<std::string>& offered) = 0;
 };
 Prompts& prompts();  // Failure if nobody has been named
 void UsePrompts(Prompts* answers);

@@ -27,12 +27,24 @@ void ChooseColour(RowText& box) {
     box.SetText(Value(colour).ToText());
 }
 
+/// The faces that the skin names.
+std::vector<std::string> FacesOfSkin() {
+    std::vector<std::string> faces;
+    const auto take = [&](const FontRef& font) {
+        if (font) faces.push_back(font->Name);
+    };
+    for (const dbSkinPrefRef& pref : *objSkin->dbSkinPrefs) take(pref->Font);
+    for (const dbLayoutRef& layout : *objSkin->dbLayouts)
+        for (const dbLayoutElementRef& element : *layout->dbLayoutElements) take(element->Font);
+    return faces;
+}
+
 void ChooseFont(PanelParts& parts, RowText& box) {
     const std::string key = box.Tag;
     FontRef now;
     Attempt([&] { now = GetRowValue(parts.BoundObject, key).ToFont(); });
     Font font = now ? *now : Font();
-    if (!cCommonDialog().VBChooseFont(font)) return;
+    if (!cCommonDialog().VBChooseFont(font, FacesOfSkin())) return;
     box.SetText(font.Name);
     Attempt([&] { SetRowValue(parts.BoundObject, key, std::make_shared<Font>(font)); });
     parts.tmrUpdate.start();

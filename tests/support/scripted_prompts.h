@@ -32,11 +32,15 @@ public:
         customColours = custom;
         return Next(colours);
     }
-    std::optional<Font> FontOf(const Font&) override { return Next(fonts); }
+    std::optional<Font> FontOf(const Font&, const std::vector<std::string>& offered) override {
+        offeredFaces = offered;
+        return Next(fonts);
+    }
 
     std::vector<std::string> asked;  // "title: text", of an input with " [proposal]"
     std::vector<FileQuestion> questions;
     CustomColours customColours = {};
+    std::vector<std::string> offeredFaces;
     // What is answered, in turn; when none is left: Ok, and Cancel for the others.
     std::deque<Answer> answers;
     std::deque<std::string> inputs, files;

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "dialogs/font_dialog.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+
+#include "platform/fonts.h"
+
+namespace ornavo {
+namespace {
+
+constexpr const char* SampleText = "The Lantern Over The Reef 0123";
+constexpr int Sizes[] = {6, 7, 8, 9, 10, 11, 12, 13, 14, 16, 18, 20, 22, 24, 28, 32, 36, 48, 72};  // points
+constexpr double LeastSize = 1, MostSize = 999;
+constexpr QSize FaceList = {240, 180};
+constexpr int SizeWidth = 64, SampleHeight = 90;  // pixels
+// The faces that every jukebox has.
+constexpr const char* UsualFaces[] = {"Arial",           "Courier New", "MS Sans Serif", "Symbol",   "Tahoma",
+                                      "Times New Roman", "Verdana",     "Webdings",      "Wingdings"};
+
+QString Shown(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QString NumberText(double size) {
+    return QString::number(size, 'g', 6);
+}
+
+}  // namespace
+
+FontDialog::FontDialog(QWidget* owner, const Font& start, const std::vector<std::string>& offered)
+    : QDialog(owner),
+      font_(start),
+      filter_(new QLineEdit),
+      faces_(new QListWidget),
+      size_(new QLineEdit(NumberText(start.Size))),
+      sizes_(new QListWidget),
+      bold_(new QCheckBox(QStringLiteral("&Bold"))),
+      italic_(new QCheckBox(QStringLiteral("&Italic"))),
+      underline_(new QCheckBox(QStringLiteral("&Underline"))),
+      strikethrough_(new QCheckBox(QStringLiteral("S&trikethrough"))),
+      sample_(new QLabel) {
+    setWindowTitle(QStringLiteral("Font"));
+    ListFaces(offered);
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(FaceColumn(), 1);
+    columns->addLayout(SizeColumn());
+    columns->addLayout(StyleColumn());
+    auto* sampleBox = new QGroupBox(QStringLiteral("Sample"));
+    (new QVBoxLayout(sampleBox))->addWidget(sample_);
+    sample_->setAlignment(Qt::AlignCenter);
+    sample_->setMinimumSize(1, SampleHeight);
+    sample_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(columns, 1);
+    all->addWidget(sampleBox);
+    all->addWidget(buttons);
+    filter_->setFocus();
+    ShowSample();
+}
+
+void FontDialog::ListFaces(const std::vector<std::string>& offered) {
+    QStringList names = QFontDatabase::families();
+    for (const char* face : UsualFaces) names += QLatin1String(face);
+    for (const std::string& face : offered) names += Shown(face);
+    names += Shown(font_.Name);
+    names.removeAll({});
+    names.sort(Qt::CaseInsensitive);
+    names.removeDuplicates();
+    faces_->addItems(names);
+    const QList<QListWidgetItem*> own = faces_->findItems(Shown(font_.Name), Qt::MatchFixedString);
+    if (!own.isEmpty()) faces_->setCurrentItem(own.first());
+    connect(faces_, &QListWidget::currentTextChanged, this, [this](const QString& name) {
+        if (!name.isEmpty()) font_.Name = name.toStdString();
+        ShowSample();
+    });
+}
+
+QLayout* FontDialog::FaceColumn() {
+    auto* column = new QVBoxLayout;
+    auto* label = new QLabel(QStringLiteral("&Font"));
+    label->setBuddy(filter_);
+    filter_->setPlaceholderText(QStringLiteral("Type a part of the name"));
+    filter_->setClearButtonEnabled(true);
+    connect(filter_, &QLineEdit::textEdited, this, &FontDialog::ShowFacesLike);
+    faces_->setMinimumSize(FaceList);
+    faces_->setAccessibleName(QStringLiteral("Font"));
+    column->addWidget(label);
+    column->addWidget(filter_);
+    column->addWidget(faces_, 1);
+    return column;
+}
+
+QLayout* FontDialog::SizeColumn() {
+    auto* column = new QVBoxLayout;
+    auto* label = new QLabel(QStringLiteral("&Size"));
+    label->setBuddy(size_);
+    for (const int size : Sizes) sizes_->addItem(QString::number(size));
+    for (QWidget* part : {static_cast<QWidget*>(size_), static_cast<QWidget*>(sizes_)}) {
+        part->setFixedWidth(SizeWidth);
+        part->setAccessibleName(QStringLiteral("Size"));
+    }
+    const QList<QListWidgetItem*> own = sizes_->findItems(size_->text(), Qt::MatchExactly);
+    if (!own.isEmpty()) sizes_->setCurrentItem(own.first());
+    connect(size_, &QLineEdit::textEdited, this, &FontDialog::TakeSize);
+    connect(sizes_, &QListWidget::currentTextChanged, this, [this](const QString& size) {
+        size_->setText(size);
+        TakeSize();
+    });
+    column->addWidget(label);
+    column->addWidget(size_);
+    column->addWidget(sizes_, 1);
+    return column;
+}
+
+QLayout* FontDialog::StyleColumn() {
+    auto* column = new QVBoxLayout;
+    column->addWidget(new QLabel(QStringLiteral("Style")));
+    const std::pair<QCheckBox*, bool*> boxes[] = {{bold_, &font_.Bold},
+                                                  {italic_, &font_.Italic},
+                                                  {underline_, &font_.Underline},
+                                                  {strikethrough_, &font_.Strikethrough}};
+    for (const auto& [box, field] : boxes) {
+        box->setChecked(*field);
+        connect(box, &QCheckBox::toggled, this, [this, value = field](bool on) {
+            *value = on;
+            ShowSample();
+        });
+        column->addWidget(box);
+    }
+    column->addStretch(1);
+    return column;
+}
+
+void FontDialog::ShowFacesLike(const QString& typed) {
+    QListWidgetItem* first = nullptr;
+    for (int row = 0; row < faces_->count(); ++row) {
+        QListWidgetItem* face = faces_->item(row);
+        face->setHidden(!face->text().contains(typed, Qt::CaseInsensitive));
+        const bool begins = face->text().startsWith(typed, Qt::CaseInsensitive);
+        if (!face->isHidden() &&
+            (!first || (begins && !first->text().startsWith(typed, Qt::CaseInsensitive))))
+            first = face;
+    }
+    if (first && !typed.isEmpty()) faces_->setCurrentItem(first);
+    if (faces_->currentItem()) faces_->scrollToItem(faces_->currentItem());
+}
+
+void FontDialog::TakeSize() {
+    bool isNumber = false;
+    const double size = size_->text().trimmed().replace(',', '.').toDouble(&isNumber);
+    if (!isNumber || size < LeastSize || size > MostSize) return;
+    font_.Size = size;
+    ShowSample();
+}
+
+void FontDialog::ShowSample() {
+    sample_->setFont(ScreenFont(font_));
+    sample_->setText(ShownText(font_, SampleText));
+}
+
+Font FontDialog::Chosen() const {
+    return font_;
+}
+
+}  // namespace ornavo
