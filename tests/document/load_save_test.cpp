@@ -98,9 +98,10 @@ TEST_F(LoadSave, AFileNamesNoPlaceButAFolder) {
     };
     for (const auto& [name, expected] : rows)
         EXPECT_EQ(LoadBytes("<Skin>\n<SkinName>" + std::string(name) + "</SkinName>\n")->SkinName, expected);
+    objSkin->SetBasePath((folder / "Skins").string());
     objSkin->SkinName = "../Out";
     EXPECT_THROW(objSkin->SaveSkin(false), Failure);
-    EXPECT_FALSE(fs::exists(folder.parent_path() / "Out"));
+    EXPECT_FALSE(fs::exists(folder / "Out"));
 }
 
 TEST_F(LoadSave, AMissingFileChangesNothing) {

@@ -86,19 +86,6 @@ TEST_F(Packaging, AnExistingFileIsReplacedOrKept) {
     EXPECT_FALSE(fs::exists(folder / "Blue/a.png"));
 }
 
-TEST_F(Packaging, AnotherSkinTakesThePicturesOfTheCurrentOne) {
-    Put(folder / "Blue/a.png", "A");
-    Put(folder / "Red/own.png", "R");
-    Picture() = "a.png";
-    const dbSkinRef red = NewSkin("Red");
-    red->LoadSkin();
-    red->dbLayouts->AddObject(objSkin->dbLayouts->Item(1));
-    red->AddNewLayout("Own")->dbLayoutElements->Item(1)->PicOn = "own.png";
-    red->SaveSkin(true);
-    EXPECT_EQ(BytesOf(folder / "Red/a.png"), "A");
-    EXPECT_EQ(red->dbLayouts->Item("Own")->dbLayoutElements->Item(1)->PicOn, "own.png");
-}
-
 TEST_F(Packaging, WhatIsNoPlainFileStaysOutside) {
     fs::create_directories(folder / "Pics/folder.png");
     ASSERT_EQ(mkfifo((folder / "Pics/pipe.png").c_str(), 0600), 0);

@@ -4,29 +4,21 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <functional>
 #include <map>
-#include <sstream>
-#include <string>
 
 #include "base/failure.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "document/current_skin.h"
 #include "support/step_layer.h"
+#include "support/temporary_folder.h"
 
 namespace ornavo {
 
 namespace fs = std::filesystem;
 
 inline std::string BytesOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
+    return TemporaryFolder::Read(path);
 }
 
 inline void Put(const fs::path& path, const std::string& bytes) {
@@ -48,16 +40,11 @@ inline std::map<std::string, std::string> Snapshot(const fs::path& folder) {
 
 class SkinTest : public testing::Test {
 protected:
-    SkinTest() {
-        std::string name = fs::temp_directory_path() / "ornavo-XXXXXX";
-        folder = mkdtemp(name.data());
-        objSkin = NewSkin("Blue");
-    }
+    SkinTest() { objSkin = NewSkin("Blue"); }
     ~SkinTest() override {
         UseFileLayer(nullptr);
         UseNumberSigns({});
         objSkin = std::make_shared<dbSkin>();
-        fs::remove_all(folder);
     }
     /// Without the catalogue, so that a file has only what a test puts there.
     dbSkinRef NewSkin(const std::string& name) const {
@@ -73,7 +60,8 @@ protected:
         objSkin->LoadSkin();
         return objSkin;
     }
-    fs::path folder;
+    const TemporaryFolder scratch;
+    const fs::path folder = scratch.place();
 };
 
 }  // namespace ornavo

@@ -97,10 +97,8 @@ TEST_F(WholeSave, AFailureAtEachStep) {
             if (failed) {
                 ++refused;
                 EXPECT_EQ(Model(), modelBefore);
-                EXPECT_EQ(now.contains(settings), before.contains(settings));
-                if (before.contains(settings)) {
-                    EXPECT_EQ(now.at(settings), before.at(settings));
-                }
+                ASSERT_EQ(now.contains(settings), before.contains(settings));
+                EXPECT_TRUE(!now.contains(settings) || now.at(settings) == before.at(settings));
                 ExpectWhole(before, after, true);
             } else {
                 EXPECT_FALSE(objSkin->Dirty);
@@ -164,9 +162,7 @@ TEST_F(WholeSave, TheSystemTakesNoMore) {
         EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << room;
         const auto now = Snapshot(folder);
         EXPECT_EQ(now.at("Blue/SkinSettings.xml"), before.at("Blue/SkinSettings.xml"));
-        if (room == 0) {
-            EXPECT_EQ(now, before);
-        }
+        EXPECT_TRUE(room > 0 || now == before);
     }
 }
 
