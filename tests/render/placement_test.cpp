@@ -18,17 +18,14 @@ struct Row {
 };
 
 constexpr Row Rows[] = {
-    {true, false, false, 105, 30, 40, 30, 40},  {true, false, false, 94, 30, 40, 30, 40},
-    {true, false, true, 105, 30, 42, 30, 42},   {true, false, true, 107, 30, 44, 30, 44},
-    {true, false, true, 94, 30, 37, 30, 37},    {true, false, true, 95, 30, 38, 30, 38},
-    {false, true, false, 105, 75, 40, 75, 40},  {false, true, false, 94, 64, 40, 64, 40},
-    {false, true, true, 105, 73, 42, 73, 42},   {false, true, true, 107, 74, 44, 73, 44},
-    {false, true, true, 94, 67, 37, 67, 37},    {false, true, true, 95, 68, 38, 67, 38},
+    {true, false, false, 105, 30, 40, 30, 40},  {true, false, true, 105, 30, 42, 30, 42},
+    {true, false, true, 107, 30, 44, 30, 44},   {true, false, true, 94, 30, 37, 30, 37},
+    {false, true, false, 105, 75, 40, 75, 40},  {false, true, true, 105, 73, 42, 73, 42},
+    {false, true, true, 107, 74, 44, 73, 44},   {false, true, true, 95, 68, 38, 67, 38},
     {false, false, true, 105, 32, 42, 32, 42},  {false, false, true, 107, 32, 43, 32, 43},
-    {false, false, true, 95, 28, 38, 28, 38},   {true, true, false, 105, 30, 45, 30, 45},
-    {true, true, true, 94, 30, 34, 30, 34},     {false, false, false, 105, 32, 40, 32, 40},
-    {false, false, false, 107, 34, 40, 34, 40}, {false, false, false, 94, 27, 40, 27, 40},
-    {false, false, false, 95, 28, 40, 28, 40},
+    {true, true, false, 105, 30, 45, 30, 45},   {true, true, true, 94, 30, 34, 30, 34},
+    {false, false, false, 105, 32, 40, 32, 40}, {false, false, false, 107, 34, 40, 34, 40},
+    {false, false, false, 94, 27, 40, 27, 40},  {false, false, false, 95, 28, 40, 28, 40},
 };
 
 dbLayoutElement ElementOf(const Row& row) {
@@ -69,10 +66,9 @@ TEST(Placement, BoundsAreWrittenBackAtEvenDifferences) {
             WriteElementBounds(after, GetElementRect(before, frame), frame);
             // A scaled element may settle a pixel away.
             const int slack = !row.near && !row.far && row.stretch ? 1 : 0;
-            EXPECT_NEAR(after.LeftX, before.LeftX, slack) << Name(row) << " at " << window;
-            EXPECT_NEAR(after.WidthX, before.WidthX, slack) << Name(row) << " at " << window;
-            EXPECT_NEAR(after.TopY, before.TopY, slack) << Name(row) << " at " << window;
-            EXPECT_NEAR(after.HeightY, before.HeightY, slack) << Name(row) << " at " << window;
+            for (const auto field : {&dbLayoutElement::LeftX, &dbLayoutElement::WidthX,
+                                     &dbLayoutElement::TopY, &dbLayoutElement::HeightY})
+                EXPECT_NEAR(after.*field, before.*field, slack) << Name(row) << " at " << window;
         }
     }
 }
@@ -90,10 +86,8 @@ TEST(Placement, BoundsAtOddDifferencesGoToTheEvenNeighbour) {
     for (const auto& row : rows) {
         dbLayoutElement e = ElementOf({row.near, row.far, row.stretch, 0, 0, 0, 0, 0});
         WriteElementBounds(e, {30, 30, 40, 40}, {101, 101, 100, 100});
-        EXPECT_EQ(e.LeftX, row.left);
-        EXPECT_EQ(e.WidthX, row.width);
-        EXPECT_EQ(e.TopY, row.left);
-        EXPECT_EQ(e.HeightY, row.width);
+        EXPECT_EQ((Rect{e.LeftX, e.TopY, e.WidthX, e.HeightY}),
+                  (Rect{row.left, row.left, row.width, row.width}));
     }
 }
 
@@ -121,6 +115,54 @@ TEST(Placement, WhatHasNoNumberIsAFailure) {
     dbLayoutElement far = ElementOf({.near = true, .far = true});
     far.WidthX = 2'147'483'647;
     EXPECT_THROW(GetElementRect(far, {101, 101, 100, 100}), Failure);
+}
+
+struct Corner {
+    int align, window, at, expected;  // in a skin of 100
+};
+
+constexpr Corner Corners[] = {
+    {AlignStart, 105, 30, 30}, {AlignMiddle, 105, 30, 28}, {AlignMiddle, 107, 30, 26},
+    {AlignMiddle, 95, 30, 32}, {AlignEnd, 105, 30, 75},    {AlignStretch, 150, 30, 20},
+    {AlignStretch, 40, 9, 22}, {AlignEnd, 105, -2, 107},
+};
+
+TEST(PointPlaces, APlaceIsWrittenByEachAlignmentInBothDirections) {
+    for (const Corner& row : Corners) {
+        dbPoint across, down;
+        across.HAlign = down.VAlign = row.align;
+        SetPointPosition(across, row.at, 7, {row.window, 300, 100, 200});
+        SetPointPosition(down, 7, row.at, {300, row.window, 200, 100});
+        EXPECT_EQ(across.X, row.expected) << row.align << " in " << row.window;
+        EXPECT_EQ(across.Y, 7);
+        EXPECT_EQ(down.Y, row.expected) << row.align << " in " << row.window;
+    }
+}
+
+TEST(PointPlaces, ThereAndBackDiffersByAPixelAtMost) {
+    for (const int align : {AlignStart, AlignMiddle, AlignEnd, AlignStretch})
+        for (int window = 93; window <= 211; ++window)
+            for (int at = -3; at <= window; at += 7) {
+                dbPoint point;
+                point.HAlign = point.VAlign = align;
+                const Frame frame = {window, window + 1, 100, 99};
+                SetPointPosition(point, at, at, frame);
+                const Point back = GetPointPosition(point, frame, false);
+                const int most = align == AlignStart || align == AlignEnd ? 0 : 1;
+                EXPECT_LE(std::abs(back.x - at), most) << align << " in " << window << " at " << at;
+                EXPECT_LE(std::abs(back.y - at), most) << align << " in " << window << " at " << at;
+            }
+}
+
+TEST(PointPlaces, AFailureLeavesThePointAsItWas) {
+    dbPoint point;
+    point.X = 5, point.Y = 6, point.VAlign = AlignStretch;
+    EXPECT_THROW(SetPointPosition(point, 40, 40, {100, 0, 100, 100}), Failure);
+    EXPECT_EQ(point.X, 5);
+    point.VAlign = 9;
+    SetPointPosition(point, 40, 40, {100, 100, 100, 100});
+    EXPECT_EQ(point.X, 40);
+    EXPECT_EQ(point.Y, 6) << "an alignment that is none keeps its number";
 }
 
 }  // namespace

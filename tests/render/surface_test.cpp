@@ -30,22 +30,12 @@ TEST_F(SurfaceTest, GridDotsAndGuideLines) {
     viewSwitches.GridX = 4;
     viewSwitches.GridY = 6;
     const QImage image = Shown();
-    const struct {
-        int x, y;
-        QColor colour;
-        const char* what;
-    } rows[] = {
-        {0, 1, Lines, "first line"},
-        {20, 7, Lines, "a line every five spacings"},
-        {4, 6, Dots, "a dot"},
-        {4, 7, Ground, "between dots"},
-        {3, 30, Dots, "the guide line across, 61/2 goes to 30"},
-        {50, 3, Dots, "the guide line down"},
-        {21, 31, Ground, "a field"},
-        {20, 6, Dots, "a dot on a line"},
-        {7, 0, Lines, "the first line across"},
-    };
-    for (const auto& row : rows) EXPECT_EQ(image.pixelColor(row.x, row.y), row.colour) << row.what;
+    // Lines every five spacings, dots at each, also on the lines; the guide lines, 61/2 goes to 30; the rest.
+    for (const QPoint at : {QPoint(0, 1), QPoint(20, 7), QPoint(7, 0)})
+        EXPECT_EQ(image.pixelColor(at), Lines);
+    for (const QPoint at : {QPoint(4, 6), QPoint(20, 6), QPoint(3, 30), QPoint(50, 3)})
+        EXPECT_EQ(image.pixelColor(at), Dots);
+    for (const QPoint at : {QPoint(4, 7), QPoint(21, 31)}) EXPECT_EQ(image.pixelColor(at), Ground);
 }
 
 TEST_F(SurfaceTest, SmallSpacingsLeaveTheGuideLinesAlone) {
