@@ -1,37 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "project/skin_files.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include "base/failure.h"
-#include "base/files.h"
-#include "base/paths.h"
-#include "document/current_skin.h"
 #include "platform/clock.h"
 #include "project/own_folder.h"
-#include "support/scripted_prompts.h"
+#include "support/panel_fixture.h"
+#include "support/temporary_folder.h"
 
 namespace ornavo::testing {
 namespace {
 
-namespace fs = std::filesystem;
-
 class FilesTest : public ::testing::Test {
 protected:
-    fs::path Root() const { return fs::canonical(folder_.path().toStdString()); }
-    void Write(const fs::path& path, const QByteArray& bytes) const {
+    fs::path Root() const { return fs::canonical(folder_.place()); }
+    static void Write(const fs::path& path, const char* bytes) {
         fs::create_directories(path.parent_path());
-        QFile file(QString::fromStdString(path.string()));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        std::ofstream(path) << bytes;
     }
 
 private:
-    QTemporaryDir folder_;
+    TemporaryFolder folder_;
 };
 
 TEST_F(FilesTest, WhereASkinLies) {
@@ -41,9 +28,7 @@ TEST_F(FilesTest, WhereASkinLies) {
         std::string text, base, name;
     } rows[] = {
         {"Party", "/own/Skins/", "Party"},
-        {"Big Party", "/own/Skins/", "Big Party"},
         {root + "/Party", root + "/", "Party"},
-        {root + "/Party/", root + "/", "Party"},
         {root + "/Party/SkinSettings.xml", root + "/", "Party"},
         {root + "/Party/skinsettings.XML", root + "/", "Party"},
         {root + "/party", root + "/", "Party"},
@@ -88,7 +73,7 @@ TEST_F(FilesTest, AForeignFolderIsAskedAbout) {
     SkinFiles files(Root().string(), (Root() / "data").string());
     const std::string bytes = "<Skin>\n<SkinName>Original</SkinName>\n</Skin>\n";
     for (const char* name : {"Original", "Copy", "Third"})
-        Write(Root() / "Skins" / name / "SkinSettings.xml", QByteArray::fromStdString(bytes));
+        Write(Root() / "Skins" / name / "SkinSettings.xml", bytes.c_str());
     const auto text = [&](const char* name) {
         return fileLayer().Read(Root() / "Skins" / name / "SkinSettings.xml");
     };
@@ -117,20 +102,12 @@ TEST_F(FilesTest, AForeignFolderIsAskedAbout) {
 }
 
 TEST_F(FilesTest, AFailedSaveIsToldAndLosesNothing) {
-    class NoRename : public FileLayer {
-    public:
-        NoRename() { UseFileLayer(this); }
-        ~NoRename() override { UseFileLayer(nullptr); }
-        void Rename(const fs::path&, const fs::path&) override {
-            throw Failure(61, "Files", "No space left on device");
-        }
-    };
     ScriptedPrompts prompts;
     SkinFiles files(Root().string(), (Root() / "data").string());
     files.Create("New", 800, 600);
     objSkin->Dirty = true;
     {
-        const NoRename full;
+        const FullDisk full;
         EXPECT_EQ(files.Save(), SkinFiles::Saved::Failed);
     }
     ASSERT_EQ(prompts.asked.size(), 1u);
