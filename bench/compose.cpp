@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Composing a layout again, beside as many plain widgets that are hidden, placed, raised, shown and painted.
+// Composing a layout again, beside as many plain widgets that are hidden, placed, raised, shown and painted;
+// the same with the panel and its sample; and what of the sample is done alone: a frame has 16 ms.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -10,7 +11,9 @@
 #include "document/current_skin.h"
 #include "platform/startup.h"
 #include "render/compose.h"
+#include "render/kiosk_panel.h"
 #include "render/layout_host.h"
+#include "render/search_letters.h"
 #include "render/surface.h"
 
 namespace ornavo {
@@ -55,7 +58,7 @@ private:
 /// A skin with `count` buttons, every second with a caption, all with the same picture.
 class Skin {
 public:
-    explicit Skin(int count) {
+    explicit Skin(int count, bool withPanel = false) {
         objSkin->SetBasePath(folder_.path().toStdString());
         objSkin->SkinName = "Bench";
         objSkin->SkinWidth = Width;
@@ -75,9 +78,20 @@ public:
             e.PicNormal = "tile.bmp";
             if (i % 2 == 0) e.Caption = "Play";
         }
+        if (withPanel) AddPanel(count + 1);
     }
 
 private:
+    static void AddPanel(int order) {
+        dbLayoutElement& main = *objCurrentLayout->dbLayoutElements->Add(order, "Main", TypeMain, 0);
+        main.WidthX = Width * 3 / 4;
+        main.HeightY = Height * 3 / 4;
+        main.LockLeft = main.LockTop = true;
+        for (const char* key :
+             {"SL_Picture", "SL_PictureOver", "SL_PictureDown", "SO_Picture", "KBN_Picture"})
+            objSkin->dbSkinPrefs->Item(key)->value = "tile.bmp";
+    }
+
     QTemporaryDir folder_;
 };
 
@@ -86,6 +100,29 @@ void ComposeAgain(benchmark::State& state) {
     Window window;
     for (auto _ : state) {
         ComposeLayout(window, objCurrentLayout, Width, Height);
+        QCoreApplication::processEvents();
+    }
+}
+
+void ComposeWithPanel(benchmark::State& state) {
+    const Skin skin(static_cast<int>(state.range(0)), true);
+    Window window;
+    for (auto _ : state) {
+        ComposeLayout(window, objCurrentLayout, Width, Height);
+        QCoreApplication::processEvents();
+    }
+}
+
+/// One part of the sample again after an edit that shows in all of it, and its painting.
+void SampleAgain(benchmark::State& state, void (*part)(), const char* edited) {
+    const Skin skin(0, true);
+    Window window;
+    ComposeLayout(window, objCurrentLayout, Width, Height);
+    QCoreApplication::processEvents();
+    Value& value = objSkin->dbSkinPrefs->Item(edited)->value;
+    for (auto _ : state) {
+        value = value == Value(1) ? 2 : 1;
+        part();
         QCoreApplication::processEvents();
     }
 }
@@ -109,6 +146,11 @@ void PlainWidgets(benchmark::State& state) {
 }
 
 BENCHMARK(ComposeAgain)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK(ComposeWithPanel)->Arg(60)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SampleAgain, letters, SetupSearchLetters, "SL_ShadowDistance")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SampleAgain, places, LayoutKioskPanel, "IN_Margin")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(SampleAgain, styles, SetupKioskPanel, "SO_ShadowDistance")->Unit(benchmark::kMillisecond);
 BENCHMARK(PlainWidgets)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -350,10 +350,10 @@ def preferences(skin, pictures):
         SO_Height=42, SO_Margin=4, SOS_SongFontS=row, SOD_SongFontD=row, SOD_ArtistFont=Font("Tahoma", 8),
         SOD_SongXTrim=14, SOD_ArtistXTrim=14, SOS_SongXTrim=32, SOS_SongOffsetYS=9, SOS_SongCapAlign=0, SO_IconsX=10,
         SO_SongTextColor=skin_colour(ICE), SOD_ArtistTextColor=skin_colour(TEAL), SO_ShadowColor=0,
-        KB_Font=Font("Arial", 15, True), KBU_Font=Font("Wingdings", 16), KBB_Font=Font("Wingdings", 16),
+        KB_Font=Font("Arial", 14, True), KBU_Font=Font("Wingdings", 16), KBB_Font=Font("Wingdings", 16),
         KB_TextColor=skin_colour(ICE), KB_Shadow=True,
         SL_Width=38, SL_Font=Font("Tahoma", 8, True), SL_TextColor=skin_colour(MIST), SL_SelTextColor=skin_colour(GREEN),
-        PI_Font=Font("Tahoma", 9), PI_TextColor=skin_colour(ICE), PI_PictureBorderColor=skin_colour(TEAL),
+        PI_Font=Font("Tahoma", 9), PI_FontSizeFactor=0.65, PI_TextShadow=True, PI_TextColor=skin_colour(ICE), PI_PictureBorderColor=skin_colour(TEAL),
         PI_PictureShadowColor=skin_colour("03060f"),
         LA_Font=Font("Tahoma", 16, True), LA_TextColor=skin_colour(ICE))
 

@@ -369,7 +369,7 @@ ROWS = (  # preference, look, accent
     ("SO_Picture", "quiet", TEAL), ("SO_PictureSel", "selected", TEAL), ("SO_PictureOver", "over", TEAL),
     ("SO_PictureDown", "down", GREEN), ("SO_PictureArtistHL", "selected", VIOLET), ("SO_PicturePlayed", "quiet", ROSE),
 )
-KEYS = (("KBN", 48, DEEP), ("KBU", 72, "2a1a55"), ("KBS", 240, DEEP), ("KBB", 72, "4a1738"), ("KBE", 110, "0b4a3c"))
+KEYS = (("KBN", 44, DEEP), ("KBU", 56, "2a1a55"), ("KBS", 132, DEEP), ("KBB", 56, "4a1738"), ("KBE", 80, "0b4a3c"))
 PREFERENCE_STATES = (("", "normal"), ("Over", "over"), ("Down", "down"))
 
 
@@ -382,11 +382,11 @@ def preference_pictures(folder):
         found[key] = folder.png(image, "row_" + (key[len("SO_Picture"):].lower() or "normal"))
     for prefix, width, ground in KEYS:
         for suffix, state in PREFERENCE_STATES:
-            image, pen = surface(width, 44)
-            glass(pen, 0, 0, width, 44, 7, state, TEAL, ground)
+            image, pen = surface(width, 32)
+            glass(pen, 0, 0, width, 32, 7, state, TEAL, ground)
             found["%s_Picture%s" % (prefix, suffix)] = folder.png(image, "key_%s_%s" % (prefix.lower(), state))
     for suffix, state in PREFERENCE_STATES:
-        for prefix, draw in (("IN", pane_button(42, 42, None)), ("AA", pane_button(38, 38, None, 8, VIOLET))):
+        for prefix, draw in (("IN", pane_button(42, 42, None)), ("AA", pane_button(40, 40, None, 8, VIOLET))):
             found["%s_Picture%s" % (prefix, suffix)] = folder.png(draw(state), "%s_%s" % (prefix.lower(), state))
     for suffix, look in (*PREFERENCE_STATES, ("On", "selected")):
         image, pen = surface(40, 20)

@@ -224,22 +224,28 @@ def kiosk(skin, folder):
     transport(page, 547)
 
 
+# What the jukebox draws by itself, as large as the sample on the panel shows it: preference, file, size, corner.
+FACES = (("SO", "row", 400, 40, 6), ("KBN", "key", 44, 32, 6), ("KBU", "key_wide", 56, 32, 6), ("KBB", "key_wide", 56, 32, 6),
+         ("KBS", "key_space", 132, 32, 6), ("KBE", "key_enter", 80, 32, 6), ("IN", "info", 40, 40, 6), ("AA", "add", 40, 40, 6),
+         ("SL", "letter", 34, 17, 3))
+
+
 def preferences(skin, folder):
-    for suffix, state in (("", "normal"), ("Over", "over"), ("Down", "down")):
-        row = folder.bmp(face(400, 40)(state), "row_" + state, DARK_WOOD)
-        key = folder.bmp(face(48, 40)(state), "key_" + state, DARK_WOOD)
-        skin.prefer(**{"SO_Picture" + suffix: row})
-        skin.prefer(**{prefix + "_Picture" + suffix: key for prefix in ("KBN", "KBU", "KBS", "KBB", "KBE", "IN", "AA")})
+    for prefix, name, width, height, corner in FACES:
+        for suffix, state in (("", "normal"), ("Over", "over"), ("Down", "down")):
+            file = folder.bmp(face(width, height, radius=corner)(state), "%s_%s" % (name, state), DARK_WOOD)
+            skin.prefer(**{"%s_Picture%s" % (prefix, suffix): file})
     ink, brick = skin_colour(INK), skin_colour(BRICK)
     skin.prefer(SO_PictureSel="row_over.bmp", SO_PictureArtistHL="row_over.bmp", SO_PicturePlayed="row_down.bmp",
-                SL_Picture="key_normal.bmp", SL_PictureOn="key_down.bmp", SL_PictureOver="key_over.bmp",
-                SL_PictureDown="key_down.bmp", SP_SkinInformation="Classic: paper, wood and brass")
+                SL_PictureOn="letter_down.bmp", SP_SkinInformation="Classic: paper, wood and brass")
     for family in ("SO", "IN", "AA", "SL"):
         skin.prefer(**{family + "_Shadow": False, family + "_Transparency": True})
     skin.prefer(KB_Transparency=True, KB_TextColor=ink, SO_SongTextColor=ink, SOD_ArtistTextColor=brick, IN_TextColor=brick,
                 AA_TextColor=ink, SL_TextColor=ink, SL_SelTextColor=brick, SO_Height=40, SO_Margin=3, IN_Margin=3,
                 IN_Height=40, AA_Font=Font("Wingdings", 16), AA_CapOffsetX=0, AA_CapOffsetY=8, IN_CapOffsetX=0,
-                SL_Width=34, PI_TextColor=ink, PI_TextShadow=False, PI_PictureBorderColor=skin_colour(WOOD),
+                SL_Width=34, SL_CapOffsetY=-2, KB_Font=Font("Arial", 14), SOD_SongFontD=Font("Tahoma", 11), SOS_SongFontS=Font("Tahoma", 11),
+                SOD_SongOffsetYD=3, SOS_SongOffsetYS=10, SOD_ArtistOffsetY=22, SOD_IconsRateY=21, SOD_IconsUserX=84,
+                SOD_IconsUserY=21, LA_Font=Font("Times New Roman", 18, True), PI_FontSizeFactor=0.65, PI_TextColor=ink, PI_TextShadow=False, PI_PictureBorderColor=skin_colour(WOOD),
                 PI_PictureShadowColor=skin_colour(SAND), LA_TextColor=ink, LA_ShadowColor=skin_colour(SAND),
                 SP_ColLight=0xFFFFFF, SP_ColBack=skin_colour(CREAM), SP_ColDark=skin_colour(SAND),
                 SP_ButtonColor=skin_colour(CREAM), SP_ListColor=skin_colour(PAPER), SP_ListFontColor=ink,

@@ -71,7 +71,7 @@ ICON_PARTS = {
     "AlbumGenre": [("album", ICE, MAIN), ("tag", GREEN, BADGE)],
     "AlbumYear": [("album", ICE, MAIN), ("calendar", AMBER, BADGE)],
     "ArtistGenre": [("artist", ICE, MAIN), ("tag", GREEN, BADGE)],
-    "Genre": [("tag", GREEN, WHOLE), ("ring", DEEP, (3.2, 3.7, 6))],
+    "Genre": [("tag", GREEN, WHOLE), ("ring", DEEP, (4.0, 4.5, 4))],
     "LastPlayed": [("clock", ICE, WHOLE)],
     "PLGen": [("playlist", ICE, MAIN), ("sparkle", AMBER, BADGE)],
     "Unplayed": [("sparkle", GREEN, WHOLE)],

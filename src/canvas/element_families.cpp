@@ -7,7 +7,9 @@
 #include "base/failure.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
+#include "render/kiosk_panel.h"
 #include "render/layout_host.h"
+#include "render/search_letters.h"
 #include "render/standard_elements.h"
 #include "render/target.h"
 
@@ -45,6 +47,8 @@ void PanelFollows(CanvasParts& parts) {
     if (!objCurrentLayout) return;
     if (const dbLayoutElementRef main = objCurrentLayout->dbLayoutElements->Find(SelKey))
         DrawMainBackground(parts.host, main->StretchBackground);
+    LayoutKioskPanel();
+    SetupSearchLetters();
 }
 
 void WriteSelectedBounds(CanvasParts& parts) {

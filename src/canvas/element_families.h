@@ -22,7 +22,7 @@ const ElementFamily* FamilyOf(const Control& control);
 
 /// What follows the selected control's bounds: the bar of a scroll frame.
 void ScrollBarFollows(CanvasParts& parts);
-/// The panel drawn anew at its size.
+/// The panel and the sample on it drawn anew at their size.
 void PanelFollows(CanvasParts& parts);
 /// The selected control's bounds become its element's; nothing happens where there is no such element.
 void WriteSelectedBounds(CanvasParts& parts);

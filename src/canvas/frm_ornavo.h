@@ -42,6 +42,7 @@ public:
     int ScaleWidth() const override { return Form::ScaleWidth(); }
     int ScaleHeight() const override { return Form::ScaleHeight(); }
     LayoutHost& host() override { return host_; }
+    void ShowForm() override { show(); }
     void ShowShapePoints() override { points_.ShowShapePoints(); }
     void ShowGrid() override;
 

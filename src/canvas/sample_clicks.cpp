@@ -17,7 +17,8 @@ Control& FirstOf(LayoutHost& host, Control& control) {
 
 }  // namespace
 
-void Sample_MouseUp(CanvasParts& parts, Control& control, const Mouse&) {
+void Sample_MouseUp(CanvasParts& parts, Control& control, const Mouse& mouse) {
+    if (!control.rect().contains(mouse.x, mouse.y)) return;
     parts.anchors.ResetSelection();
     SelControl = &FirstOf(parts.host, control);
     parts.windows.properties().Open();

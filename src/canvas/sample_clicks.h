@@ -8,6 +8,7 @@
 
 namespace ornavo {
 
+/// Released over the control; released elsewhere nothing happens.
 void Sample_MouseUp(CanvasParts& parts, Control& control, const Mouse& mouse);
 
 }  // namespace ornavo

@@ -8,7 +8,7 @@ constexpr Colour GuideColour = Rgb(128, 128, 128);
 constexpr Rect CaptionPlace = {64, 0, 0, 0};  // its top and size come with the layout and the text
 constexpr const char* Caption = "Songs by Artist";
 constexpr int AddAllSize = 40;
-constexpr int KeyHeight = 40, KeyGap = 4;
+constexpr int KeyHeight = 32, KeyGap = 4;  // a key's caption starts 3 pixels below its top
 
 }  // namespace
 

@@ -132,6 +132,9 @@ bool RandomWalk::IsPlain(Place at) {
     // The scroll frame's bar comes to the front of everything when the frame is moved.
     const bool overBar =
         model_->Named("Scrollbar").shown.Contains(at) && model_->ElementUnder(at) != "Scrollbar";
+    // A press on the panel's sample takes no element.
+    const QWidget* hit = canvas().childAt(at.x, at.y);
+    if (hit && canvas().host().pMain.isAncestorOf(hit)) return false;
     return !overBar && !(onHandle && (onCorner || IsStandard()));
 }
 

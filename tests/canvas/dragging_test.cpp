@@ -21,6 +21,7 @@ protected:
         Add("SearchBox", TypeSearchBox, {500, 50, 100, 30});
         Add("Scrollframe", TypeScrollbar, {650, 50, 40, 400});
         Compose();
+        BarePanel();
     }
     /// Straight to the control: the mouse over the window fills in what a real one may lose.
     static void Send(Control& control, QEvent::Type type, QPoint at, Qt::MouseButtons held) {

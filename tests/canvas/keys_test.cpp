@@ -110,6 +110,7 @@ TEST_F(KeysTest, WhatIsNotComposedAgainIsSelectedNoMore) {
 TEST_F(KeysTest, AnotherLayoutLeavesNoSelection) {
     Add("Main", TypeMain, {50, 50, 100, 80});
     Compose();
+    BarePanel();
     Select("Main");
     Key(Qt::Key_Right);
     Press(60, 60);

@@ -82,6 +82,10 @@ protected:
         point.Y = at.y;
         return point;
     }
+    /// Takes the sample off the panel, whose ground then takes every press; until the next composition.
+    void BarePanel() {
+        for (QWidget* sample : host().pMain.findChildren<QWidget*>()) sample->hide();
+    }
     LayoutHost& host() { return form_->host(); }
     Anchors& anchors() { return form_->parts().anchors; }
 

@@ -243,7 +243,8 @@ QByteArray EditWalk::Saved() const {
     return Contents(desktop_.Home() + "/ornavo/Skins/" + SkinName + "/SkinSettings.xml");
 }
 
-/// A new skin has all preferences with their defaults.
+/// A new skin has all preferences with their defaults. The sample on its panel has made the fonts that it
+/// shows: the last column is their size.
 QByteArray EditWalk::Expected() const {
     constexpr const char* tags[] = {"Key", "PrefType", "Caption", "Value"};
     QByteArray lines = "\t<SkinPrefs>\r\n";
@@ -251,10 +252,13 @@ QByteArray EditWalk::Expected() const {
          Contents(ORNAVO_SOURCE_DIR "/tests/walk/preferences.txt").trimmed().split('\n')) {
         lines += "\t\t<SkinPref>\r\n";
         const QByteArrayList values = row.split('\t');
-        for (int i = 0; i < values.size(); ++i)
+        for (int i = 0; i < static_cast<int>(std::size(tags)); ++i)
             if (!values[i].isEmpty())
                 lines += QByteArray("\t\t\t<") + tags[i] + '>' + QString::fromUtf8(values[i]).toLatin1() +
                          "</" + tags[i] + ">\r\n";
+        if (values.size() > static_cast<int>(std::size(tags)))
+            lines += "\t\t\t<Font>\r\n\t\t\t\t<Name>" + values[3] + "</Name>\r\n\t\t\t\t<Size>" + values[4] +
+                     "</Size>\r\n\t\t\t</Font>\r\n";
         lines += "\t\t</SkinPref>\r\n";
     }
     return QByteArray::fromStdString(model_.HeadLines()) + lines + "\t</SkinPrefs>\r\n" +

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/sample_clicks.h"
+
+#include "canvas/anchors.h"
+#include "document/codes.h"
+#include "support/canvas_fixture.h"
+
+namespace ornavo::testing {
+namespace {
+
+class SampleClicksTest : public EditingTest {
+protected:
+    SampleClicksTest() {
+        dbLayoutElement& main = Add("Main", TypeMain, {20, 20, 720, 500});
+        main.MarginLeft = main.MarginTop = main.MarginRight = main.MarginBottom = 10;
+        Compose();
+    }
+    QPoint In(const Control& control) const { return control.mapTo(form_.get(), QPoint(5, 3)); }
+    static constexpr QPoint Bare = {300, 400};  // on the panel, beside all of its sample
+};
+
+TEST_F(SampleClicksTest, AClickOpensItsFamilyWithoutHandles) {
+    Label fourth(&host().pMain, "but_Label", 3);
+    fourth.Listen(host().listener);
+    fourth.Move({300, 100, 50, 20});
+    fourth.show();
+    const struct {
+        Control& pressed;
+        Control& selected;
+    } cases[] = {{host().but_AddAll, host().but_AddAll},
+                 {host().but_Info, host().but_Info},
+                 {host().but_Label, host().but_Picture},
+                 {fourth, host().but_Picture},
+                 {host().but_Picture, host().but_Picture},
+                 {host().but_Song, host().but_Song},
+                 {host().but_Song2, host().but_Song2},
+                 {host().KeyB, host().KeyB},
+                 {host().KeyE, host().KeyE},
+                 {host().KeyN, host().KeyN},
+                 {host().KeyS, host().KeyS},
+                 {host().KeyU, host().KeyU},
+                 {host().lbl_Kiosk, host().lbl_Kiosk},
+                 {host().lbl_SL[5], host().lbl_SL[0]},
+                 {host().lbl_SL[27], host().lbl_SL[0]}};
+    for (const auto& c : cases) {
+        Click(Bare.x(), Bare.y());
+        ASSERT_EQ(SelKey, "Main");
+        windows_.panel = {};
+        const QPoint at = In(c.pressed);
+        Press(at.x(), at.y());
+        EXPECT_EQ(SelKey, "Main") << "nothing before the release";
+        Release(at.x(), at.y());
+        EXPECT_EQ(SelControl, &c.selected) << c.pressed.Name;
+        EXPECT_EQ(SelKey, "") << c.pressed.Name;
+        EXPECT_EQ(windows_.panel.opened, 1) << c.pressed.Name;
+        EXPECT_FALSE(anchors().Anchor[0]->isVisible()) << c.pressed.Name;
+        objSkin->Dirty = false;
+        Key(Qt::Key_Right);
+        Key(Qt::Key_Delete);
+        EXPECT_FALSE(objSkin->Dirty) << "no key moves it";
+        Compose();
+        EXPECT_EQ(SelControl, &c.selected) << "nor does a composition let it go";
+        fourth.show();
+    }
+}
+
+TEST_F(SampleClicksTest, WhatOnlyAdornsThePanelLeavesThePressToIt) {
+    const QPoint betweenKeys = host().pKeyb.mapTo(form_.get(), QPoint(host().KeyU.geometry().right() + 2, 9));
+    const QPoint shadow = host().but_Shadow.mapTo(form_.get(), host().but_Shadow.rect().bottomRight());
+    for (const QPoint& at : {betweenKeys, shadow}) {
+        anchors().ResetSelection();
+        Click(at.x(), at.y());
+        EXPECT_EQ(SelKey, "Main");
+    }
+    const QPoint song = In(host().but_Song);
+    anchors().ResetSelection();
+    Press(song.x(), song.y());
+    Release(Bare.x(), Bare.y());
+    EXPECT_EQ(SelControl, nullptr) << "released elsewhere";
+}
+
+TEST_F(SampleClicksTest, TheSampleFollowsThePanelsSize) {
+    const Rect keys = host().pKeyb.Bounds();
+    Click(Bare.x(), Bare.y());
+    const QPoint corner = In(*anchors().Anchor[4]);
+    Drag(corner, {-40, -60});
+    EXPECT_EQ(host().pKeyb.Bounds(), (Rect{keys.left, keys.top - 60, keys.width, keys.height}));
+    EXPECT_EQ(host().lbl_SL[27].Bounds().top, 26 * (439 / 26));
+    Key(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(host().pKeyb.Bounds().top, keys.top - 61);
+}
+
+}  // namespace
+}  // namespace ornavo::testing

@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+#include "render/kiosk_panel.h"
+
+#include "document/codes.h"
+#include "render/search_letters.h"
+#include "render/standard_elements.h"
+#include "render/style_builders.h"
+#include "support/failure_number.h"
+#include "support/scripted_prompts.h"
+#include "support/skin_fixture.h"
+
+namespace ornavo::testing {
+namespace {
+
+class KioskPanelTest : public SkinTest {
+protected:
+    KioskPanelTest() { NewPanel(); }
+    ~KioskPanelTest() override { TargetLayout.reset(); }
+    /// A panel of that size with equal margins, composed.
+    void NewPanel(int width = 700, int height = 420, int margin = 10) {
+        objCurrentLayout->dbLayoutElements = std::make_shared<dbLayoutElements>();
+        dbLayoutElement& main = Add("Main", TypeMain, {0, 0, width, height});
+        main.MarginLeft = main.MarginTop = main.MarginRight = main.MarginBottom = margin;
+        Compose(target_);
+    }
+    static void Set(std::string_view key, Value value) {
+        objSkin->dbSkinPrefs->Item(key)->value = std::move(value);
+    }
+    static Value Get(std::string_view key) { return objSkin->dbSkinPrefs->Item(key)->value; }
+    static std::string Layers(const TileButton& button) {
+        std::string keys;
+        for (const TileLayer& layer : button.Elements) keys += layer.Key + ' ';
+        return keys;
+    }
+
+    ScriptedPrompts prompts_;
+    Target target_{800, 700};
+    LayoutHost& host_ = target_.host();
+};
+
+TEST_F(KioskPanelTest, EverythingFollowsFromTheMarginsAndAFewPreferences) {
+    Set("IN_Margin", 5);
+    Set("PI_HeightFactor", 2);
+    const int keys = host_.pKeyb.Bounds().height, rowsLeft = 10 + 40;
+    const struct {
+        int width, height, adSpace, pictureSize, songWidth, infoLeft, middle, keyTop;
+    } cases[] = {
+        {700, 420, 0, 200, 375, rowsLeft + 380, 200, 410 - keys},
+        {700, 421, 0, 200, 375, rowsLeft + 380, 200, 411 - keys},
+        {700, 420, 100, 150, 425, rowsLeft + 430, 150, 310 - keys},
+        {325, 420, 0, 200, 300, rowsLeft + 305, 200, 410 - keys},  // no row is left: a usual one
+        {324, 420, 0, 200, 300, rowsLeft + 4, 200, 410 - keys},    // less than none: the row keeps its width
+    };
+    for (const auto& c : cases) {
+        Set("SP_KioskAdSpace", c.adSpace);
+        NewPanel(c.width, c.height);
+        const int pictureLeft = c.width - c.pictureSize - 10;
+        EXPECT_EQ(host_.but_Picture.Bounds(), (Rect{pictureLeft, 10, c.pictureSize, c.pictureSize}));
+        EXPECT_EQ(host_.but_Shadow.Bounds(), (Rect{pictureLeft + 4, 14, c.pictureSize, c.pictureSize}));
+        EXPECT_EQ(host_.but_Song.Bounds(), (Rect{rowsLeft, 10, c.songWidth, 41}));
+        EXPECT_EQ(host_.but_Song2.Bounds(), (Rect{rowsLeft, 52, c.songWidth, 41}));
+        EXPECT_EQ(host_.but_Info.Bounds(), (Rect{c.infoLeft, 10, 40, 41}));
+        EXPECT_EQ(host_.lbl_Kiosk.Bounds().top, c.middle);
+        EXPECT_EQ(host_.lbl_KioskShadow.Bounds().top, c.middle + 1);
+        EXPECT_EQ(host_.pKeyb.Bounds().top, c.keyTop);
+        EXPECT_EQ(host_.pKeyb.Bounds().left, rowsLeft);
+        EXPECT_EQ(host_.kLine[0]->X2(), c.width);
+        EXPECT_EQ(host_.kLine[1]->Y1(), c.height - c.adSpace - 20);
+        const Rect addAll = host_.but_AddAll.Bounds();
+        EXPECT_EQ(addAll.left + addAll.width, pictureLeft + c.pictureSize + 1);
+        EXPECT_EQ(addAll.top + addAll.height, 10 + c.pictureSize);
+    }
+}
+
+TEST_F(KioskPanelTest, AStatementThatFailsIsLeftOutAlone) {
+    const Rect before = host_.but_Picture.Bounds();
+    objSkin->dbSkinPrefs->Remove("IN_Width");
+    Set("IN_ShadowColor", "no colour");
+    Set("IN_ShadowDistance", 7);
+    Set("PI_TextAlign", "no number");
+    Set("PI_HeightFactor", 0);
+    Compose(target_);
+    EXPECT_EQ(host_.but_Info.Bounds().width, 40);
+    EXPECT_EQ(host_.but_Info.State.ShadowDistance, 7);
+    EXPECT_EQ(host_.but_Picture.Bounds(), (Rect{690, 10, 0, 0})) << before.left;
+    EXPECT_TRUE(host_.pKeyb.isVisible());
+    EXPECT_TRUE(prompts_.asked.empty());
+    Set("SL_Width", 2147483647);
+    Set("SP_KioskAdSpace", "2147483647");
+    Set("SO_Margin", "-2147483648");
+    Compose(target_);
+    objCurrentLayout->dbLayoutElements = std::make_shared<dbLayoutElements>();
+    LayoutKioskPanel();
+    EXPECT_TRUE(prompts_.asked.empty());
+}
+
+TEST_F(KioskPanelTest, TheLabelShowsWhereThereIsRoomForIt) {
+    const struct {
+        double factor;
+        bool shadow, label, labelShadow;
+    } cases[] = {{1, true, false, false}, {1.01, true, true, true}, {1.01, false, true, false}};
+    for (const auto& c : cases) {
+        Set("PI_HeightFactor", c.factor);
+        Set("PI_TextShadow", c.shadow);
+        LayoutKioskPanel();
+        EXPECT_EQ(host_.but_Label.isVisible(), c.label) << c.factor;
+        EXPECT_EQ(host_.but_LabelShadow.isVisible(), c.labelShadow) << c.factor;
+    }
+}
+
+/// What the families have in common and where they differ: "" stands for what a family leaves alone.
+TEST_F(KioskPanelTest, EachFamilyTakesItsPreferences) {
+    Picture("tile.bmp", Qt::red);
+    const struct {
+        TileButton& button;
+        std::string prefix, pictures;
+        bool border, size, smooth;
+    } families[] = {{host_.but_Info, "IN", "IN", true, true, true},
+                    {host_.but_AddAll, "AA", "AA", true, false, true},
+                    {host_.but_Song, "SO", "SO", true, false, true},
+                    {host_.lbl_SL[2], "SL", "SL", true, false, true},
+                    {host_.KeyE, "KB", "KBE", false, false, false}};
+    for (const auto& f : families) {
+        const auto set = [&](const char* name, Value value) { Set(f.prefix + '_' + name, std::move(value)); };
+        set("Shadow", f.prefix == "KB");
+        set("ShadowDistance", 9);
+        set("ShadowColor", 1234);
+        set("Transparency", true);
+        if (f.border)
+            set("ShowBorder", true), set("BorderColor", 4321), set("Smooth", true), set("Rotation", 30);
+        if (f.size) set("Width", 50), set("Height", 51);
+        for (const char* name : {"_Picture", "_PictureOver", "_PictureDown"})
+            Set(f.pictures + name, "tile.bmp");
+        Compose(target_);
+        const TileState& state = f.button.State;
+        EXPECT_EQ(state.UseShadow, f.prefix == "KB") << f.prefix;
+        EXPECT_EQ(state.ShadowDistance, 9) << f.prefix;
+        EXPECT_EQ(state.ShadowColor, 1234) << f.prefix;
+        EXPECT_TRUE(state.UseTransparency && state.BackStyle == 0) << f.prefix;
+        EXPECT_TRUE(state.ShowBorder == f.border && (state.BorderColor == 4321) == f.border) << f.prefix;
+        EXPECT_EQ(state.ShowSmooth, f.smooth) << f.prefix;
+        EXPECT_EQ(state.UseRotation ? state.Rotation : 0, f.border ? 30 : 0) << f.prefix;
+        EXPECT_EQ(f.button.Bounds().width == 50, f.size) << f.prefix;
+        for (const PictureRef& picture : {f.button.Picture, f.button.PictureOver, f.button.PictureDown})
+            EXPECT_TRUE(picture) << f.prefix;
+        EXPECT_EQ(Layers(f.button), f.prefix == "KB" ? "Key "
+                                    : f.prefix == "SO"
+                                        ? "Song Icon Artist Favorite Party Star0 Star1 Star2 Star3 Star4 "
+                                        : "Caption ");
+    }
+    EXPECT_EQ(host_.KeyN.Elements.Item("Key").Text, "X");
+    Set("KBU_Caption", "U");
+    SetupKey(host_.KeyU, "KBU");
+    EXPECT_EQ(host_.KeyU.Elements.Item("Key").Text, "U");
+}
+
+TEST_F(KioskPanelTest, ARowOfOneLineHasNoMarksAndStarsGrowFromTheirEnd) {
+    SetupSongButton(host_.but_Song2, 0);
+    SetupSongButton(host_.but_Song2, 1);
+    EXPECT_EQ(Layers(host_.but_Song2), "Song Icon ");
+    EXPECT_EQ(host_.but_Song2.Elements.Item("Song").Text, "Trance");
+    Set("SOD_IconsRateX", 100);
+    const struct {
+        int alignment;
+        float first, last;
+    } cases[] = {{0, 100, 156}, {1, 156, 100}, {2, 79, 135}};
+    for (const auto& c : cases) {
+        Set("SOD_IconsRateAlign", c.alignment);
+        SetupSongButton(host_.but_Song, 0);
+        EXPECT_EQ(host_.but_Song.Elements.Item("Star0").Left, c.first) << c.alignment;
+        EXPECT_EQ(host_.but_Song.Elements.Item("Star4").Left, c.last) << c.alignment;
+    }
+    const ImageList& icons = host_.img_Kiosk;
+    EXPECT_EQ(host_.but_Song.Elements.Item("Star3").Picture, icons.Item("starfull"));
+    EXPECT_EQ(host_.but_Song.Elements.Item("Star4").Picture, icons.Item("StarEmpty"));
+    for (const char* key :
+         {"StarHalf",  "Lyrics",      "NoParty",        "NoFavorite",    "Rate",      "AlbumGenre",
+          "AlbumYear", "ArtistGenre", "LastPlayed",     "PLGen",         "Unplayed",  "db_Script",
+          "Category",  "Year",        "ArtistFavorite", "AlbumFavorite", "AlbumRate", "ArtistRate",
+          "Play",      "Stop",        "Artist",         "Album",         "Note"})
+        EXPECT_EQ(icons.Item(key)->fine.width(), 2 * icons.Item(key)->image.width()) << key;
+    EXPECT_EQ(FailureNumber([&] { icons.Item("StarThird"); }), 9);
+}
+
+TEST_F(KioskPanelTest, AFontThatIsShownFirstStaysInItsPreference) {
+    const std::pair<const char*, double> sizes[] = {
+        {"AA_Font", 22},       {"IN_Font", 18},       {"KB_Font", 16}, {"KBB_Font", 16},
+        {"KBU_Font", 16},      {"LA_Font", 16},       {"PI_Font", 8},  {"SOD_SongFontD", 13},
+        {"SOS_SongFontS", 13}, {"SOD_ArtistFont", 7}, {"SL_Font", 8}};
+    for (const auto& [key, size] : sizes) {
+        const dbSkinPref& pref = *objSkin->dbSkinPrefs->Item(key);
+        ASSERT_TRUE(pref.Font) << key;
+        EXPECT_EQ(pref.Font->Name, pref.value.ToText()) << key;
+        EXPECT_EQ(pref.Font->Size, size) << key;
+    }
+    EXPECT_FALSE(objSkin->dbSkinPrefs->Item("SP_ListFont")->Font) << "nobody shows it";
+    EXPECT_FALSE(objSkin->Dirty);
+}
+
+TEST_F(KioskPanelTest, WithoutTheTopLeftRuleTheStoredColourFollowsTheControl) {
+    const Colour key = 0x030201;
+    QImage picture(2, 2, QImage::Format_RGB32);
+    picture.fill(QColor(1, 2, 3));
+    ASSERT_TRUE(picture.save(Path("key.bmp")));
+    Set("IN_Transparency", true);
+    Set("IN_Picture", "key.bmp");
+    Set("IN_TransparentColor", 77);
+    Compose(target_);
+    EXPECT_EQ(Get("IN_TransparentColor"), Value(77)) << "with the rule it stays";
+    Set("IN_UseTopLeftTransparency", false);
+    Compose(target_);
+    EXPECT_EQ(Get("IN_TransparentColor"), Value(key));
+    Set("IN_TransparentColor", 55);
+    Compose(target_);
+    EXPECT_EQ(Get("IN_TransparentColor"), Value(key)) << "the control's wins";
+    Set("IN_TransparentColor", 55);
+    TakeTransparentColor("IN");
+    Compose(target_);
+    EXPECT_EQ(Get("IN_TransparentColor"), Value(55)) << "an edit does";
+    EXPECT_EQ(host_.but_Info.State.TransparentColor, 55);
+    objSkin = std::make_shared<dbSkin>();
+    Set("IN_UseTopLeftTransparency", "False");
+    Set("IN_TransparentColor", 33);
+    Compose(target_);
+    EXPECT_EQ(Get("IN_TransparentColor"), Value(33)) << "another skin's is not taken";
+}
+
+TEST_F(KioskPanelTest, TheBarsColourGoesToItsElementButToNoOtherLayouts) {
+    dbLayoutElement& bar = Add("Scrollbar", TypeScrollbar, {720, 0, 40, 400});
+    bar.TransparentColor = 11;
+    Compose(target_);
+    bar.TransparentColor = 22;
+    SetupScrollBar(host_.ScrollBar, bar);
+    EXPECT_EQ(bar.TransparentColor, 11);
+    objCurrentLayout = objSkin->AddNewLayout("Other");
+    dbLayoutElement& other = *objCurrentLayout->dbLayoutElements->Item("Scrollbar");
+    other.TransparentColor = 44;
+    Compose(target_);
+    EXPECT_EQ(other.TransparentColor, 44);
+}
+
+TEST_F(KioskPanelTest, TheLettersFillTheColumn) {
+    const struct {
+        int height, adSpace;
+        bool border;
+        int rowHeight, fillerTop, fillerHeight;
+    } cases[] = {{261, 0, false, 10, 260, 1}, {520, 0, true, 19, 494, 26}, {561, 300, true, 10, 260, 1}};
+    for (const auto& c : cases) {
+        Set("SL_ShowBorder", c.border);
+        Set("SP_KioskAdSpace", c.adSpace);
+        for (int run = 0; run < 2; ++run) {
+            NewPanel(700, c.height);
+            ASSERT_EQ(host_.lbl_SL.Top(), 27);
+            for (int row = 1; row <= 26; ++row) {
+                EXPECT_EQ(host_.lbl_SL[row].Bounds(),
+                          (Rect{0, (row - 1) * c.rowHeight, 40, c.rowHeight + c.border}))
+                    << row;
+                EXPECT_TRUE(host_.lbl_SL[row].isVisible());
+            }
+            EXPECT_EQ(host_.lbl_SL[27].Bounds(), (Rect{0, c.fillerTop, 40, c.fillerHeight}));
+            EXPECT_FALSE(host_.lbl_SL[0].isVisible());
+        }
+    }
+    NewPanel(700, 1, 0);
+    EXPECT_EQ(host_.lbl_SL[26].Bounds().top, 0) << "no room: all at the top";
+}
+
+TEST_F(KioskPanelTest, TheSampleOfASelectedLetterIsT) {
+    Picture("row.bmp", Qt::red);
+    Picture("on.bmp", Qt::green);
+    for (const char* key : {"SL_Picture", "SL_PictureOver", "SL_PictureDown"}) Set(key, "row.bmp");
+    Set("SL_PictureOn", "on.bmp");
+    Set("SL_TextColor", 1);
+    Set("SL_SelTextColor", 2);
+    Set("SL_FontSizeFactor", 0.75);
+    NewPanel(700, 521);
+    for (int row = 1; row <= 26; ++row) {
+        TileButton& letter = host_.lbl_SL[row];
+        TileLayer& layer = letter.Elements.Item("Caption");
+        EXPECT_EQ(layer.Text, std::string(" ") + static_cast<char>('A' + row - 1) + " ");
+        EXPECT_EQ(layer.ForeColor, row == 20 ? 2 : 1);
+        EXPECT_EQ(layer.Font.Size, 10);
+        EXPECT_EQ(letter.Picture->image.pixelColor(0, 0), QColor(row == 20 ? Qt::green : Qt::red));
+    }
+    EXPECT_EQ(host_.lbl_SL[27].Elements.Item("Caption").Text, "");
+    EXPECT_FALSE(host_.lbl_SL[27].PictureOver || host_.lbl_SL[27].PictureDown);
+    EXPECT_EQ(objSkin->dbSkinPrefs->Item("SL_Font")->Font->Size, 8)
+        << "the column's size is not the preference's";
+}
+
+TEST_F(KioskPanelTest, TheSearchBoxHasItsPreferencesFromFilesAlone) {
+    Add("Search", TypeSearchBox, {0, 0, 100, 30}).BackgroundColor = 5;
+    Compose(target_);
+    SetupSearchBox(host_.tbx_Search);
+    EXPECT_EQ(host_.tbx_Search.BackColor(), 5);
+    objSkin->dbSkinPrefs->Add("TB_BackColor", "", 6, 1);
+    SetupSearchBox(host_.tbx_Search);
+    EXPECT_EQ(host_.tbx_Search.BackColor(), 6);
+}
+
+}  // namespace
+}  // namespace ornavo::testing
