@@ -261,6 +261,7 @@ TEST_F(KioskPanelTest, TheLettersFillTheColumn) {
             EXPECT_FALSE(host_.lbl_SL[0].isVisible());
         }
     }
+    Set("SP_KioskAdSpace", 0);
     NewPanel(700, 1, 0);
     EXPECT_EQ(host_.lbl_SL[26].Bounds().top, 0) << "no room: all at the top";
 }
