@@ -8,23 +8,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 
+#include "cli/tool.h"
+
+namespace ornavo::testing {
 namespace {
-
-struct Outcome {
-    int code;
-    QByteArray out, err;
-};
-
-Outcome RunTool(const QStringList& words) {
-    QProcess tool;
-    tool.start(QStringLiteral(ORNAVO_BINARY_DIR "/ornavo-cli"), words);
-    tool.waitForFinished(60'000);
-    return {tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1, tool.readAllStandardOutput(),
-            tool.readAllStandardError()};
-}
 
 const char* const SkinText =
     "<Skin>\n<SkinWidth>100</SkinWidth>\n<SkinHeight>80</SkinHeight>\n"
@@ -48,10 +37,6 @@ protected:
         QDir(folder_.path()).mkdir("Blue");
         QFile file(skin_ + "/SkinSettings.xml");
         if (file.open(QIODevice::WriteOnly)) file.write(SkinText);
-    }
-    QByteArray Bytes(const QString& path) const {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
     }
     QTemporaryDir folder_;
     QString skin_ = folder_.filePath("Blue");
@@ -166,3 +151,4 @@ TEST_F(ToolTest, ExitCodes) {
 }
 
 }  // namespace
+}  // namespace ornavo::testing

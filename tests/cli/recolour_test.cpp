@@ -3,28 +3,23 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <cstdlib>
 
+#include "cli/tool.h"
+
+namespace ornavo::testing {
 namespace {
 
 class RecolourTest : public ::testing::Test {
 protected:
     int Run(const QStringList& words) {
-        QProcess tool;
-        tool.start(QStringLiteral(ORNAVO_BINARY_DIR "/ornavo-cli"), QStringList("recolour") + words);
-        tool.waitForFinished(60'000);
-        said_ = tool.readAllStandardError();
-        return tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1;
+        const Outcome outcome = RunTool(QStringList("recolour") + words);
+        said_ = outcome.err;
+        return outcome.code;
     }
     QString Path(const QString& name) const { return folder_.filePath(name); }
-    QByteArray Bytes(const QString& name) const {
-        QFile file(Path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     /// Three pixels wide: the padding of a row is a pixel's worth.
     void MakePicture(const QString& name, QRgb top, QRgb bottom) const {
         QImage picture(3, 2, QImage::Format_ARGB32);
@@ -40,7 +35,7 @@ TEST_F(RecolourTest, BmpHasLongHeadersAndTheBottomRowFirst) {
     MakePicture("in.png", qRgb(255, 0, 0), qRgb(10, 200, 30));
     ASSERT_EQ(Run({Path("in.png"), Path("OUT.BMP"), "--hue", "20", "--saturation", "100"}), 0);
     EXPECT_TRUE(said_.isEmpty()) << said_.constData();
-    const QByteArray bytes = Bytes("OUT.BMP");
+    const QByteArray bytes = Bytes(Path("OUT.BMP"));
     ASSERT_EQ(bytes.size(), 58 + 2 * 12);
     EXPECT_EQ(bytes.mid(58, 3).toHex(), "6b4092");      // 10, 200, 30 recoloured
     EXPECT_EQ(bytes.mid(58 + 9, 3).toHex(), "000000");  // padding recoloured: black stays black
@@ -60,7 +55,7 @@ TEST_F(RecolourTest, JpegIsOfTheBestQuality) {
     EXPECT_LE(std::abs(qRed(got) - qRed(wanted)), 2);
     EXPECT_LE(std::abs(qGreen(got) - qGreen(wanted)), 2);
     EXPECT_LE(std::abs(qBlue(got) - qBlue(wanted)), 2);
-    EXPECT_EQ(Bytes("out.jpg").left(2).toHex(), "ffd8");
+    EXPECT_EQ(Bytes(Path("out.jpg")).left(2).toHex(), "ffd8");
 }
 
 TEST_F(RecolourTest, TransparencyIsToldAndPutOnWhite) {
@@ -102,3 +97,4 @@ TEST_F(RecolourTest, RefusesAndWritesNothing) {
 }
 
 }  // namespace
+}  // namespace ornavo::testing
