@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: MIT
+// Which rows a selection shows, what stands in them, and how the keyboard walks them.
+#include "properties/sheet_fixture.h"
+
+namespace ornavo::testing {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+Texts Captions(const Sheet& sheet, bool headings) {
+    Texts texts;
+    for (const SheetRow& row : sheet)
+        if ((row.kind == KindHeading) == headings) texts.push_back(row.caption);
+    return texts;
+}
+
+bool Has(const Sheet& sheet, std::string_view key) {
+    return std::any_of(sheet.begin(), sheet.end(), [&](const SheetRow& row) { return row.key == key; });
+}
+
+TEST(RowKeys, SplitAtTheFirstPointAndJoinInAButtonsTag) {
+    const struct {
+        const char *key, *owner, *member;
+    } keys[] = {
+        {"LeftX", "", "LeftX"}, {"SP_A.Value", "SP_A", "Value"}, {"a.b.c", "a", "b.c"}, {".x", "", "x"}};
+    for (const auto& row : keys) {
+        EXPECT_EQ(GetClass(row.key), row.owner) << row.key;
+        EXPECT_EQ(GetMethod(row.key), row.member) << row.key;
+    }
+    EXPECT_EQ((ButtonTag{KindColour, 12, "TextColor"}.Text()), "00010012TextColor");
+    EXPECT_EQ((ButtonTag{KindFont, 12345, "Font"}.Text()), "00042345Font");
+    const ButtonTag read = ButtonTag::Of("00050007SP_A.Value");
+    EXPECT_EQ(read.kind, KindPicture);
+    EXPECT_EQ(read.row, 7);
+    EXPECT_EQ(read.key, "SP_A.Value");
+    EXPECT_THROW(ButtonTag::Of("0005"), Failure);
+}
+
+TEST(ElementRows, ComeAndGoWithActionTypeAndInfoType) {
+    const struct {
+        const char* control;
+        int type, action, info;
+        Texts shown, absent;
+    } cases[] = {
+        {"Element", TypeButton, 1, 0, {"ActionType", "Rotation"}, {"Value", "dbScript", "Resizer"}},
+        {"Element", TypeButton, 10, 0, {"Value"}, {"dbScript"}},
+        {"Element", TypeButton, 12, 0, {"dbScript"}, {"Value"}},
+        {"Element", TypePicture, 10, 0, {"dbScript", "Dragger", "IsSearch"}, {"ActionType", "Value"}},
+        {"pMain", TypeButton, 10, 0, {"MarginLeft", "StretchBackground"}, {"ActionType", "Value", "Visible"}},
+        {"tbx_Search", TypeSearchBox, 0, 0, {"Font", "ShowBorder"}, {"BorderColor"}},
+        {"Scrollframe", TypeScrollbar, 0, 0, {"PicOn", "TransparentColor"}, {"Caption", "PicDisabled"}},
+        {"pInfo", TypeInfo, 0, 0, {"InfoField", "Seeker", "Font"}, {"VolumeChangeable"}},
+        {"pInfo", TypeInfo, 0, 1, {"Seeker", "CapScrollSpeed"}, {"InfoField"}},
+        {"pInfo", TypeInfo, 0, 20, {"InfoField", "Seeker"}, {"Value"}},
+        {"pInfo", TypeInfo, 0, 5, {"Value", "VolumeChangeable", "Visible"}, {"InfoField", "Seeker", "Font"}},
+    };
+    for (const auto& row : cases) {
+        dbLayoutElement element;
+        element.ElementType = row.type;
+        element.ActionType = row.action;
+        element.InfoType = row.info;
+        const Sheet sheet = ElementSheet(row.control, element);
+        for (const std::string& key : row.shown) EXPECT_TRUE(Has(sheet, key)) << row.control << ' ' << key;
+        for (const std::string& key : row.absent) EXPECT_FALSE(Has(sheet, key)) << row.control << ' ' << key;
+    }
+    EXPECT_TRUE(ElementSheet("ScrollBar", {}).empty());
+}
+
+TEST(SampleRows, NobodyIsForgotten) {
+    const dbSkin skin;
+    const struct {
+        const char* control;
+        const char* heading;
+        std::size_t rows;  // with headings
+        Texts headings;    // below the first
+    } cases[] = {
+        {"btn_SkinProperties",
+         "Skin Properties",
+         25,
+         {"Editor", "General Colors", "Fonts and Colors Admin Mode", "Fonts & Colors Bar Mode",
+          "Misc Kiosk"}},
+        {"cmd_Button", "Command Button (1 Row) - 44 x 40 Pixel", 1, {}},
+        {"cmd_Button2", "Command Button (2 Rows) - 44 x 40 Pixel", 1, {}},
+        {"but_AddAll", "Add All Button - 44 x 40 Pixel", 21, {"Pictures", "Misc"}},
+        {"but_Info", "Info Button", 24, {"Pictures", "Misc"}},
+        {"but_Song", "Main Button (Song & Artist)", 44, {"Song", "Artist", "Pictures", "Misc", "Icons"}},
+        {"but_Song2", "Main Button (Song only)", 31, {"Song", "Pictures", "Misc", "Icons"}},
+        {"KeyN", "Key General - 44 x 40 Pixel", 14, {"Pictures", "Misc"}},
+        {"KeyE", "Key Enter - 44 x 40 Pixel", 14, {"Pictures", "Misc"}},
+        {"KeyS", "Key Space - 44 x 40 Pixel", 14, {"Pictures", "Misc"}},
+        {"KeyU", "Key Shift - 44 x 40 Pixel", 16, {"Pictures", "Misc"}},
+        {"KeyB", "Key Backspace - 44 x 40 Pixel", 16, {"Pictures", "Misc"}},
+        {"lbl_SL", "Search Letters", 24, {"Pictures", "Misc"}},
+        {"but_Picture", "Album/Artist Picture", 22, {"Picture", "Misc", "Misc"}},
+        {"lbl_Kiosk", "General Labels", 5, {}},
+    };
+    for (const auto& row : cases) {
+        const Sheet sheet = SampleSheet(*skin.dbSkinPrefs, row.control, {7, 8, 44, 40});
+        ASSERT_FALSE(sheet.empty()) << row.control;
+        EXPECT_EQ(sheet.front().caption, row.heading);
+        EXPECT_EQ(sheet.size(), row.rows) << row.control;
+        Texts headings = Captions(sheet, true);
+        headings.erase(headings.begin());
+        EXPECT_EQ(headings, row.headings) << row.control;
+    }
+    EXPECT_TRUE(SampleSheet(*skin.dbSkinPrefs, "ScrollBar", {}).empty());
+    const Sheet key = SampleSheet(*skin.dbSkinPrefs, "KeyE", {});
+    EXPECT_TRUE(Has(key, "KB_Font.Font") && Has(key, "KBE_Picture.Value"));
+    EXPECT_FALSE(Has(key, "KBN_Picture.Value"));
+}
+
+TEST(SampleRows, OpenTheirHeadingsOnce) {
+    dbSkinPrefs prefs;
+    prefs.Add("XX_A", "Normal", "", KindPicture);
+    prefs.Add("XX_B", "NORMAL Show Border", "",
+              KindPicture);  // is not above its own kind again, so opens Misc
+    prefs.Add("xx_C", "Other", "", KindText);
+    prefs.Add("XX_D", "Normal", Value(), KindFont);
+    Sheet sheet;
+    AddSkinProp(sheet, prefs, "XX", "");
+    EXPECT_EQ(Captions(sheet, true), (Texts{"Pictures", "Misc"}));
+    EXPECT_EQ(sheet.size(), 5u);
+}
+
+TEST_F(SheetTest, ControlsAreReusedAndComeBackAsNew) {
+    const auto loaded = [&] {
+        const RowPools& p = pools();
+        return std::vector<int>{p.lbl_Prop.Top(), p.tbx_Prop.Top(),    p.chk_Boolean.Top(),
+                                p.btn_Prop.Top(), p.btn_PicEdit.Top(), p.cboPic.Top()};
+    };
+    const std::vector<const char*> all = {
+        "btn_SkinProperties", "but_Song", "Element", "pMain", "lbl_SL", "KeyB"};
+    for (const char* name : all) Select(name);
+    const std::vector<int> once = loaded();
+    for (int i = 0; i < 3; ++i)
+        for (const char* name : all) Select(name);
+    EXPECT_EQ(loaded(), once);
+    Select("lbl_Kiosk");  // font, colour, boolean, colour: locked boxes and painted ones
+    Select("KeyN");       // and now texts on the same boxes
+    for (int i = 1; i <= pools().tbx_Prop.Top(); ++i) {
+        const RowText& box = pools().tbx_Prop[i];
+        if (box.isHidden()) continue;
+        const bool locked = box.Tag.ends_with(".Font") || Check(box.Tag);
+        EXPECT_EQ(box.Locked(), locked) << box.Tag;
+        const bool painted = box.Tag.find("Color") != std::string::npos;
+        EXPECT_EQ(box.BackColor() != WindowBackground, painted) << box.Tag;
+    }
+    int headings = 0;
+    for (int i = 1; i <= pools().lbl_Prop.Top(); ++i) headings += pools().lbl_Prop[i].Tag == "Label";
+    EXPECT_EQ(headings, 3);
+}
+
+TEST_F(SheetTest, ARowsControlsShowItsValueAndStandInItsPlace) {
+    element().TextColor = ColourOf(0x00FF8000);
+    element().Visible = false;
+    element().PicOver = "over.png";
+    Select("Element");
+    EXPECT_EQ(Box("Font")->Text(), "<undefined>");
+    EXPECT_TRUE(Box("Font")->Locked());
+    EXPECT_EQ(Box("TextColor")->Text(), "16744448");
+    EXPECT_EQ(Box("TextColor")->palette().base().color(), QColor(0, 128, 255));
+    EXPECT_FALSE(Check("Visible")->Value());
+    EXPECT_EQ(Box("PicOver")->Text(), "over.png");
+    const RowText& over = *Box("PicOver");
+    EXPECT_EQ(over.y() % RowPitch, 0);
+    const int right = panel_.ScaleWidth();
+    int found = 0;
+    for (const Pool<TileCommand>* pool : {&pools().btn_Prop, &pools().btn_PicEdit})
+        for (int i = 1; i <= pool->Top(); ++i) {
+            const TileCommand& button = (*pool)[i];
+            if (button.Tag != ButtonTag{KindPicture, over.Index, "PicOver"}.Text()) continue;
+            ++found;
+            const bool edits = pool == &pools().btn_PicEdit;
+            EXPECT_EQ(button.toolTip(), edits ? "Edit Picture" : "Select");
+            EXPECT_EQ(button.y(), over.y() - 1);
+            EXPECT_EQ(button.x() + button.width(), edits ? right - button.width() : right);
+        }
+    EXPECT_EQ(found, 2);
+    element().TextColor = ColourOf(0x7F000000);  // no colour: the box stays white
+    Select("Element");
+    EXPECT_EQ(Box("TextColor")->BackColor(), WindowBackground);
+}
+
+TEST_F(SheetTest, ListsAreTheCodeTables) {
+    element().ActionType = 55;
+    Select("Element");
+    const struct {
+        const char* key;
+        QStringList items;
+        int chosen;
+    } cases[] = {
+        {"ElementType", Names(ElementTypeNames), TypeButton},
+        {"ActionType", Names(ActionTypeNames), 55},
+        {"ShowElement", {"Main", "Search (hidden)", "Scroll (hidden)", "Play"}, 3},
+    };
+    for (const auto& row : cases) {
+        const RowCombo* combo = Combo(row.key);
+        ASSERT_NE(combo, nullptr) << row.key;
+        QStringList items;
+        for (int i = 0; i < combo->count(); ++i) items += combo->itemText(i);
+        EXPECT_EQ(items, row.items) << row.key;
+        EXPECT_EQ(combo->ListIndex(), row.chosen) << row.key;
+    }
+    EXPECT_EQ(Combo("ActionType")->itemText(38), "K/Spec Songs Favorite");
+    element().ActionType = 56;
+    Select("Element");
+    EXPECT_EQ(Combo("ActionType")->ListIndex(), -1);
+}
+
+TEST_F(SheetTest, APointIsFoundByItsOrder) {
+    objCurrentLayout->AddDummyPoints();
+    objCurrentLayout->dbPoints->Item(1)->Order = 9;  // its key still says 1
+    objCurrentLayout->dbPoints->Item(1)->X = 77;
+    Select("cPointMover", "K9");
+    EXPECT_EQ(pools().lbl_Prop[1].text(), " Position (9)");
+    EXPECT_EQ(Box("X")->Text(), "77");
+    EXPECT_EQ(Combo("VAlign")->itemText(1), "Middle");
+    SetRowValue(panel_.parts().BoundObject, "X", "78");
+    EXPECT_EQ(objCurrentLayout->dbPoints->Item(1)->X, 78);
+}
+
+TEST_F(SheetTest, NothingSelectedKeepsTheOldRows) {
+    Select("lbl_Kiosk");
+    SelControl = nullptr;
+    panel_.ShowProperties();
+    EXPECT_NE(Box("LA_TextColor.Value"), nullptr);
+}
+
+TEST_F(SheetTest, TabWalksTheValuesAndTheFocusStaysInItsRow) {
+    Select("lbl_Kiosk");
+    panel_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel_));
+    Box("LA_Font.Font")->setFocus();
+    for (const char* key :
+         {"LA_TextColor.Value", "LA_Shadow.Value", "LA_ShadowColor.Value", "LA_Font.Font"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QWidget* wanted = Check(key) ? static_cast<QWidget*>(Check(key)) : Box(key);
+        EXPECT_EQ(QApplication::focusWidget(), wanted) << key;
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    Box("LA_ShadowColor.Value")->setCursorPosition(1);
+    panel_.ShowProperties();
+    ASSERT_EQ(QApplication::focusWidget(), Box("LA_ShadowColor.Value"));
+    EXPECT_EQ(Box("LA_ShadowColor.Value")->cursorPosition(), 1);
+    EXPECT_EQ(canvas_.composed, 0);  // filling rows is no edit
+    EXPECT_FALSE(panel_.tmrUpdate.isActive());
+}
+
+TEST_F(SheetTest, TheWheelChangesOnlyAListWithTheFocus) {
+    Select("Element");
+    RowCombo* combo = Combo("ActionType");
+    const auto turn = [&] {
+        QWheelEvent wheel({2, 8}, combo->mapToGlobal(QPointF(2, 8)), {}, {0, -120}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(combo, &wheel);
+        return combo->ListIndex();
+    };
+    EXPECT_EQ(turn(), 0);
+    panel_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel_));
+    combo->setFocus();
+    EXPECT_EQ(turn(), 1);
+    EXPECT_EQ(element().ActionType, 1);
+}
+
+TEST_F(SheetTest, HeightFollowsTheRowsAndWidthIsKept) {
+    Select("lbl_Kiosk");
+    EXPECT_EQ(panel_.height(), 5 * RowPitch - 1);
+    panel_.resize(400, panel_.height());
+    EXPECT_EQ(Box("LA_TextColor.Value")->width(), 300);
+    const int most = panel_.screen()->availableGeometry().height();
+    for (int i = 0; i < most / RowPitch; ++i)
+        objSkin->dbSkinPrefs->Add("LA_" + std::to_string(i), "More", "", KindText);
+    panel_.ShowProperties();
+    EXPECT_LT(panel_.height(), most);
+    EXPECT_LE(panel_.y() + panel_.height(), most);
+    panel_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel_));
+    Box("LA_Font.Font")->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);  // the last row, far below
+    EXPECT_FALSE(QApplication::focusWidget()->visibleRegion().isEmpty());
+    panel_.close();
+    EXPECT_EQ(settings::PropertiesWidth.Read(), 408 * TwipsPerPixel);
+}
+
+}  // namespace
+}  // namespace ornavo::testing
