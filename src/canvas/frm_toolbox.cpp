@@ -21,9 +21,11 @@ namespace ornavo {
 namespace {
 
 constexpr int PictureSize = 32, SmallPictureSize = 16;  // pixels
-constexpr int Margin = 6, RowGap = 3;
+constexpr int Margin = 4, RowGap = 2;
 constexpr int LeastColumn = 76;  // the window's title wants room too
 constexpr int SpacingWidth = 64;
+constexpr int CheckHeight = 16, SpacingHeight = 20,
+              CommandHeight = 23;  // low, so that the magnifier has room below
 
 QFrame* Separator(QWidget* parent, const char* name) {
     auto* line = new QFrame(parent);
@@ -94,6 +96,7 @@ QCheckBox* frm_Toolbox::Check(const char* name, const char* caption, const char*
     box->setObjectName(QLatin1String(name));
     box->setToolTip(QLatin1String(tip));
     box->setFont(ScreenFont({}));
+    box->setFixedHeight(CheckHeight);
     return box;
 }
 
@@ -102,7 +105,7 @@ QLineEdit* frm_Toolbox::Spacing(const char* name, const char* says) {
     box->setObjectName(QLatin1String(name));
     box->setAccessibleName(QLatin1String(says));
     box->setFont(ScreenFont({}));
-    box->setFixedWidth(SpacingWidth);
+    box->setFixedSize(SpacingWidth, SpacingHeight);
     box->setAlignment(Qt::AlignRight);
     return box;
 }
@@ -135,9 +138,11 @@ void frm_Toolbox::Arrange() {
         grid->addWidget(box, row++, 1, Qt::AlignRight);
     }
     across(Separator(this, "Line2"));
+    for (TileCommand* command : {btn_Preview, btn_ResetView, btn_Magnifier})
+        command->setFixedHeight(CommandHeight);
     across(btn_Preview);
-    across(btn_ResetView);
-    across(btn_Magnifier);
+    grid->addWidget(btn_ResetView, row, 0);
+    grid->addWidget(btn_Magnifier, row, 1);
 }
 
 void frm_Toolbox::Connect() {

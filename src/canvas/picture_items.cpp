@@ -13,12 +13,9 @@
 #include "document/current_skin.h"
 #include "editor/selection.h"
 #include "platform/picture_bytes.h"
-#include "render/element_button.h"
-#include "render/element_info.h"
 #include "render/layout_host.h"
+#include "render/redraw.h"
 #include "render/skin_picture.h"
-#include "render/standard_elements.h"
-#include "render/target.h"
 
 namespace ornavo {
 namespace {
@@ -70,36 +67,6 @@ QImage PixelsOf(QWidget& canvas, const Rect& bounds) {
     return pixels;
 }
 
-struct Redraw {
-    std::string_view name;
-    void (*setUp)(LayoutHost&, Control&, dbLayoutElement&);
-};
-constexpr std::array Redraws = {
-    Redraw{"Element",
-           [](LayoutHost&, Control& control, dbLayoutElement& element) {
-               SetupElementButton(static_cast<TileButton&>(control), element, false);
-           }},
-    Redraw{"pInfo",
-           [](LayoutHost&, Control& control, dbLayoutElement& element) {
-               SetupInfoElement(static_cast<PictureBox&>(control), element, false);
-           }},
-    Redraw{"pMain",
-           [](LayoutHost& host, Control&, dbLayoutElement& element) { SetupMainPanel(host, element); }},
-    Redraw{"tbx_Search", [](LayoutHost& host, Control&,
-                            dbLayoutElement& element) { SetupSearchElement(host.tbx_Search, element); }},
-};
-
-/// The element on its control once more, with the steps of the composition.
-void RedrawElement(LayoutHost& host, Control& control, dbLayoutElement& element) {
-    for (const Redraw& redraw : Redraws) {
-        if (redraw.name != control.Name) continue;
-        const Rect bounds = GetElementRect(element, TargetFrame);
-        if (bounds.width < 1 || bounds.height < 1) return control.Tag.clear();
-        control.Move(bounds);
-        redraw.setUp(host, control, element);
-    }
-}
-
 }  // namespace
 
 Size PicRealSize;
@@ -128,7 +95,7 @@ void UseBackgroundAsPicture(CanvasParts& parts) {
                           FileBytesOf(picCopyBackground, FileKind::Jpeg));
     }
     element->PicNormal = name;
-    Attempt([&] { RedrawElement(parts.host, *SelControl, *element); });
+    Attempt([&] { RedrawElement(*element); });
     parts.anchors.PlaceAnchors(SelControl, true);
 }
 

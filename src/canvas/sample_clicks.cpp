@@ -21,6 +21,7 @@ void Sample_MouseUp(CanvasParts& parts, Control& control, const Mouse& mouse) {
     if (!control.rect().contains(mouse.x, mouse.y)) return;
     parts.anchors.ResetSelection();
     SelControl = &FirstOf(parts.host, control);
+    SelKey.clear();  // a deleted element leaves its key
     parts.windows.properties().Open();
 }
 

@@ -42,6 +42,12 @@ QMessageBox::StandardButtons BoxButtons(Buttons buttons) {
     }
 }
 
+/// What a box means that went without a button.
+Answer Dismissed(Buttons buttons) {
+    if (buttons == Buttons::Ok) return Answer::Ok;
+    return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+}
+
 QString Shown(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -71,7 +77,7 @@ Answer QtPrompts::Message(std::string_view text, std::string_view title, Icon ic
         case QMessageBox::Cancel:
             return Answer::Cancel;
         default:
-            return buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
+            return Dismissed(buttons);
     }
 }
 

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// The end of the program: what the project panel asks, what its answers keep open, and what is saved.
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QTemporaryDir>
+
+#include "app/program.h"
+#include "base/failure.h"
+#include "base/files.h"
+#include "document/current_skin.h"
+#include "editor/settings_keys.h"
+#include "support/scripted_prompts.h"
+#include "support/step_layer.h"
+
+namespace ornavo::testing {
+namespace {
+
+template <class T>
+T& Window() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (auto* window = dynamic_cast<T*>(widget)) return *window;
+    throw std::runtime_error("a window is missing");
+}
+
+class ShutdownTest : public ::testing::Test {
+protected:
+    ShutdownTest() {
+        UseSettingsFile(folder_.filePath("settings.ini"));
+        objSkin = std::make_shared<dbSkin>();
+        objCurrentLayout = std::make_shared<dbLayout>();
+        program_ = std::make_unique<Program>("0.1", Folder(), Folder());
+        UsePrompts(&prompts_);
+        program_->Start("Blue");
+        objSkin->AddNewLayout("Standard")->AddDummyPoints();
+        Panel().ShowSkinProject();
+        program_->ToggleMagnifier();
+        QCoreApplication::processEvents();
+        objSkin->Dirty = true;
+    }
+    ~ShutdownTest() override {
+        UseFileLayer(nullptr);
+        program_.reset();
+    }
+    std::string Folder() const { return folder_.path().toStdString(); }
+    bool IsSaved() const { return FileExists(Folder() + "/Skins/Blue/SkinSettings.xml"); }
+    static frm_SkinProject& Panel() { return Window<frm_SkinProject>(); }
+    static frm_Ornavo& Main() { return Window<frm_Ornavo>(); }
+    static std::string Shown() {
+        std::string names;
+        for (const char* name : {"frm_Ornavo", "frm_SkinProject", "frm_Toolbox", "frm_Magnifier"})
+            for (QWidget* widget : QApplication::topLevelWidgets())
+                if (widget->objectName() == name && widget->isVisible()) names += std::string(name) + ' ';
+        return names;
+    }
+
+    QTemporaryDir folder_;
+    ScriptedPrompts prompts_;
+    std::unique_ptr<Program> program_;
+};
+
+TEST_F(ShutdownTest, AnUnchangedSkinAsksNothing) {
+    ASSERT_EQ(Shown(), "frm_Ornavo frm_SkinProject frm_Toolbox frm_Magnifier ");
+    objSkin->Dirty = false;
+    Main().move(120, 90);
+    EXPECT_TRUE(Main().close());
+    EXPECT_EQ(Shown(), "");
+    EXPECT_TRUE(prompts_.asked.empty());
+    EXPECT_EQ(settings::OrnavoLeft.Read(), 1800);
+    EXPECT_EQ(settings::OrnavoTop.Read(), 1350);
+}
+
+TEST_F(ShutdownTest, YesSavesAndNoDoesNot) {
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        prompts_.answers = {answer};
+        objSkin->Dirty = true;
+        Main().show();
+        Panel().show();
+        EXPECT_TRUE(Main().close());
+        EXPECT_EQ(Shown(), "");
+        EXPECT_EQ(IsSaved(), answer == Answer::Yes);
+        EXPECT_EQ(prompts_.asked.back(),
+                  "Save current Skin: Save changes of current Skin before closing Ornavo?");
+    }
+    EXPECT_EQ(prompts_.asked.size(), 2u) << "once each";
+}
+
+TEST_F(ShutdownTest, AfterCancelThePanelIsTheLastWindowAndCanSave) {
+    prompts_.answers = {Answer::Cancel, Answer::Cancel, Answer::Yes};
+    EXPECT_TRUE(Main().close()) << "Cancel keeps the panel alone";
+    EXPECT_EQ(prompts_.asked.size(), 2u);
+    EXPECT_EQ(Shown(), "frm_SkinProject ");
+    EXPECT_TRUE(Panel().btn_SaveSkin->isEnabled());
+    for (const QWidget* rest :
+         {static_cast<QWidget*>(Panel().btn_OpenSkin), static_cast<QWidget*>(Panel().btn_CreateNewSkin),
+          static_cast<QWidget*>(Panel().lst_Layouts), static_cast<QWidget*>(Panel().btn_SkinProperties),
+          static_cast<QWidget*>(Panel().btn_CloneLayout)})
+        EXPECT_FALSE(rest->isEnabled()) << rest->objectName().toStdString();
+    EXPECT_FALSE(IsSaved());
+    EXPECT_TRUE(Panel().close());
+    EXPECT_TRUE(IsSaved());
+    EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(ShutdownTest, AFailedSaveStopsTheClosing) {
+    StepLayer disk;
+    disk.before = [](int) { throw Failure(75, "", "the disk is full"); };
+    UseFileLayer(&disk);
+    prompts_.answers = {Answer::Yes};
+    EXPECT_FALSE(Main().close());
+    EXPECT_EQ(Shown(), "frm_Ornavo frm_SkinProject frm_Toolbox frm_Magnifier ");
+    EXPECT_EQ(prompts_.asked.size(), 2u) << "the question, and what went wrong";
+    EXPECT_TRUE(objSkin->Dirty);
+    UseFileLayer(nullptr);
+}
+
+}  // namespace
+}  // namespace ornavo::testing

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+// The real dialogs, worked from inside their own event loops.
+#include "dialogs/qt_prompts.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+namespace ornavo::testing {
+namespace {
+
+/// Runs `work` on the dialog that opens next.
+template <class Dialog, class Work>
+void InNext(Work work) {
+    QTimer::singleShot(0, [work] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (dialog) return work(*dialog);
+        ADD_FAILURE() << "another dialog, or none";
+        if (QWidget* open = QApplication::activeModalWidget()) open->close();
+    });
+}
+
+TEST(QtPrompts, ABoxShowsWhatIsSaidAndGivesTheButton) {
+    QtPrompts prompts;
+    struct Row {
+        Buttons buttons;
+        QMessageBox::StandardButton pressed;  // NoButton: the Escape key
+        Answer answer;
+    };
+    const Row rows[] = {{Buttons::Ok, QMessageBox::Ok, Answer::Ok},
+                        {Buttons::Ok, QMessageBox::NoButton, Answer::Ok},
+                        {Buttons::YesNo, QMessageBox::Yes, Answer::Yes},
+                        {Buttons::YesNo, QMessageBox::No, Answer::No},
+                        {Buttons::YesNoCancel, QMessageBox::Yes, Answer::Yes},
+                        {Buttons::YesNoCancel, QMessageBox::No, Answer::No},
+                        {Buttons::YesNoCancel, QMessageBox::Cancel, Answer::Cancel},
+                        {Buttons::YesNoCancel, QMessageBox::NoButton, Answer::Cancel}};
+    for (const Row& row : rows) {
+        InNext<QMessageBox>([&row](QMessageBox& box) {
+            EXPECT_EQ(box.text(), "<b>not bold</b>");
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            EXPECT_EQ(box.icon(), QMessageBox::Question);
+            if (row.pressed == QMessageBox::NoButton) return QTest::keyClick(&box, Qt::Key_Escape);
+            box.button(row.pressed)->click();
+        });
+        EXPECT_EQ(prompts.Message("<b>not bold</b>", "Title", Icon::Question, row.buttons), row.answer);
+    }
+}
+
+TEST(QtPrompts, AnInputIsTheTextOrNothing) {
+    QtPrompts prompts;
+    InNext<QInputDialog>([](QInputDialog& box) {
+        EXPECT_EQ(box.textValue(), "Big Party");
+        box.setTextValue("Hütte");
+        box.accept();
+    });
+    EXPECT_EQ(prompts.Input("Enter a name", "New Layout", "Big Party"), "Hütte");
+    InNext<QInputDialog>([](QInputDialog& box) { box.reject(); });
+    EXPECT_EQ(prompts.Input("Enter a name", "New Layout", "Big Party"), std::nullopt);
+}
+
+TEST(QtPrompts, AFileIsChosenFromTheNearestFolderThatIsThere) {
+    QtPrompts prompts;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("skinSETTINGS.XML");
+    QFile(path).open(QIODevice::WriteOnly);
+    const FileQuestion question = {"Open Skin", "Skin Settings|SkinSettings.xml",
+                                   folder.filePath("gone/for good").toStdString(), "", false};
+    InNext<QFileDialog>([&](QFileDialog& box) {
+        EXPECT_EQ(box.directory(), QDir(folder.path()));
+        EXPECT_EQ(box.nameFilters(), QStringList{"Skin Settings (SkinSettings.xml)"});
+        box.findChild<QLineEdit*>("fileNameEdit")->setText(path);
+        static_cast<QDialog&>(box).accept();
+    });
+    EXPECT_EQ(prompts.File(question), path.toStdString());
+    InNext<QFileDialog>([](QFileDialog& box) { box.reject(); });
+    EXPECT_EQ(prompts.File(question), std::nullopt);
+}
+
+TEST(QtPrompts, FiltersAreThoseOfTheDialog) {
+    EXPECT_EQ(NameFilters("All Pictures|*.jpg;*.bmp|JPEG (*.jpg)|*.jpg"),
+              (QStringList{"All Pictures (*.jpg *.bmp)", "JPEG (*.jpg)"}));
+    EXPECT_EQ(NameFilters("A|*.a:B|*.b"), (QStringList{"A (*.a)", "B (*.b)"}));
+    EXPECT_TRUE(NameFilters("").isEmpty());
+}
+
+TEST(QtPrompts, AColourAndTheCustomOnesComeBack) {
+    QtPrompts prompts;
+    CustomColours custom = {};
+    custom[3] = Rgb(1, 2, 3);
+    InNext<QColorDialog>([](QColorDialog& box) {
+        EXPECT_EQ(QColorDialog::customColor(3), QColor(1, 2, 3));
+        EXPECT_EQ(box.currentColor(), QColor(10, 20, 30));
+        QColorDialog::setCustomColor(4, QColor(7, 8, 9));
+        box.setCurrentColor(QColor(40, 50, 60));
+        box.accept();
+    });
+    EXPECT_EQ(prompts.ColourOf(Rgb(10, 20, 30), custom), Rgb(40, 50, 60));
+    EXPECT_EQ(custom[3], Rgb(1, 2, 3));
+    EXPECT_EQ(custom[4], Rgb(7, 8, 9));
+    InNext<QColorDialog>([](QColorDialog& box) { box.accept(); });
+    EXPECT_EQ(prompts.ColourOf(ButtonFace, custom), ButtonFace) << "a system colour that is kept stays one";
+    InNext<QColorDialog>([](QColorDialog& box) {
+        QColorDialog::setCustomColor(5, Qt::red);
+        box.reject();
+    });
+    EXPECT_EQ(prompts.ColourOf(0, custom), std::nullopt);
+    EXPECT_EQ(custom[5], Rgb(255, 0, 0)) << "also after Cancel";
+}
+
+TEST(QtPrompts, OfAFontOnlyWhatWasPickedChanges) {
+    QtPrompts prompts;
+    Font start;
+    start.Name = "No Such Face";
+    start.Size = 8.25;
+    start.Bold = true;
+    InNext<QFontDialog>([](QFontDialog& box) {
+        QFont font = box.currentFont();
+        font.setUnderline(true);
+        box.setCurrentFont(font);
+        box.accept();
+    });
+    const std::optional<Font> chosen = prompts.FontOf(start);
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(chosen->Name, "No Such Face");
+    EXPECT_EQ(chosen->Size, 8.25);
+    EXPECT_TRUE(chosen->Bold && chosen->Underline);
+    EXPECT_FALSE(chosen->Strikethrough);
+    InNext<QFontDialog>([](QFontDialog& box) {
+        QFont font = box.currentFont();
+        font.setPointSize(24);
+        box.setCurrentFont(font);
+        box.accept();
+    });
+    EXPECT_EQ(prompts.FontOf(start).value_or(start).Size, 24);
+    InNext<QFontDialog>([](QFontDialog& box) { box.reject(); });
+    EXPECT_EQ(prompts.FontOf(start), std::nullopt);
+}
+
+}  // namespace
+}  // namespace ornavo::testing
