@@ -242,6 +242,7 @@ void frm_Ornavo::mouseMoveEvent(QMouseEvent* event) {
 void frm_Ornavo::mouseDoubleClickEvent(QMouseEvent*) {}  // the first press has done it
 
 void frm_Ornavo::Form_Unload() {
+    hasGone_ = true;
     windows_.UnloadOthers();
     SaveSettings();
 }

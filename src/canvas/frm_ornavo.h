@@ -42,7 +42,9 @@ public:
     int ScaleWidth() const override { return Form::ScaleWidth(); }
     int ScaleHeight() const override { return Form::ScaleHeight(); }
     LayoutHost& host() override { return host_; }
-    void ShowForm() override { show(); }
+    void ShowForm() override {
+        if (!hasGone_) show();
+    }
     void ShowShapePoints() override { points_.ShowShapePoints(); }
     void ShowGrid() override;
 
@@ -73,6 +75,7 @@ private:
     void ApplicationStateChanged(Qt::ApplicationState state);
 
     Windows& windows_;
+    bool hasGone_ = false;  // closed: what is composed after it is for the project panel that stayed
     std::string version_;
     std::string commandLine_;
     std::string problem_;  // why the skin of the command line could not be opened

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QFileDialog>
-#include <QFontDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -15,6 +15,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+
+#include "dialogs/font_dialog.h"
 
 namespace ornavo::testing {
 namespace {
@@ -124,27 +126,31 @@ TEST(QtPrompts, OfAFontOnlyWhatWasPickedChanges) {
     start.Name = "No Such Face";
     start.Size = 8.25;
     start.Bold = true;
-    InNext<QFontDialog>([](QFontDialog& box) {
-        QFont font = box.currentFont();
-        font.setUnderline(true);
-        box.setCurrentFont(font);
+    InNext<FontDialog>([](FontDialog& box) {
+        for (QCheckBox* style : box.findChildren<QCheckBox*>())
+            if (style->text() == "&Underline") style->click();
         box.accept();
     });
-    const std::optional<Font> chosen = prompts.FontOf(start);
+    std::optional<Font> chosen = prompts.FontOf(start, {});
     ASSERT_TRUE(chosen);
     EXPECT_EQ(chosen->Name, "No Such Face");
     EXPECT_EQ(chosen->Size, 8.25);
     EXPECT_TRUE(chosen->Bold && chosen->Underline);
-    EXPECT_FALSE(chosen->Strikethrough);
-    InNext<QFontDialog>([](QFontDialog& box) {
-        QFont font = box.currentFont();
-        font.setPointSize(24);
-        box.setCurrentFont(font);
+    EXPECT_FALSE(chosen->Italic || chosen->Strikethrough);
+    InNext<FontDialog>([](FontDialog& box) {
+        for (QLineEdit* size : box.findChildren<QLineEdit*>()) {
+            if (size->accessibleName() != "Size") continue;
+            size->selectAll();
+            QTest::keyClicks(size, "24");
+        }
         box.accept();
     });
-    EXPECT_EQ(prompts.FontOf(start).value_or(start).Size, 24);
-    InNext<QFontDialog>([](QFontDialog& box) { box.reject(); });
-    EXPECT_EQ(prompts.FontOf(start), std::nullopt);
+    chosen = prompts.FontOf(start, {});
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(chosen->Size, 24);
+    EXPECT_EQ(chosen->Name, "No Such Face");
+    InNext<FontDialog>([](FontDialog& box) { box.reject(); });
+    EXPECT_EQ(prompts.FontOf(start, {}), std::nullopt);
 }
 
 }  // namespace
