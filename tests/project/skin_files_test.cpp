@@ -168,7 +168,7 @@ TEST_F(FilesTest, SamplesComeOnce) {
     Write(Root() / "skins" / "art" / "draw.py", "no skin");
     fs::create_directories(Root() / "build");
     EXPECT_EQ(SampleFolder(Root() / "build"), Root() / "skins");
-    EXPECT_EQ(SampleFolder(Root()), fs::path());
+    EXPECT_EQ(SampleFolder(Root() / "data" / "bin"), fs::path());
     const fs::path own = Root() / "data" / "ornavo";
     BringSamples(Root() / "skins", own);
     EXPECT_TRUE(fs::exists(own / "Skins" / "Blue" / "back.jpg"));
