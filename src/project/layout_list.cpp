@@ -135,6 +135,14 @@ void LayoutList::keyPressEvent(QKeyEvent* event) {
     QTreeWidget::keyPressEvent(event);
 }
 
+/// The layout that is shown already is chosen anew by a click.
+void LayoutList::mousePressEvent(QMouseEvent* event) {
+    QTreeWidgetItem* before = currentItem();
+    QTreeWidget::mousePressEvent(event);
+    const bool again = before && event->button() == Qt::LeftButton && before == itemAt(event->pos());
+    if (again && before == currentItem() && !ListBusy) emit ItemClick();
+}
+
 void LayoutList::mouseReleaseEvent(QMouseEvent* event) {
     QTreeWidget::mouseReleaseEvent(event);
     if (currentItem() && !LayoutIsSelected()) StartLabelEdit();

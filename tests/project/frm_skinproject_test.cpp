@@ -39,7 +39,9 @@ TEST_F(PanelTest, ChoosingByMouseAndKeys) {
     ExpectShown("Big_Party");
     Press(Qt::Key_Up);
     ExpectShown("Standard");
-    const int resets = canvas_.reset;
+    int resets = canvas_.reset;
+    ClickItem(0);
+    EXPECT_EQ(canvas_.reset, ++resets) << "the layout that is shown already";
     Press(Qt::Key_Down);
     Press(Qt::Key_Down);
     EXPECT_EQ(canvas_.reset, resets + 1) << "the last item chooses nothing";
