@@ -165,6 +165,7 @@ void frm_SkinProject::LoadDebug(const SkinPlace& place) {
 void frm_SkinProject::FinishEdits() {
     lst_Layouts->FinishLabelEdit();
     tbx_SkinName_LostFocus();
+    windows_.properties().DrawPendingEdits();
 }
 
 void frm_SkinProject::tbx_SkinName_LostFocus() {

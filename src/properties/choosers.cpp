@@ -56,6 +56,11 @@ void ChoosePicture(RowText& box) {
     if (cCommonDialog().VBGetOpenFileName(path, title, options)) box.SetText(MakeSkinRelative(path));
 }
 
+/// A desktop that doesn't count a tool window among its windows gives the focus to the main one instead.
+void TakeFocusBack(RowText& box) {
+    box.window()->activateWindow();
+}
+
 RowText& BoxOf(PanelParts& parts, const ButtonTag& tag) {
     if (tag.row < 1 || tag.row > parts.pools.tbx_Prop.Top())
         throw Failure(9, "Properties", "Subscript out of range");
@@ -70,13 +75,16 @@ void btn_Prop_Click(PanelParts& parts, int index) {
     if (tag.kind == KindColour) ChooseColour(box);
     if (tag.kind == KindFont) ChooseFont(parts, box);
     if (tag.kind == KindPicture) ChoosePicture(box);
+    TakeFocusBack(box);
 }
 
 void btn_PicEdit_Click(PanelParts& parts, int index) {
     RowText& box = BoxOf(parts, ButtonTag::Of(parts.pools.btn_PicEdit[index].Tag));
     std::string path = box.Text();
     if (TrimBlanks(path).empty()) return;
-    if (!parts.windows.EditPicture(GetBaseName(path), path)) return;
+    const bool edited = parts.windows.EditPicture(GetBaseName(path), path);
+    TakeFocusBack(box);
+    if (!edited) return;
     box.SetText(GetFileName(path));
     UpdateCurrentLayout(parts);
 }

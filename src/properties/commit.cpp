@@ -38,9 +38,10 @@ void Write(PanelParts& parts, const std::string& key, const Value& value) {
     Attempt([&] { SetRowValue(parts.BoundObject, key, value); });
 }
 
-/// A family's key colour follows its control: the control takes an edited one first.
+/// Where a key colour follows its control, the control takes an edited one first.
 void TakeKeyColour(std::string_view key) {
     const std::string_view preference = GetClass(key);
+    if (key == "TransparentColor") TakeTransparentColor("");
     if (preference.ends_with(KeyColourSuffix))
         TakeTransparentColor(preference.substr(0, preference.size() - KeyColourSuffix.size()));
 }
@@ -77,6 +78,7 @@ bool MayChangeType(PanelParts& parts, RowCombo& combo) {
 /// The selection jumps to an element of the list, seen or not.
 void ShowElement(PanelParts& parts, int listIndex) {
     const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Item(listIndex + 1);
+    parts.panel.DrawPendingEdits();  // of the element that is left
     parts.BoundObject = element;
     KeepPropertiesOpen = true;
     parts.canvas.ResetSelection();

@@ -66,6 +66,7 @@ void frm_Properties::Form_Load() {
 }
 
 void frm_Properties::Form_Unload() {
+    DrawPendingEdits();
     const Rect place = TwipBounds();
     settings::PropertiesLeft.Write(place.left);
     settings::PropertiesTop.Write(place.top);
@@ -86,6 +87,19 @@ void frm_Properties::Open() {
     if (isVisible()) return;
     const Raised building(parts_.IsBuilding);
     show();
+}
+
+void frm_Properties::Hide() {
+    DrawPendingEdits();
+    hide();
+    parts_.BoundObject = {};
+}
+
+void frm_Properties::DrawPendingEdits() {
+    // Whatever asks does so in place of leaving the row.
+    if (const RowValue* focused = sheet_.Focused())
+        if (const auto* box = dynamic_cast<RowText*>(focused->control)) FocusLost(box->Index);
+    if (tmrUpdate.isActive()) tmrUpdate_Timer(parts_);
 }
 
 void frm_Properties::ShowProperties() {

@@ -22,7 +22,8 @@ public:
     void Open() override;
     void ShowProperties() override;
     void UnloadProperties() override;  // every row goes
-    void Hide() override { hide(); }
+    void Hide() override;
+    void DrawPendingEdits() override;
     bool IsShown() const override { return isVisible(); }
 
     PanelParts& parts() { return parts_; }

@@ -3,6 +3,7 @@
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QValidator>
 #include <QWheelEvent>
 
 #include "base/failure.h"
@@ -19,6 +20,17 @@ QFont RowFont(bool bold) {
     font.Bold = bold;
     return ScreenFont(font);
 }
+
+/// A value is one line of the file: what breaks lines in a pasted text becomes blanks.
+class OneLine : public QValidator {
+public:
+    using QValidator::QValidator;
+    State validate(QString& text, int&) const override {
+        for (QChar& letter : text)
+            if (letter.category() == QChar::Other_Control) letter = ' ';
+        return Acceptable;
+    }
+};
 
 bool IsDark(const QColor& colour) {
     return qGray(colour.rgb()) < 128;
@@ -46,6 +58,7 @@ void RowLabel::Show(const QString& caption, bool heading, int width) {
 RowText::RowText(QWidget* sheet, int index) : QLineEdit(sheet), Index(index) {
     setObjectName(QStringLiteral("tbx_Prop"));
     setFont(RowFont(false));
+    setValidator(new OneLine(this));
     setFrame(false);
     hide();
 }

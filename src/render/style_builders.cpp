@@ -248,9 +248,9 @@ void SetupKioskLabels() {
 void TakeTransparentColor(std::string_view prefix) {
     LayoutHost& host = TargetForm->host();
     const std::initializer_list<std::pair<std::string_view, TileButton*>> members = {
-        {"AA", &host.but_AddAll}, {"IN", &host.but_Info}, {"SO", &host.but_Song},
-        {"SO", &host.but_Song2},  {"KB", &host.KeyN},     {"KB", &host.KeyB},
-        {"KB", &host.KeyE},       {"KB", &host.KeyU},     {"KB", &host.KeyS}};
+        {"AA", &host.but_AddAll}, {"IN", &host.but_Info}, {"SO", &host.but_Song}, {"SO", &host.but_Song2},
+        {"KB", &host.KeyN},       {"KB", &host.KeyB},     {"KB", &host.KeyE},     {"KB", &host.KeyU},
+        {"KB", &host.KeyS},       {"", &host.ScrollBar}};
     for (const auto& [family, button] : members)
         if (family == prefix) button->ColourOwner.reset();
     if (prefix == "SL")

@@ -23,7 +23,8 @@ void SetupSearchBox(TextBox& box);
 void SetupKioskLabels();
 
 /// The key colour of an edit of `prefix` + "_TransparentColor" is the preference's: the family's controls
-/// take it when they are next styled, also where they would give their own to the preference.
+/// take it when they are next styled, also where they would give their own to the preference. Without a
+/// prefix the scroll bar, whose colour is its element's.
 void TakeTransparentColor(std::string_view prefix);
 
 }  // namespace ornavo

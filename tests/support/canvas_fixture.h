@@ -37,7 +37,8 @@ public:
     void UnloadOthers() override { ++unloaded; }
     void SaveSkin() override { ++saved; }
     void ShowPreview() override { ++previews; }
-    PropertiesPanel& properties() override { return panel; }
+    PropertiesPanel& properties() override { return real ? *real : panel; }
+    PropertiesPanel* real = nullptr;  // in place of the recorded one
     std::string opened, failure;
     int saved = 0, previews = 0, unloaded = 0;
     RecordedPanel panel;

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+// The properties panel beside the canvas, on a skin with an element of each type, all preferences and a
+// corner; its rows worked as the window system works them.
+#pragma once
+
+#include <QClipboard>
+#include <map>
+#include <set>
+
+#include "base/failure.h"
+#include "document/codes.h"
+#include "document/fields.h"
+#include "properties/frm_properties.h"
+#include "render/redraw.h"
+#include "support/canvas_fixture.h"
+
+namespace ornavo::testing {
+
+using Snapshot = std::map<std::string, std::string>;  // "Key.Field" and its value
+
+template <class T>
+void Collect(Snapshot& fields, const std::string& owner, const T& object) {
+    for (const Field<T>& field : Fields<T>()) {
+        if (!field.saved) continue;
+        const Value value = field.get(object);
+        if (!value.Is<FontRef>()) {
+            // What is false has no line in the file.
+            fields[owner + '.' + std::string(field.name)] = value == Value(false) ? "" : value.ToText();
+        } else if (const FontRef font = value.As<FontRef>()) {
+            for (const Field<Font>& part : Fields<Font>())
+                fields[owner + ".Font." + std::string(part.name)] = part.get(*font).ToText();
+        }
+    }
+}
+
+/// All that a file of the skin has of the first layout and the preferences.
+inline Snapshot SnapshotOf(const dbSkin& skin) {
+    Snapshot fields;
+    const dbLayout& layout = *skin.dbLayouts->Item(1);
+    for (const dbLayoutElementRef& element : *layout.dbLayoutElements)
+        Collect(fields, element->Key, *element);
+    for (const dbPointRef& point : *layout.dbPoints)
+        Collect(fields, "K" + std::to_string(point->Order), *point);
+    for (const dbSkinPrefRef& pref : *skin.dbSkinPrefs) Collect(fields, pref->Key, *pref);
+    return fields;
+}
+
+/// The fields in which the two differ.
+inline std::set<std::string> Differences(const Snapshot& a, const Snapshot& b) {
+    std::set<std::string> names;
+    for (const auto& [name, value] : a)
+        if (const auto other = b.find(name); other == b.end() || other->second != value) names.insert(name);
+    for (const auto& [name, value] : b)
+        if (!a.contains(name)) names.insert(name);
+    return names;
+}
+
+class RowEditTest : public EditingTest {
+protected:
+    RowEditTest() {
+        objSkin->SetupSkinPrefs();
+        Picture("old.png", Qt::darkGreen, 40, 30);
+        Picture("new.bmp", Qt::darkRed, 40, 30);
+        AddOneOfEach();
+        panel_ = std::make_unique<frm_Properties>(form_.get(), windows_, *form_);
+        windows_.real = panel_.get();
+        Compose();
+        objSkin->SaveSkin(false);
+    }
+    ~RowEditTest() override { windows_.real = nullptr; }
+
+    /// None lies over another.
+    void AddOneOfEach() {
+        constexpr Rect places[] = {{20, 20, 400, 500}, {430, 20, 100, 60},  {540, 20, 100, 60},
+                                   {430, 90, 100, 60}, {430, 160, 200, 30}, {430, 200, 150, 20},
+                                   {700, 20, 40, 400}};
+        for (int type = TypeMain; type <= TypeScrollbar; ++type) {
+            const std::string name = type == TypeMain        ? "Main"
+                                     : type == TypeSearchBox ? "SearchBox"
+                                     : type == TypeScrollbar ? "Scrollbar"
+                                                             : std::string(ElementTypeNames[type]) + "1";
+            dbLayoutElement& element = Add(name.c_str(), type, places[type]);
+            element.ElementName = name;
+            element.Visible = true;
+            if (type != TypeMain && type != TypeInfo && type != TypeSearchBox) element.PicNormal = "old.png";
+            element.TextColor = 0xFFFFFF;
+            element.Caption = "Play";
+        }
+        for (const Point at : {Point{0, 0}, Point{800, 0}, Point{800, 600}, Point{0, 600}}) AddPoint(at);
+    }
+
+    void Select(Control& control) {
+        form_->ResetSelection();
+        form_->PlaceAnchors(&control, false);
+        Open();
+    }
+    void Select(const char* element) { Select(ControlOf(Element(element))); }
+    /// A sample control, as a click on it does.
+    void SelectSample(Control& control) {
+        form_->ResetSelection();
+        SelControl = &control;
+        SelKey.clear();
+        Open();
+    }
+    void Open() {
+        panel_->Open();
+        // Without a window manager nothing tells of a window that comes back.
+        QApplication::setActiveWindow(panel_.get());
+        EXPECT_TRUE(panel_->isActiveWindow());
+    }
+    QTimer& timer() { return panel_->tmrUpdate; }
+    void Tick() {
+        ASSERT_TRUE(timer().isActive());
+        Fire(timer());
+    }
+
+    // The value of a row; null when the sheet has no such row.
+    RowText* Box(const std::string& key) { return Find(panel_->parts().pools.tbx_Prop, key); }
+    RowCheck* Check(const std::string& key) { return Find(panel_->parts().pools.chk_Boolean, key); }
+    RowCombo* Combo(const std::string& key) {
+        RowFrame* frame = Find(panel_->parts().pools.cboPic, key);
+        return frame ? &frame->cboProp : nullptr;
+    }
+    /// 0 for a row without a button.
+    int ButtonKind(const RowText& box, TileCommand** button = nullptr) {
+        Pool<TileCommand>& buttons = panel_->parts().pools.btn_Prop;
+        for (int i = 1; i <= buttons.Top(); ++i) {
+            if (buttons[i].Tag.empty() || ButtonTag::Of(buttons[i].Tag).row != box.Index) continue;
+            if (button) *button = &buttons[i];
+            return ButtonTag::Of(buttons[i].Tag).kind;
+        }
+        return 0;
+    }
+
+    void Press(QWidget& row, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        row.setFocus();
+        QTest::keyClick(panel_->windowHandle(), key, modifiers);
+    }
+    /// In place of what the box has.
+    void Type(RowText& box, const std::string& text) {
+        Press(box, Qt::Key_A, Qt::ControlModifier);
+        if (text.empty()) Press(box, Qt::Key_Delete);
+        for (const char letter : text) QTest::keyClick(panel_->windowHandle(), letter);
+    }
+    void Paste(RowText& box, const std::string& text) {
+        QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+        Press(box, Qt::Key_A, Qt::ControlModifier);
+        Press(box, Qt::Key_V, Qt::ControlModifier);
+    }
+
+    dbSkin Stored() const {
+        dbSkin skin;
+        skin.SetBasePath(objSkin->BasePath());
+        skin.SkinName = objSkin->SkinName;
+        skin.LoadSkin();
+        return skin;
+    }
+    QImage Canvas(const QRect& part) { return form_->grab(part).toImage(); }
+
+    std::unique_ptr<frm_Properties> panel_;
+
+private:
+    template <class T>
+    static T* Find(Pool<T>& pool, const std::string& key) {
+        for (int i = 1; i <= pool.Top(); ++i)
+            if (pool[i].Tag == key) return &pool[i];
+        return nullptr;
+    }
+};
+
+}  // namespace ornavo::testing
