@@ -386,7 +386,9 @@ void EditWalk::CloneRenameDelete() {
     model_.RenameLayout("Big_Party_(cloned2)", "Small Party");  // no change that asks for a save
     Settle();
     DragElement("SearchBox", {{2, 40}});
-    ClickLayout(3);
+    ClickLayout(3);  // the one that is shown
+    model_.ChooseLayout("Big_Party_(cloned2)");
+    Settle();
     desktop_.Key({"Delete"});
     desktop_.WaitForFocus("Delete Layout");
     desktop_.Key({"alt+y"});
