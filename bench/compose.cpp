@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Composing a layout again, beside as many plain widgets that are hidden, placed, raised, shown and painted;
-// the same with the panel and its sample; and what of the sample is done alone: a frame has 16 ms.
+// the same with the panel and its sample; and what is drawn alone after an edit: a frame has 16 ms.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -13,6 +13,7 @@
 #include "render/compose.h"
 #include "render/kiosk_panel.h"
 #include "render/layout_host.h"
+#include "render/redraw.h"
 #include "render/search_letters.h"
 #include "render/surface.h"
 
@@ -113,6 +114,20 @@ void ComposeWithPanel(benchmark::State& state) {
     }
 }
 
+/// The redraw of one element after an edit of its place.
+void RedrawOne(benchmark::State& state) {
+    const Skin skin(static_cast<int>(state.range(0)), true);
+    Window window;
+    ComposeLayout(window, objCurrentLayout, Width, Height);
+    QCoreApplication::processEvents();
+    dbLayoutElement& element = *objCurrentLayout->dbLayoutElements->Item("2");
+    for (auto _ : state) {
+        element.LeftX = element.LeftX == 1 ? 2 : 1;
+        RedrawElement(element);
+        QCoreApplication::processEvents();
+    }
+}
+
 /// One part of the sample again after an edit that shows in all of it, and its painting.
 void SampleAgain(benchmark::State& state, void (*part)(), const char* edited) {
     const Skin skin(0, true);
@@ -147,6 +162,7 @@ void PlainWidgets(benchmark::State& state) {
 
 BENCHMARK(ComposeAgain)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
 BENCHMARK(ComposeWithPanel)->Arg(60)->Unit(benchmark::kMillisecond);
+BENCHMARK(RedrawOne)->Arg(60)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(SampleAgain, letters, SetupSearchLetters, "SL_ShadowDistance")
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(SampleAgain, places, LayoutKioskPanel, "IN_Margin")->Unit(benchmark::kMillisecond);
