@@ -140,9 +140,11 @@ int Desktop::WindowCount(const QString& except) {
 }
 
 void Desktop::WaitForFocus(const QString& title) {
-    WaitFor("the focus in " + title.toStdString(), [&] {
-        return Tool("xdotool", {"getwindowfocus", "getwindowname"}).trimmed() == title;
-    });
+    WaitFor("the focus in " + title.toStdString(), [&] { return FocusTitle() == title; });
+}
+
+QString Desktop::FocusTitle() {
+    return Tool("xdotool", {"getwindowfocus", "getwindowname"}).trimmed();
 }
 
 QString Desktop::Title(const QString& window) {
@@ -210,7 +212,7 @@ void Desktop::Key(const QStringList& keys) {
 }
 
 void Desktop::Type(const QString& text) {
-    XDo({"type", "--delay", "1", text});
+    XDo({"type", "--delay", "1", "--", text});
 }
 
 QRgb Desktop::Pixel(const QPoint& at) const {

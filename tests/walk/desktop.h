@@ -32,6 +32,7 @@ public:
     /// How many windows of the program can be seen, menus too, but not those of that title.
     int WindowCount(const QString& except);
     void WaitForFocus(const QString& title);
+    QString FocusTitle();
     QString Title(const QString& window);
     QRect Inside(const QString& window);  // without its frame, on the screen
     void Place(const QString& window, const QPoint& corner);
