@@ -82,11 +82,11 @@ constexpr std::array Redraws = {
 }  // namespace
 
 void tmrUpdate_Timer(PanelParts& parts) {
+    parts.tmrUpdate.stop();  // first: a composition may hide the panel, which draws what still waits
     const auto row = std::find_if(Redraws.begin(), Redraws.end(), [](const Redraw& redraw) {
         return SelControl && SelControl->Name == redraw.name;
     });
     Attempt([&] { row == Redraws.end() ? UpdateCurrentLayout(parts) : row->draw(parts); });
-    parts.tmrUpdate.stop();
     objSkin->Dirty = true;
     parts.canvas.UpdateCaption();
 }

@@ -146,6 +146,21 @@ TEST_F(CommitTest, AnotherCommandFinishesWhatWaits) {
     }
 }
 
+TEST_F(CommitTest, AnotherLayoutLeavesNothingWaiting) {
+    const dbPointRef corner = objCurrentLayout->dbPoints->Item(1);
+    Select(form_->parts().points.cPointMover[1]);
+    Type(*Box("X"), "9");
+    objSkin->Dirty = false;
+    objCurrentLayout = objSkin->AddNewLayout("Party");
+    form_->ResetSelection();
+    form_->UpdateCurrentLayout();
+    EXPECT_EQ(corner->X, 9);
+    EXPECT_TRUE(objSkin->Dirty);
+    EXPECT_FALSE(timer().isActive());
+    EXPECT_FALSE(panel_->isVisible());
+    EXPECT_EQ(SelControl, nullptr);
+}
+
 TEST_F(CommitTest, AnEditedKeyColourStands) {
     objSkin->dbSkinPrefs->Item("SO_UseTopLeftTransparency")->value = false;
     SelectSong();
