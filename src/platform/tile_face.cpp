@@ -193,11 +193,12 @@ void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer
         static_cast<int>(std::clamp(static_cast<double>(size.width) - static_cast<double>(layer.RightTrim) -
                                         static_cast<double>(layer.Left),
                                     0.0, 1e8));
+    const int left = static_cast<int>(std::clamp(layer.Left, -1e8F, 1e8F));
     const int top = static_cast<int>(std::lround(std::clamp(layer.Top, -1e8F, 1e8F)));
     const QPoint at(AlignedLeft(layer, size, width), top + metrics.ascent());
     const auto draw = [&](int offset, Colour colour) {
         if (width > room)  // what is too long ends where its area ends
-            painter.setClipRect(QRect(static_cast<int>(layer.Left) + offset, 0, room, size.height));
+            painter.setClipRect(QRect(left + offset, 0, room, size.height));
         painter.setPen(ScreenColour(colour));
         painter.drawText(at + QPoint(offset, offset), text);
     };

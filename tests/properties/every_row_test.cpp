@@ -18,6 +18,11 @@ struct Selection {
     void (*prepare)() = [] {};  // what decides which rows there are
 };
 
+/// For the list of tests.
+void PrintTo(const Selection& selection, std::ostream* out) {
+    *out << selection.name;
+}
+
 template <const char* Key>
 Control& Of(CanvasParts&) {
     return ControlOf(Named(Key));
