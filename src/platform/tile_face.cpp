@@ -196,6 +196,7 @@ void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer
     const int left = static_cast<int>(std::clamp(layer.Left, -1e8F, 1e8F));
     const int top = static_cast<int>(std::lround(std::clamp(layer.Top, -1e8F, 1e8F)));
     const QPoint at(AlignedLeft(layer, size, width), top + metrics.ascent());
+    const int left = static_cast<int>(std::clamp(layer.Left, -1e8F, 1e8F));
     const auto draw = [&](int offset, Colour colour) {
         if (width > room)  // what is too long ends where its area ends
             painter.setClipRect(QRect(left + offset, 0, room, size.height));
