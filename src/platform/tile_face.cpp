@@ -163,6 +163,9 @@ void PaintGround(QPainter& painter, const TileState& state, Size size, bool plai
                    ScreenColour(BlendColor(EdgeDark, state.BackColor, DarkAlpha)));
 }
 
+/// A distance in pixels that any file may hold, kept where int arithmetic cannot overflow.
+int WholePixels(double distance) { return static_cast<int>(std::clamp(distance, -1e8, 1e8)); }
+
 /// Where something of that width stands between Left and the trimmed right end.
 int AlignedLeft(const TileLayer& layer, Size size, int width) {
     const double left = static_cast<double>(layer.Left);
@@ -170,7 +173,7 @@ int AlignedLeft(const TileLayer& layer, Size size, int width) {
     const double at = layer.Alignment == 0   ? left
                       : layer.Alignment == 1 ? right - width
                                              : (left + right - width) / 2;
-    return static_cast<int>(std::floor(std::clamp(at, -1e8, 1e8)));
+    return WholePixels(std::floor(at));
 }
 
 /// Left is the way from the end that Alignment names, or from the middle.
@@ -179,7 +182,7 @@ int PictureLeft(const TileLayer& layer, Size size, int width) {
     const double at = layer.Alignment == 0   ? left
                       : layer.Alignment == 1 ? size.width - width - left
                                              : (size.width - width) / 2.0 + left;
-    return static_cast<int>(std::floor(std::clamp(at, -1e8, 1e8)));
+    return WholePixels(std::floor(at));
 }
 
 void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer, Size size) {
@@ -189,14 +192,11 @@ void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer
     const QString text = ShownText(layer.Font, layer.Text);
     const QFontMetrics metrics = painter.fontMetrics();
     const int width = metrics.horizontalAdvance(text);
-    const int room =
-        static_cast<int>(std::clamp(static_cast<double>(size.width) - static_cast<double>(layer.RightTrim) -
-                                        static_cast<double>(layer.Left),
-                                    0.0, 1e8));
-    const int left = static_cast<int>(std::clamp(layer.Left, -1e8F, 1e8F));
-    const int top = static_cast<int>(std::lround(std::clamp(layer.Top, -1e8F, 1e8F)));
+    const double end = size.width - static_cast<double>(layer.RightTrim);
+    const int room = std::max(0, WholePixels(end - static_cast<double>(layer.Left)));
+    const int left = WholePixels(std::trunc(layer.Left));
+    const int top = WholePixels(std::round(layer.Top));
     const QPoint at(AlignedLeft(layer, size, width), top + metrics.ascent());
-    const int left = static_cast<int>(std::clamp(layer.Left, -1e8F, 1e8F));
     const auto draw = [&](int offset, Colour colour) {
         if (width > room)  // what is too long ends where its area ends
             painter.setClipRect(QRect(left + offset, 0, room, size.height));
@@ -213,7 +213,7 @@ void PaintLayer(QPainter& painter, const TileState& state, const TileLayer& laye
     if (layer.IsText) {
         PaintText(painter, state, layer, size);
     } else if (layer.Picture) {
-        const int top = static_cast<int>(std::lround(std::clamp(layer.Top, -1e8F, 1e8F)));
+        const int top = WholePixels(std::round(layer.Top));
         const QImage& plain = layer.Picture->image;
         const bool isFine = painter.device()->devicePixelRatio() > 1 && !layer.Picture->fine.isNull();
         const QRect area(PictureLeft(layer, size, plain.width()), top, plain.width(), plain.height());
