@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <vector>
 
 #include "base/failure.h"
 #include "base/numbers.h"
@@ -45,8 +46,12 @@ void DrawGrid(QPainter& painter, int width, int height, int gridX, int gridY) {
         const QColor lines = ScreenColour(BlendColor(DotColour, 0, 128));
         for (int x = 0; x <= width; x += DotsPerLine * stepX) DrawLine(painter, x, 0, 1, height, lines);
         for (int y = 0; y <= height; y += DotsPerLine * stepY) DrawLine(painter, 0, y, width, 1, lines);
+        std::vector<QRect> grid;  // painted in one call: thousands of dots on every canvas
         for (int x = 0; x <= width; x += stepX)
-            for (int y = 0; y <= height; y += stepY) DrawLine(painter, x, y, 1, 1, dots);
+            for (int y = 0; y <= height; y += stepY) grid.emplace_back(x, y, 1, 1);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(dots);
+        painter.drawRects(grid.data(), static_cast<int>(grid.size()));
     }
     DrawLine(painter, ToLong(width / 2.0), 0, 1, height, dots);
     DrawLine(painter, 0, ToLong(height / 2.0), width, 1, dots);
