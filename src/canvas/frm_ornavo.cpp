@@ -7,7 +7,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QShortcut>
-#include <algorithm>
 
 #include "base/failure.h"
 #include "canvas/dragging.h"
@@ -28,7 +27,6 @@ namespace {
 
 constexpr int SelectorInterval = 500, ResizerInterval = 200, ShowPropertiesInterval = 500;  // milliseconds
 constexpr int LeastTwips = 9000;  // the window's least width and height, outside
-constexpr int MostPixels = 8000;  // a larger skin does not make the window larger
 constexpr const char* LoadingError = "Loading Skin Error";
 
 bool SkinIsOpen() {
@@ -205,11 +203,7 @@ void frm_Ornavo::UpdateCaption() {
 void frm_Ornavo::ResetFormToOriginal() {
     if (WindowState() == StateMaximised) SetWindowState(StateNormal);
     const Rect now = TwipBounds();
-    const ScreenMetrics& metrics = screenMetrics();
-    const int width = std::clamp(objSkin->SkinWidth, 0, MostPixels) + 2 * metrics.SM_CXFRAME;
-    const int height =
-        std::clamp(objSkin->SkinHeight, 0, MostPixels) + 2 * metrics.SM_CYFRAME + metrics.SM_CYSIZE + 1;
-    MoveTwips({now.left, now.top, width * TwipsPerPixel, height * TwipsPerPixel});
+    MoveInside({now.left, now.top}, {objSkin->SkinWidth, objSkin->SkinHeight});
 }
 
 void frm_Ornavo::ShowGrid() {

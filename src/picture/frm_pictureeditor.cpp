@@ -303,7 +303,10 @@ void frm_PictureEditor::ListPresets() {
 void frm_PictureEditor::lstPresets_Click() {
     const QList<QListWidgetItem*> selected = lstPresets->selectedItems();
     if (selected.isEmpty()) return;
-    const Preset preset = ReadPresets().at(static_cast<std::size_t>(lstPresets->row(selected.first())));
+    const std::vector<Preset> presets = ReadPresets();
+    const auto index = static_cast<std::size_t>(lstPresets->row(selected.first()));
+    if (index >= presets.size()) return;  // another running Ornavo has deleted some
+    const Preset& preset = presets[index];
     presetName_ = preset.name;
     hscHue->setValue(ValueOf(preset.hue, hscHue->value()));
     hscSaturation->setValue(ValueOf(preset.saturation, hscSaturation->value()));

@@ -81,11 +81,14 @@ Rect Form::TwipBounds() const {
 }
 
 void Form::MoveTwips(const Rect& twips) {
-    const QSize inside(std::clamp(Pixels(twips.width) - FrameWidth(), 1, MostPixels),
-                       std::clamp(Pixels(twips.height) - FrameHeight(), 1, MostPixels));
-    const QSize outer = inside + QSize(FrameWidth(), FrameHeight());
-    resize(inside);
-    move(VisibleCorner({Pixels(twips.left), Pixels(twips.top)}, outer));
+    MoveInside({twips.left, twips.top},
+               {Pixels(twips.width) - FrameWidth(), Pixels(twips.height) - FrameHeight()});
+}
+
+void Form::MoveInside(const Point& corner, const Size& inside) {
+    const QSize kept(std::clamp(inside.width, 1, MostPixels), std::clamp(inside.height, 1, MostPixels));
+    resize(kept);
+    move(VisibleCorner({Pixels(corner.x), Pixels(corner.y)}, kept + QSize(FrameWidth(), FrameHeight())));
 }
 
 int Form::WindowState() const {

@@ -31,6 +31,8 @@ public:
     Rect TwipBounds() const;
     /// Moves there; brought back onto a screen when it would not be seen.
     void MoveTwips(const Rect& twips);
+    /// The same with the corner in twips and the inner size in pixels, cut to what a window can have.
+    void MoveInside(const Point& corner, const Size& inside);
     int WindowState() const;
     void SetWindowState(int state);  // of a window not yet shown: the state it comes up in
 

@@ -17,7 +17,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int MostPixels = 8192;   // each way
 constexpr int TipInterval = 4000;  // milliseconds
 constexpr int TipGap = 8;          // pixels between the window and its tip
 
@@ -61,11 +60,7 @@ void frm_Preview::Form_Load(const Point& standardCorner) {
     Point corner = standardCorner;
     Attempt([&] { corner.x = settings::PreviewLeft(corner.x).Read(); });
     Attempt([&] { corner.y = settings::PreviewTop(corner.y).Read(); });
-    const ScreenMetrics& metrics = screenMetrics();
-    const int width = std::clamp(objSkin->SkinWidth, 1, MostPixels) + 2 * metrics.SM_CXFRAME;
-    const int height =
-        std::clamp(objSkin->SkinHeight, 1, MostPixels) + 2 * metrics.SM_CYFRAME + metrics.SM_CYSIZE + 1;
-    MoveTwips({corner.x, corner.y, width * TwipsPerPixel, height * TwipsPerPixel});
+    MoveInside(corner, {objSkin->SkinWidth, objSkin->SkinHeight});
     mouse_.Layout = objCurrentLayout;
     ComposePreview(*this, mouse_.Layout, objSkin->SkinWidth, objSkin->SkinHeight);
     infos_.Begin(host_, *mouse_.Layout);
@@ -115,9 +110,8 @@ void frm_Preview::ShowOutline(const QSize& size) {
 
 void frm_Preview::EndOutline() {
     mouse_.Resizing = false;
-    if (!resizer_.isVisible()) return;
     composed_ = QSize();
-    resize(resizer_.size());
+    if (resizer_.isVisible()) resize(resizer_.size());
     if (composed_ != size()) Rebuild();
     resizer_.hide();
     raise();
