@@ -3,13 +3,12 @@
 // the same with the panel and its sample; and what is drawn alone after an edit: a frame has 16 ms.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 
 #include "document/codes.h"
 #include "document/current_skin.h"
-#include "platform/startup.h"
 #include "render/compose.h"
 #include "render/kiosk_panel.h"
 #include "render/layout_host.h"
@@ -171,12 +170,3 @@ BENCHMARK(PlainWidgets)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace ornavo
-
-int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    ornavo::PrepareProcess();
-    QApplication application(argc, argv);
-    ornavo::InitCommonControls(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -3,7 +3,7 @@
 // of the area that such a step changes.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QMouseEvent>
 #include <QTemporaryDir>
@@ -13,7 +13,6 @@
 #include "document/codes.h"
 #include "document/current_skin.h"
 #include "platform/settings.h"
-#include "platform/startup.h"
 #include "render/target.h"
 
 namespace ornavo {
@@ -110,12 +109,3 @@ BENCHMARK(RepaintTheSameArea)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace ornavo
-
-int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    ornavo::PrepareProcess();
-    QApplication application(argc, argv);
-    ornavo::InitCommonControls(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

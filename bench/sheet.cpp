@@ -3,14 +3,13 @@
 // placed and painted. A frame is 16 ms.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
 
 #include "document/codes.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
-#include "platform/startup.h"
 #include "properties/frm_properties.h"
 
 namespace ornavo {
@@ -75,12 +74,3 @@ BENCHMARK(PlainRows)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace ornavo
-
-int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    ornavo::PrepareProcess();
-    QApplication application(argc, argv);
-    ornavo::InitCommonControls(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -3,14 +3,13 @@
 // whose source and result are both on show, beside a copy of the picture's bytes.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <cstring>
 
 #include "document/current_skin.h"
 #include "picture/frm_pictureeditor.h"
 #include "platform/settings.h"
-#include "platform/startup.h"
 
 namespace ornavo {
 namespace {
@@ -56,11 +55,3 @@ BENCHMARK(SliderStep)->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggr
 
 }  // namespace
 }  // namespace ornavo
-
-int main(int argc, char** argv) {
-    ornavo::PrepareProcess();
-    QApplication application(argc, argv);
-    ornavo::InitCommonControls(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}
