@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Start and stop of the editor.
+#include <QIcon>
 #include <QStandardPaths>
 #include <cstdio>
 #include <string_view>
@@ -50,6 +51,13 @@ std::string FolderWithSamples(const std::filesystem::path& data) {
     return ornavo::ToText(own);
 }
 
+/// The desktop shows it in window frames, in its bar of tasks and when it switches windows.
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128}) icon.addFile(QStringLiteral(":/ornavo-%1.png").arg(size));
+    return icon;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -60,6 +68,8 @@ int main(int argc, char** argv) {
     }
     ornavo::PrepareProcess();
     QApplication application(argc, argv);
+    QApplication::setWindowIcon(ProgramIcon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("ornavo"));
     ornavo::InitCommonControls(application);
     const std::filesystem::path data = DataFolder();
     ornavo::Program program(MajorMinor(), FolderWithSamples(data), ornavo::ToText(data));
