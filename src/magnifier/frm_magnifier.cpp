@@ -42,7 +42,10 @@ void PixelMark::paintEvent(QPaintEvent*) {
 frm_Magnifier::frm_Magnifier(QWidget* owner) : frm_Magnifier(owner, desktopPixels_, ownPixels_) {}
 
 frm_Magnifier::frm_Magnifier(QWidget* owner, PixelSource& desktop, PixelSource& own)
-    : Form(owner, "frm_Magnifier", Qt::Tool), Magnify1(this, desktop, own), Picture1(this) {
+    // Above the preview too, which is not its owner and may fill the screen.
+    : Form(owner, "frm_Magnifier", Qt::Tool | Qt::WindowStaysOnTopHint),
+      Magnify1(this, desktop, own),
+      Picture1(this) {
     setWindowTitle(QStringLiteral("Magnifier"));
     Magnify1.setObjectName(QStringLiteral("Magnify1"));
     Magnify1.setAccessibleName(QStringLiteral("The screen about the pointer, enlarged"));
