@@ -18,6 +18,22 @@ enum ElementTypeCode : std::int32_t {
     TypeSearchBox,
     TypeScrollbar
 };
+enum ActionTypeCode : std::int32_t {
+    ActionForward = 6,
+    ActionBackwards = 7,
+    ActionVolumeUp = 10,
+    ActionVolumeDown = 11,
+    ActionScript = 12,
+    ActionClose = 13,
+    ActionMaximise = 14,
+    ActionMinimise = 15
+};
+enum InfoTypeCode : std::int32_t {
+    InfoUserLabel = 0,
+    InfoVolume = 5,
+    InfoSystemTime = 17,
+    InfoSongProperty = 20
+};
 enum AlignCode : std::int32_t { AlignStart, AlignMiddle, AlignEnd, AlignStretch };  // of HAlign and VAlign
 enum PropertyKindCode : std::int32_t {
     KindBoolean = 0,

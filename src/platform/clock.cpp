@@ -29,4 +29,8 @@ void UseClock(const Clock* other) {
     current = other ? other : &realClock;
 }
 
+std::string TimeOfDay() {
+    return current->Now().toString("HH:mm:ss").toStdString();
+}
+
 }  // namespace ornavo

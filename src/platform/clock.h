@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <cstdint>
+#include <string>
 
 namespace ornavo {
 
@@ -15,5 +16,8 @@ public:
 };
 const Clock& clock();
 void UseClock(const Clock* other);  // null: the real one again
+
+/// The clock's time as "HH:mm:ss".
+std::string TimeOfDay();
 
 }  // namespace ornavo

@@ -15,8 +15,6 @@
 namespace ornavo {
 namespace {
 
-constexpr std::int32_t InfoVolume = 5, InfoSystemTime = 17;
-
 struct Sample {
     std::int32_t infoType;
     const char* text;
@@ -36,10 +34,6 @@ constexpr Sample Samples[] = {
     {15, "7"},
     {16, "123"},
 };
-
-std::string TimeOfDay() {
-    return clock().Now().toString("HH:mm:ss").toStdString();
-}
 
 /// What is left of `length` behind `from`.
 int Rest(int length, std::int32_t from) {

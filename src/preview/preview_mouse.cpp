@@ -12,8 +12,6 @@ namespace {
 
 constexpr int LeftButton = 1;
 constexpr int VolumePerPixel = 2;
-constexpr std::int32_t InfoVolume = 5;
-enum Action { ActVolumeUp = 10, ActVolumeDown = 11, ActClose = 13, ActMaximise = 14, ActMinimise = 15 };
 
 }  // namespace
 
@@ -60,7 +58,7 @@ void PreviewMouse::DblClick(Control& control) {
 
 void PreviewMouse::Repeat(Control& control) {
     const dbLayoutElement* element = ElementOf(control, "Element");
-    if (element && (element->ActionType == ActVolumeUp || element->ActionType == ActVolumeDown))
+    if (element && (element->ActionType == ActionVolumeUp || element->ActionType == ActionVolumeDown))
         Attempt([&] { Element_MouseUp(*element); });
 }
 
@@ -99,16 +97,16 @@ void PreviewMouse::Element_MouseMove(const dbLayoutElement& element, const Mouse
 void PreviewMouse::Element_MouseUp(const dbLayoutElement& element) {
     if (element.ElementType == TypeVolume) return;
     switch (element.ActionType) {
-        case ActVolumeUp:
-        case ActVolumeDown:
-            infos_.Volume =
-                VolumeBy(infos_.Volume, element.ActionType == ActVolumeUp ? element.Value : -element.Value);
+        case ActionVolumeUp:
+        case ActionVolumeDown:
+            infos_.Volume = VolumeBy(infos_.Volume,
+                                     element.ActionType == ActionVolumeUp ? element.Value : -element.Value);
             return infos_.ShowLine();
-        case ActClose:
+        case ActionClose:
             return window_.Unload();
-        case ActMaximise:
+        case ActionMaximise:
             return window_.ToggleMaximise();
-        case ActMinimise:
+        case ActionMinimise:
             return window_.Minimise();
         default:
             break;

@@ -16,15 +16,6 @@ struct Subject {
     const dbLayoutElement& element;
 };
 
-enum ActionCode {
-    ActionForward = 6,
-    ActionBackwards = 7,
-    ActionVolumeUp = 10,
-    ActionVolumeDown = 11,
-    ActionScript = 12
-};
-enum InfoCode { InfoUserLabel = 0, InfoVolume = 5, InfoSongProperty = 20 };
-
 bool Always(const Subject&) {
     return true;
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/failure.h"
+#include "document/codes.h"
 #include "platform/clock.h"
 #include "render/prefs.h"
 #include "render/skin_picture.h"
@@ -14,7 +15,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int InfoUserLabel = 0, InfoSystemTime = 17;
 constexpr double NewFontSize = 10;
 
 constexpr std::array<std::string_view, 19> SampleTexts = {
@@ -48,7 +48,7 @@ std::int32_t Absolute(std::int32_t value) {
 
 std::string InfoSampleText(const dbLayoutElement& element) {
     if (element.InfoType == InfoUserLabel) return element.InfoField;
-    if (element.InfoType == InfoSystemTime) return clock().Now().toString("HH:mm:ss").toStdString();
+    if (element.InfoType == InfoSystemTime) return TimeOfDay();
     if (element.InfoType < 0 || element.InfoType >= static_cast<int>(SampleTexts.size())) return "";
     return std::string(SampleTexts[static_cast<std::size_t>(element.InfoType)]);
 }
