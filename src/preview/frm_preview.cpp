@@ -84,7 +84,7 @@ void frm_Preview::ShowTip() {
 void frm_Preview::Rebuild() {
     composed_ = size();
     RenderElements(true);
-    Attempt([] { ShapeForm(); });
+    if (!Attempt([] { ShapeForm(); })) SetShape({});  // the veil of a resize would stay
     infos_.Begin(host_, *mouse_.Layout);
 }
 

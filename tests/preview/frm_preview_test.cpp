@@ -10,6 +10,7 @@
 #include "platform/clock.h"
 #include "render/shape.h"
 #include "support/canvas_fixture.h"
+#include "support/failure_number.h"
 
 namespace ornavo::testing {
 namespace {
@@ -124,6 +125,18 @@ TEST_F(PreviewTest, TheWindowHasTheShapeAtEverySize) {
                         << one.name << size << ' ' << x << ' ' << y;
         }
     }
+}
+
+TEST_F(PreviewTest, AShapeThatCantBePlacedLeavesTheWindowWhole) {
+    for (const CornerRow& c :
+         {CornerRow{0, 0, 0, 0}, {50, 0, 90, 0}, {std::numeric_limits<int>::max(), 1, 0, 0}})
+        Corner(c.x, c.hAlign, c.y, c.vAlign);
+    Open();
+    preview_->ShowOutline({90, 90});
+    ASSERT_FALSE(preview_->mask().isEmpty());
+    EXPECT_EQ(FailureNumber([&] { preview_->ShowOutline({700, 700}); }), 6);
+    preview_->EndOutline();
+    EXPECT_TRUE(preview_->mask().isEmpty());
 }
 
 TEST_F(PreviewTest, IsLeftByKeysAndKeepsItsPlace) {
