@@ -8,8 +8,7 @@ namespace ornavo {
 Program::Program(std::string version, const std::string& ownFolder, const std::string& dataFolder)
     : ownFolder_(ownFolder),
       main_(*this, std::move(version)),
-      project_(&main_, *this, main_, SkinFiles(ownFolder, dataFolder)),
-      properties_(&main_, *this, main_) {
+      project_(&main_, *this, main_, SkinFiles(ownFolder, dataFolder)) {
     UsePrompts(&prompts_);
 }
 
@@ -42,7 +41,7 @@ bool Program::MayClose() {
 
 void Program::UnloadOthers() {
     if (toolbox_) toolbox_->close();
-    properties_.close();
+    if (properties_) properties_->close();
     if (magnifier_) magnifier_->close();
     if (project_.LastUnload() == frm_SkinProject::Unload::Done) return;
     // It stayed open, is asked to close once more, and is the last window if it stays again.
@@ -55,6 +54,11 @@ void Program::ShowToolbox() {
     if (toolboxWaits_) return;
     if (!toolbox_) toolbox_ = std::make_unique<frm_Toolbox>(main_.parts());
     toolbox_->Open();
+}
+
+PropertiesPanel& Program::properties() {
+    if (!properties_) properties_ = std::make_unique<frm_Properties>(&main_, *this, main_);
+    return *properties_;
 }
 
 void Program::ShowPreview() {

@@ -34,18 +34,18 @@ public:
     void LeavePreview() override;
     void ToggleMagnifier() override;
     bool EditPicture(const std::string& finalName, std::string& path) override;
-    PropertiesPanel& properties() override { return properties_; }
+    PropertiesPanel& properties() override;
 
 private:
     std::string ownFolder_;
     QtPrompts prompts_;
     frm_Ornavo main_;
     frm_SkinProject project_;
-    frm_Properties properties_;
-    std::unique_ptr<frm_Toolbox> toolbox_;      // null until it is first shown
-    std::unique_ptr<frm_Magnifier> magnifier_;  // the one last opened
-    std::unique_ptr<frm_Preview> preview_;      // null while there is none
-    bool toolboxWaits_ = false;                 // for the main window, above which it stays
+    std::unique_ptr<frm_Properties> properties_;  // null until it is first asked for
+    std::unique_ptr<frm_Toolbox> toolbox_;        // null until it is first shown
+    std::unique_ptr<frm_Magnifier> magnifier_;    // the one last opened
+    std::unique_ptr<frm_Preview> preview_;        // null while there is none
+    bool toolboxWaits_ = false;                   // for the main window, above which it stays
 };
 
 }  // namespace ornavo
