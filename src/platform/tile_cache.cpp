@@ -8,8 +8,6 @@
 namespace ornavo {
 namespace {
 
-constexpr Colour NoKey = -1;
-
 using Key = std::tuple<qint64, Colour, bool, int, int, int, double>;
 
 struct Kept {
@@ -29,9 +27,8 @@ Cache& cache() {
 }
 
 Key KeyOf(const QImage& picture, const TileState& state, Size size, int scale) {
-    const Colour colour = state.UseTransparency ? TranslateColor(KeyColourOf(state, picture)) : NoKey;
     return {picture.cacheKey(),
-            colour,
+            HiddenColourOf(state, picture),
             state.ShowSmooth,
             size.width,
             size.height,

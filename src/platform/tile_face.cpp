@@ -16,25 +16,13 @@ namespace {
 constexpr Colour EdgeLight = Rgb(255, 255, 255), EdgeDark = 0;
 constexpr int LightAlpha = 170, DarkAlpha = 90;
 
-bool IsOpaque(QRgb pixel) {
-    return qAlpha(pixel) == 255;
-}
-
 Colour ColourOfPixel(QRgb pixel) {
     return Rgb(qRed(pixel), qGreen(pixel), qBlue(pixel));
 }
 
-/// Whether there is a key colour at all. A top left pixel that can be seen through rules out nothing: such a
-/// picture brings its own transparency.
-bool IsKeyed(const TileState& state, const QImage& picture) {
-    if (!state.UseTransparency) return false;
-    if (state.TransColorTopLeft) return IsOpaque(picture.pixel(0, 0));
-    return TranslateColor(state.TransparentColor) >= 0;
-}
-
 QImage Keyed(const QImage& picture, const TileState& state) {
-    if (picture.isNull() || !IsKeyed(state, picture)) return picture;
-    const Colour key = TranslateColor(KeyColourOf(state, picture));
+    const Colour key = HiddenColourOf(state, picture);
+    if (key == NoColour) return picture;
     const QRgb hidden = qRgb(RedOf(key), GreenOf(key), BlueOf(key));
     QImage keyed = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < keyed.height(); ++y) {
@@ -164,7 +152,9 @@ void PaintGround(QPainter& painter, const TileState& state, Size size, bool plai
 }
 
 /// A distance in pixels that any file may hold, kept where int arithmetic cannot overflow.
-int WholePixels(double distance) { return static_cast<int>(std::clamp(distance, -1e8, 1e8)); }
+int WholePixels(double distance) {
+    return static_cast<int>(std::clamp(distance, -1e8, 1e8));
+}
 
 /// Where something of that width stands between Left and the trimmed right end.
 int AlignedLeft(const TileLayer& layer, Size size, int width) {
@@ -244,6 +234,13 @@ void TileLayers::Remove(std::string_view key) {
 Colour KeyColourOf(const TileState& state, const QImage& picture) {
     if (!state.TransColorTopLeft || picture.isNull()) return state.TransparentColor;
     return ColourOfPixel(picture.pixel(0, 0));
+}
+
+Colour HiddenColourOf(const TileState& state, const QImage& picture) {
+    if (!state.UseTransparency || picture.isNull()) return NoColour;
+    // Such a picture brings its own transparency.
+    if (state.TransColorTopLeft && qAlpha(picture.pixel(0, 0)) != 255) return NoColour;
+    return TranslateColor(KeyColourOf(state, picture));
 }
 
 QImage FinishedPicture(const QImage& picture, const TileState& state, Size size, int scale) {

@@ -72,6 +72,10 @@ inline constexpr std::int64_t FinishedPixelLimit = 16'000'000;
 
 /// The key colour that the picture really uses: its top left pixel or the one given.
 Colour KeyColourOf(const TileState& state, const QImage& picture);
+/// The same where it hides anything, plain, otherwise NoColour: without UseTransparency, for what is no
+/// colour, and where the top left pixel rules and can be seen through.
+inline constexpr Colour NoColour = -1;
+Colour HiddenColourOf(const TileState& state, const QImage& picture);
 
 /// The picture keyed, stretched to the size, rotated. Keyed first, then stretched. The picture is RGB32 or
 /// premultiplied ARGB32, and so is the result. `scale` is the number of screen pixels to a pixel of the

@@ -2,8 +2,6 @@
 #include "playback/info_show.h"
 
 #include <QPainter>
-#include <algorithm>
-#include <limits>
 
 #include "base/failure.h"
 #include "base/numbers.h"
@@ -34,12 +32,6 @@ constexpr Sample Samples[] = {
     {15, "7"},
     {16, "123"},
 };
-
-/// What is left of `length` behind `from`.
-int Rest(int length, std::int32_t from) {
-    const std::int64_t rest = std::int64_t{length} - from;
-    return static_cast<int>(std::clamp<std::int64_t>(rest, 0, std::numeric_limits<int>::max()));
-}
 
 void DrawPart(PictureBox& box, const PictureRef& picture, int width, int height) {
     box.Draw([&](QPainter& painter) {
@@ -136,9 +128,7 @@ void InfoShow::Draw(Info& info) const {
             painter.fillRect(look.bar.left, look.bar.top, look.bar.width, look.bar.height,
                              ScreenColour(element.SeekerColor));
         });
-    DrawInfoText(box, look.text,
-                 {look.textLeft, element.CaptionY, Rest(bounds.width, look.textLeft),
-                  Rest(bounds.height, element.CaptionY)});
+    DrawInfoText(box, look.text, {look.textLeft, element.CaptionY});
     info.drawn = std::move(look);
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What is typed, ticked or picked in a row goes to the model at once, and is drawn a moment later. A value that
-// the model can't hold leaves it as it was, without a word.
+// What is typed, ticked or picked in a row goes to the model at once, and is drawn a moment later. A value
+// that the model can't hold leaves it as it was, without a word.
 #pragma once
 
 namespace ornavo {

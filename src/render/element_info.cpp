@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/element_info.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <limits>
@@ -16,6 +17,7 @@ namespace ornavo {
 namespace {
 
 constexpr double NewFontSize = 10;
+constexpr int FarAway = 1 << 24;  // pixels before the box, where no text is seen any more
 
 constexpr std::array<std::string_view, 19> SampleTexts = {
     "",
@@ -53,8 +55,12 @@ std::string InfoSampleText(const dbLayoutElement& element) {
     return std::string(SampleTexts[static_cast<std::size_t>(element.InfoType)]);
 }
 
-void DrawInfoText(PictureBox& box, std::string_view text, const Rect& area) {
-    if (!text.empty()) box.DrawText(text, area);
+void DrawInfoText(PictureBox& box, std::string_view text, const Point& at) {
+    if (text.empty()) return;
+    const Rect bounds = box.Bounds();
+    const int left = std::clamp(at.x, -FarAway, bounds.width);
+    const int top = std::clamp(at.y, -FarAway, bounds.height);
+    box.DrawText(text, {left, top, bounds.width - left, bounds.height - top});
 }
 
 void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview) {
@@ -66,9 +72,7 @@ void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview) {
     box.Cls();
     // In the preview only a plain label has its text from the start; the rest is told by what plays.
     if (preview && element.InfoType != InfoUserLabel) return;
-    const Rect bounds = box.Bounds();
-    DrawInfoText(box, InfoSampleText(element),
-                 {0, element.CaptionY, bounds.width, bounds.height - element.CaptionY});
+    DrawInfoText(box, InfoSampleText(element), {0, element.CaptionY});
 }
 
 }  // namespace ornavo

@@ -16,7 +16,8 @@ void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview);
 /// What the canvas shows for the element's InfoType; "" where it shows nothing.
 std::string InfoSampleText(const dbLayoutElement& element);
 
-/// One line at the top left of the area, "&" and line breaks as characters; nothing for "".
-void DrawInfoText(PictureBox& box, std::string_view text, const Rect& area);
+/// One line, "&" and line breaks as characters, that begins at a place of the box, pixels, which may lie
+/// anywhere; nothing for "".
+void DrawInfoText(PictureBox& box, std::string_view text, const Point& at);
 
 }  // namespace ornavo

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "render/kiosk_panel.h"
 
-#include <array>
-
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "document/current_skin.h"
@@ -96,43 +94,63 @@ void PlaceSongs(LayoutHost& host, const Measures& m) {
 void SetupLabel(Label& label, std::string_view colourKey) {
     label.ForeColor = Pref(colourKey).value.ToLong();
     label.Font = *GetPrefFont("PI_Font", 8);
+    label.Refresh();
 }
 
-}  // namespace
+/// Below the picture at these bounds, the shadow moved by a part of its size.
+void PlaceLabels(LayoutHost& host, const Rect& picture) {
+    Label &label = host.but_Label, &shadow = host.but_LabelShadow;
+    const auto move = [&](Label& one, double left, double top) {
+        one.Move({ToLong(left), ToLong(top), picture.width, one.Bounds().height});
+    };
+    const double below = Real(picture.top) + picture.height + PictureGap;
+    move(label, picture.left, below);
+    const double factor = Number("PI_FontSizeFactor"), shift = picture.width / 100.0 * factor;
+    move(shadow, picture.left + shift, below + shift);
+    label.Font.Size = shadow.Font.Size = picture.width / 12.0 * factor;
+    const int height = Length(picture.height * Number("PI_HeightFactor"));
+    for (Label* one : {&label, &shadow}) {
+        const Rect now = one->Bounds();
+        one->Move({now.left, now.top, now.width, height});
+    }
+    label.Alignment = shadow.Alignment = Pref("PI_TextAlign").value.ToLong();
+}
 
+void ShowLabels(LayoutHost& host) {
+    Label &label = host.but_Label, &shadow = host.but_LabelShadow;
+    label.Caption = shadow.Caption = PictureText;
+    label.Refresh();
+    shadow.Refresh();
+    const bool isSeen = Number("PI_HeightFactor") > 1;
+    label.setVisible(isSeen);
+    shadow.setVisible(isSeen && Pref("PI_TextShadow").value.ToBoolean());
+}
+
+/// The album picture, its shadow, its label and the button in its corner: a square of `size` pixels at x, y.
+/// Not guarded: what fails ends it, and what comes after it stays as it was.
 void SetupPictures(int size, int x, int y) {
     LayoutHost& host = TargetForm->host();
     TileButton& picture = host.but_Picture;
-    const std::array<Label*, 2> labels = {&host.but_Label, &host.but_LabelShadow};
     picture.State.ShowBorder = Pref("PI_PictureBorder").value.ToBoolean();
     picture.State.BorderColor = Pref("PI_PictureBorderColor").value.ToLong();
     SetupLabel(host.but_Label, "PI_TextColor");
     SetupLabel(host.but_LabelShadow, "PI_TextShadowColor");
     picture.Move({x, y, size, size});
     host.but_Shadow.Move({ToLong(Real(x) + PictureGap), ToLong(Real(y) + PictureGap), size, size});
-    const double factor = Number("PI_FontSizeFactor"), heightFactor = Number("PI_HeightFactor");
-    const double below = Real(y) + size + PictureGap, shift = size / 100.0 * factor;
-    const int height = Length(size * heightFactor);
-    host.but_Label.Move({x, ToLong(below), size, height});
-    host.but_LabelShadow.Move({ToLong(x + shift), ToLong(below + shift), size, height});
-    for (Label* label : labels) {
-        label->Font.Size = size / 12.0 * factor;
-        label->Alignment = Pref("PI_TextAlign").value.ToLong();
-        label->Caption = PictureText;
-        label->Refresh();
-    }
+    PlaceLabels(host, {x, y, size, size});
     picture.RefreshElements();
     picture.setVisible(true);
     host.but_Shadow.setVisible(Pref("PI_PictureShadow").value.ToBoolean());
     host.but_Shadow.SetBackColor(Pref("PI_PictureShadowColor").value.ToLong());
-    host.but_Label.setVisible(heightFactor > 1);
-    host.but_LabelShadow.setVisible(heightFactor > 1 && Pref("PI_TextShadow").value.ToBoolean());
+    ShowLabels(host);
     const Rect button = host.but_AddAll.Bounds();
     host.but_AddAll.Move({ToLong(Real(x) + size - button.width + 1), ToLong(Real(y) + size - button.height),
                           button.width, button.height});
     host.but_AddAll.setVisible(true);
     host.but_AddAll.ZOrder();
 }
+
+}  // namespace
 
 void LayoutKioskPanel() {
     LayoutHost& host = TargetForm->host();

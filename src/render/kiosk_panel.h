@@ -11,7 +11,4 @@ void LayoutKioskPanel();
 /// Styles everything by the preferences, the search letters last.
 void SetupKioskPanel();
 
-/// The album picture, its shadow, its label and the button in its corner: a square of `size` pixels at x, y.
-void SetupPictures(int size, int x, int y);
-
 }  // namespace ornavo

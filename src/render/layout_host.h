@@ -9,7 +9,8 @@ namespace ornavo {
 
 class LayoutHost : public SamplePanel {
 public:
-    /// The controls become children of the window and are freed with it. The listener of events hears their mouse.
+    /// The controls become children of the window and are freed with it. The listener of events hears their
+    /// mouse.
     LayoutHost(QWidget& window, ControlEvents* events);
 
 private:

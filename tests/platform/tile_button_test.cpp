@@ -14,7 +14,8 @@ namespace ornavo {
 namespace {
 
 PictureRef Plain(const QColor& colour, int width = 4, int height = 4) {
-    QImage image(width, height, QImage::Format_RGB32);
+    QImage image(width, height,
+                 colour.alpha() < 255 ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     image.fill(colour);
     return std::make_shared<Picture>(Picture{image, {}});
 }
@@ -205,6 +206,11 @@ TEST(TileCache, MakesAPictureOnceForALook) {
     EXPECT_LE(TileCacheSize(), TileCacheBytes);
     EXPECT_NE(FinishedTile(picture, state, {50, 50}, 1), keyed) << "dropped for the large ones";
     EXPECT_EQ(FinishedTile(nullptr, state, {50, 50}, 1), nullptr);
+    const PictureRef clear = Plain(Qt::transparent);
+    state.TransparentColor = 0;
+    const auto black = FinishedTile(clear, state, {50, 50}, 1);
+    state.TransColorTopLeft = true;
+    EXPECT_NE(FinishedTile(clear, state, {50, 50}, 1), black) << "a clear corner is no black one";
 }
 
 }  // namespace

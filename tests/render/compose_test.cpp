@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/compose.h"
 
+#include <limits>
+
 #include "document/codes.h"
 #include "support/scripted_prompts.h"
 #include "support/skin_fixture.h"
@@ -134,6 +136,8 @@ TEST_F(ComposeTest, WhatTheCompositionWritesToTheModel) {
     without.TransparentColor = 88;
     dbLayoutElement& info = Add("info", TypeInfo, {0, 0, 10, 10});
     info.CapScrollSpeed = -3;
+    info.InfoType = 2;
+    info.CaptionY = std::numeric_limits<std::int32_t>::min();  // nothing is seen, and no sum overflows
     info.Value = 2.5;
     Compose(target_);
     EXPECT_EQ(topLeft.TransparentColor, Rgb(1, 2, 3));

@@ -73,7 +73,7 @@ TEST_F(KioskPanelTest, EverythingFollowsFromTheMarginsAndAFewPreferences) {
 }
 
 TEST_F(KioskPanelTest, AStatementThatFailsIsLeftOutAlone) {
-    const Rect before = host_.but_Picture.Bounds();
+    const Rect addAll = host_.but_AddAll.Bounds();
     objSkin->dbSkinPrefs->Remove("IN_Width");
     Set("IN_ShadowColor", "no colour");
     Set("IN_ShadowDistance", 7);
@@ -82,7 +82,9 @@ TEST_F(KioskPanelTest, AStatementThatFailsIsLeftOutAlone) {
     Compose(target_);
     EXPECT_EQ(host_.but_Info.Bounds().width, 40);
     EXPECT_EQ(host_.but_Info.State.ShadowDistance, 7);
-    EXPECT_EQ(host_.but_Picture.Bounds(), (Rect{690, 10, 0, 0})) << before.left;
+    EXPECT_EQ(host_.but_Picture.Bounds(), (Rect{690, 10, 0, 0}));
+    EXPECT_EQ(host_.but_Label.Bounds(), (Rect{690, 14, 0, 0})) << "comes before what fails";
+    EXPECT_EQ(host_.but_AddAll.Bounds(), addAll) << "comes after it";
     EXPECT_TRUE(host_.pKeyb.isVisible());
     EXPECT_TRUE(prompts_.asked.empty());
     Set("SL_Width", 2147483647);
