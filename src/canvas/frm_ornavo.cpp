@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QShortcut>
@@ -54,9 +53,6 @@ frm_Ornavo::frm_Ornavo(Windows& windows, std::string version)
     setMouseTracking(true);
     setAccessibleName("Canvas");
     new SkinDrop(*this, windows);
-    // Here it only shows how the jukebox's box will look.
-    host_.tbx_Search.Edit().setReadOnly(true);
-    host_.tbx_Search.Edit().setFocusPolicy(Qt::NoFocus);
     AddShortcut(Qt::Key_F5, KeyF5, 0);
     AddShortcut(QKeySequence::fromString("Ctrl+S"), KeyS, 2);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, &frm_Ornavo::ApplicationStateChanged);

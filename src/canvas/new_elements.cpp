@@ -8,7 +8,6 @@
 #include "document/current_skin.h"
 #include "document/layout_edits.h"
 #include "editor/selection.h"
-#include "platform/screen.h"
 #include "render/layout_host.h"
 
 namespace ornavo {
@@ -68,10 +67,8 @@ void SelectNewElement(CanvasParts& parts, const dbLayoutElement& element) {
     objSkin->Dirty = true;
     parts.canvas.UpdateCurrentLayout();
     parts.canvas.PlaceAnchors(ControlOf(parts.host, element), false);
-    BeginScreenUpdate();
     parts.windows.properties().UnloadProperties();
     parts.windows.properties().Open();
-    EndScreenUpdate();
 }
 
 bool LayoutIsOpen() {

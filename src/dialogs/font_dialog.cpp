@@ -33,6 +33,14 @@ QString NumberText(double size) {
     return QString::number(size, 'g', 6);
 }
 
+/// Hands over each line that is chosen. The one that the Tab key puts the focus on is not.
+template <class Take>
+void WhenChosen(QListWidget* list, Take take) {
+    QObject::connect(list, &QListWidget::itemSelectionChanged, list, [list, take] {
+        for (const QListWidgetItem* chosen : list->selectedItems()) take(chosen->text());
+    });
+}
+
 }  // namespace
 
 FontDialog::FontDialog(QWidget* owner, const Font& start, const std::vector<std::string>& offered)
@@ -80,8 +88,8 @@ void FontDialog::ListFaces(const std::vector<std::string>& offered) {
     faces_->addItems(names);
     const QList<QListWidgetItem*> own = faces_->findItems(Shown(font_.Name), Qt::MatchFixedString);
     if (!own.isEmpty()) faces_->setCurrentItem(own.first());
-    connect(faces_, &QListWidget::currentTextChanged, this, [this](const QString& name) {
-        if (!name.isEmpty()) font_.Name = name.toStdString();
+    WhenChosen(faces_, [this](const QString& name) {
+        font_.Name = name.toStdString();
         ShowSample();
     });
 }
@@ -113,7 +121,7 @@ QLayout* FontDialog::SizeColumn() {
     const QList<QListWidgetItem*> own = sizes_->findItems(size_->text(), Qt::MatchExactly);
     if (!own.isEmpty()) sizes_->setCurrentItem(own.first());
     connect(size_, &QLineEdit::textEdited, this, &FontDialog::TakeSize);
-    connect(sizes_, &QListWidget::currentTextChanged, this, [this](const QString& size) {
+    WhenChosen(sizes_, [this](const QString& size) {
         size_->setText(size);
         TakeSize();
     });

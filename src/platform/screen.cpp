@@ -3,14 +3,8 @@
 
 #include <QCursor>
 #include <QGuiApplication>
-#include <algorithm>
 
 namespace ornavo {
-namespace {
-
-int depth = 0;
-
-}  // namespace
 
 WaitPointer::WaitPointer() {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -18,18 +12,6 @@ WaitPointer::WaitPointer() {
 
 WaitPointer::~WaitPointer() {
     QGuiApplication::restoreOverrideCursor();
-}
-
-void BeginScreenUpdate() {
-    ++depth;
-}
-
-void EndScreenUpdate() {
-    depth = std::max(0, depth - 1);
-}
-
-int ScreenUpdateDepth() {
-    return depth;
 }
 
 }  // namespace ornavo

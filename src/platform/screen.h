@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What we ask of the screen: the hourglass, and the counted lock round a rebuild.
+// What we ask of the screen: the hourglass. A rebuild needs no lock, as Qt paints on return to the event
+// loop.
 #pragma once
 
 namespace ornavo {
@@ -12,11 +13,5 @@ public:
     WaitPointer(const WaitPointer&) = delete;
     WaitPointer& operator=(const WaitPointer&) = delete;
 };
-
-/// Pairs nest. Qt paints on return to the event loop, so a rebuild appears at once anyway; the count tells a
-/// rebuild in progress.
-void BeginScreenUpdate();
-void EndScreenUpdate();
-int ScreenUpdateDepth();
 
 }  // namespace ornavo

@@ -10,7 +10,6 @@
 #include "document/shape_edits.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
-#include "platform/screen.h"
 #include "properties/choosers.h"
 #include "properties/commit.h"
 #include "properties/element_sheet.h"
@@ -105,7 +104,6 @@ void frm_Properties::DrawPendingEdits() {
 void frm_Properties::ShowProperties() {
     if (!SelControl) return;
     const Raised building(parts_.IsBuilding);
-    BeginScreenUpdate();
     sheet_.setUpdatesEnabled(false);
     const RowValue* focused = sheet_.Focused();
     const std::string key = focused ? focused->key : "";
@@ -114,12 +112,11 @@ void frm_Properties::ShowProperties() {
     // A row that is hidden would hand the focus on to the next one, all the way down.
     if (focused) focused->control->clearFocus();
     UnloadProperties();
-    Build(SheetOf(*SelControl));
+    Attempt([&] { Build(SheetOf(*SelControl)); });
     if (focused) sheet_.Focus(key);
     if (const RowValue* again = sheet_.Focused())
         if (auto* text = dynamic_cast<QLineEdit*>(again->control)) text->setCursorPosition(cursor);
     sheet_.setUpdatesEnabled(true);
-    EndScreenUpdate();
 }
 
 Sheet frm_Properties::SheetOf(const Control& control) {

@@ -18,14 +18,6 @@
 namespace ornavo {
 namespace {
 
-class ScreenLock {
-public:
-    ScreenLock() { BeginScreenUpdate(); }
-    ~ScreenLock() { EndScreenUpdate(); }
-    ScreenLock(const ScreenLock&) = delete;
-    ScreenLock& operator=(const ScreenLock&) = delete;
-};
-
 /// A slot of a pool for the element, or -1 with the slot given back.
 template <class T>
 int ClaimSlot(Pool<T>& pool, int slot, dbLayoutElement& element) {
@@ -109,7 +101,6 @@ void RenderElements(bool preview) {
 
 void ComposeLayout(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {
     SetTarget(form, std::move(layout), skinWidth, skinHeight);
-    const ScreenLock lock;
     RenderElements(false);
     form.ShowShapePoints();
     form.ShowGrid();
