@@ -211,7 +211,9 @@ void frm_Ornavo::ShowGrid() {
 void frm_Ornavo::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     surface_.Paint(painter, event->rect());
-    if (!LayoutIsShown()) PaintWelcome(painter, rect(), SkinIsOpen() ? objSkin->SkinName : "");
+    // What has no file has no size either.
+    if (!LayoutIsShown())
+        PaintWelcome(painter, rect(), SkinIsOpen() ? objSkin->SkinName : "", objSkin->SkinWidth > 0);
 }
 
 void frm_Ornavo::keyPressEvent(QKeyEvent* event) {

@@ -7,7 +7,7 @@
 
 namespace ornavo {
 
-/// `missingSkin`: the name of a skin that was asked for and has no file; "" if none was asked for.
-void PaintWelcome(QPainter& painter, const QRect& window, const std::string& missingSkin);
+/// `skin`: the name of the one that was asked for, "" for none. It was found and has no layout, or wasn't.
+void PaintWelcome(QPainter& painter, const QRect& window, const std::string& skin, bool found);
 
 }  // namespace ornavo
