@@ -24,9 +24,15 @@ void PictureBox::SetBackColor(Colour colour) {
     Control::SetBackColor(colour);
 }
 
+void PictureBox::Tile(PictureRef picture) {
+    tile_ = std::move(picture);
+    update();
+}
+
 void PictureBox::Cls() {
-    if (layer_.isNull()) return;
+    if (layer_.isNull() && !tile_) return;
     layer_ = QPixmap();
+    tile_ = nullptr;
     update();
 }
 
@@ -60,6 +66,7 @@ int PictureBox::TextWidth(std::string_view text) const {
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), ScreenColour(BackColor()));
+    if (tile_) painter.fillRect(event->rect(), QBrush(tile_->image));
     if (picture_) painter.drawImage(0, 0, picture_->image);
     if (!layer_.isNull()) painter.drawPixmap(0, 0, layer_);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A box with a background, a picture at its natural size, and a drawn layer over it.
+// A box with a background, a tiled picture or one at its natural size, and a drawn layer over it.
 #pragma once
 
 #include <QPixmap>
@@ -16,7 +16,8 @@ public:
 
     void SetPicture(PictureRef picture);  // at the box's top left, natural size; null for none
     const PictureRef& GetPicture() const { return picture_; }
-    void Cls();  // empties the drawn layer
+    void Tile(PictureRef picture);  // from the top left over all of the box, also when it grows
+    void Cls();                     // takes away the tiles and empties the drawn layer
     /// Draws into the layer, which has the box's size.
     void Draw(const std::function<void(QPainter&)>& drawing);
     /// A single line of text, its rectangle's top left given; nothing is broken, "&" is a character.
@@ -32,7 +33,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    PictureRef picture_;
+    PictureRef picture_, tile_;
     QPixmap layer_;  // null while nothing is drawn
 };
 

@@ -16,16 +16,11 @@ void DrawMainBackground(LayoutHost& host, bool stretch) {
     panel.Cls();
     const PictureRef& picture = host.pMainBack.GetPicture();
     if (!picture) return;
-    const Rect bounds = panel.Bounds();
-    if (stretch) panel.SetBackColor(0);
+    if (!stretch) return panel.Tile(picture);
+    panel.SetBackColor(0);
     panel.Draw([&](QPainter& painter) {
-        const QRect whole(0, 0, bounds.width, bounds.height);
-        if (stretch) {
-            painter.setRenderHint(QPainter::SmoothPixmapTransform);
-            painter.drawImage(whole, picture->image);
-        } else {
-            painter.fillRect(whole, QBrush(picture->image));
-        }
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(panel.rect(), picture->image);
     });
 }
 

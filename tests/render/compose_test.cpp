@@ -193,7 +193,8 @@ TEST_F(ComposeTest, ThePanelIsTiledOrStretched) {
     ComposeBare();
     EXPECT_EQ(At(0, 39), QColor(Qt::red));
     EXPECT_EQ(At(1, 39), QColor(Qt::blue));
-    EXPECT_EQ(At(38, 0), QColor(Qt::red));
+    host_.pMain.Move({0, 0, 60, 40});
+    EXPECT_EQ(At(58, 0), QColor(Qt::red)) << "while it grows";
     panel.StretchBackground = true;
     ComposeBare();
     EXPECT_EQ(At(1, 39), QColor(Qt::red));
