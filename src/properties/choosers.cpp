@@ -41,12 +41,14 @@ std::vector<std::string> FacesOfSkin() {
 
 void ChooseFont(PanelParts& parts, RowText& box) {
     const std::string key = box.Tag;
-    FontRef now;
-    Attempt([&] { now = GetRowValue(parts.BoundObject, key).ToFont(); });
-    Font font = now ? *now : Font();
-    if (!cCommonDialog().VBChooseFont(font, FacesOfSkin())) return;
-    box.SetText(font.Name);
-    Attempt([&] { SetRowValue(parts.BoundObject, key, std::make_shared<Font>(font)); });
+    FontRef font;
+    Attempt([&] { font = GetRowValue(parts.BoundObject, key).ToFont(); });
+    if (!font) font = std::make_shared<Font>();
+    Font chosen = *font;
+    if (!cCommonDialog().VBChooseFont(chosen, FacesOfSkin())) return;
+    box.SetText(chosen.Name);
+    *font = chosen;  // also for a clone, which has the same object
+    Attempt([&] { SetRowValue(parts.BoundObject, key, font); });
     parts.tmrUpdate.start();
 }
 

@@ -205,6 +205,11 @@ TEST_F(CommitTest, Choosing) {
     click("TextColor");
     EXPECT_EQ(Box("TextColor")->BackColor(), 0x123456);
     EXPECT_EQ(Element("Button1").TextColor, 0x123456);
+    Element("Button1").Font = Element("Picture1").Font = std::make_shared<Font>();
+    prompts_.fonts = {Font{.Name = "Arial", .Size = 20}};
+    click("Font");
+    EXPECT_EQ(Element("Button1").Font->Size, 20);
+    EXPECT_EQ(Element("Picture1").Font->Size, 20) << "a clone has the same font";
     prompts_.files = {Path("new.bmp").toStdString()};
     click("PicOver");
     EXPECT_EQ(Element("Button1").PicOver, "new.bmp");
