@@ -86,13 +86,9 @@ void frm_Ornavo::Form_Load() {
     const ScreenMetrics& metrics = screenMetrics();
     setMinimumSize(LeastTwips / TwipsPerPixel - 2 * metrics.SM_CXFRAME,
                    LeastTwips / TwipsPerPixel - 2 * metrics.SM_CYFRAME - metrics.SM_CYSIZE - 1);
-    MoveTwips({settings::OrnavoLeft.standard, settings::OrnavoTop.standard, settings::OrnavoWidth.standard,
-               settings::OrnavoHeight.standard});
-    Attempt([&] {
-        MoveTwips({settings::OrnavoLeft.Read(), settings::OrnavoTop.Read(), settings::OrnavoWidth.Read(),
-                   settings::OrnavoHeight.Read()});
-    });
-    Attempt([&] { SetWindowState(settings::OrnavoWindowState.Read()); });
+    MoveTwips({settings::OrnavoLeft.ReadOrStandard(), settings::OrnavoTop.ReadOrStandard(),
+               settings::OrnavoWidth.ReadOrStandard(), settings::OrnavoHeight.ReadOrStandard()});
+    SetWindowState(settings::OrnavoWindowState.ReadOrStandard());
     ReadViewSettings();
     UpdateCaption();
     ShowGrid();

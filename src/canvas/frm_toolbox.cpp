@@ -9,6 +9,7 @@
 
 #include "base/failure.h"
 #include "base/numbers.h"
+#include "canvas/anchors.h"
 #include "canvas/new_elements.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
@@ -178,10 +179,8 @@ void frm_Toolbox::Open() {
 void frm_Toolbox::Form_Load() {
     adjustSize();
     Rect place = TwipBounds();
-    place.left = settings::ToolboxLeft.standard;
-    place.top = settings::ToolboxTop.standard;
-    Attempt([&] { place.left = settings::ToolboxLeft.Read(); });
-    Attempt([&] { place.top = settings::ToolboxTop.Read(); });
+    place.left = settings::ToolboxLeft.ReadOrStandard();
+    place.top = settings::ToolboxTop.ReadOrStandard();
     MoveTwips(place);
     ShowChecked(chk_ShowShape, viewSwitches.ShowShape);
     ShowChecked(chk_ShapeInverted, viewSwitches.ShapeInverted);
@@ -216,7 +215,7 @@ void frm_Toolbox::Switch(QCheckBox* box, bool& viewSwitch, void (frm_Toolbox::*r
 }
 
 void frm_Toolbox::ShowElementsChanged() {
-    if (!viewSwitches.ShowElements) parts_.canvas.HideSelectionTools();
+    if (!viewSwitches.ShowElements) parts_.anchors.HideAnchors();
     Recompose();
 }
 

@@ -3,6 +3,7 @@
 
 #include "base/failure.h"
 #include "canvas/corner_math.h"
+#include "canvas/element_families.h"
 #include "canvas/shape_points.h"
 #include "document/current_skin.h"
 #include "document/shape_edits.h"
@@ -108,8 +109,7 @@ void AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToL
     });
     if (!added) return;
     RenumberPoints(points);
-    objSkin->Dirty = true;
-    parts.canvas.UpdateCaption();
+    MarkDirty(parts);
     parts.points.ShowShapePoints();
     if (selected) SelectAgain(parts.points, *selected);
 }
@@ -145,8 +145,7 @@ void cPointMover_MouseMove(CanvasParts& parts, Control& corner, const Mouse& mou
     if (!next) return;
     corner.Move({next->x, next->y, at.width, at.height});
     MovePoint(parts, OrderOfTag(corner.Tag), next->x + CornerReach, next->y + CornerReach);
-    objSkin->Dirty = true;
-    parts.canvas.UpdateCaption();
+    MarkDirty(parts);
 }
 
 void cPointMover_MouseUp(CanvasParts& parts, Control&, const Mouse& mouse) {
@@ -154,8 +153,7 @@ void cPointMover_MouseUp(CanvasParts& parts, Control&, const Mouse& mouse) {
     parts.drag.MouseIsDown = false;
     parts.drag.DragKind = DragNone;
     parts.windows.properties().Open();
-    parts.form.activateWindow();
-    parts.form.setFocus();
+    FocusForm(parts);
 }
 
 }  // namespace ornavo

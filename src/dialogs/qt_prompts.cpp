@@ -9,12 +9,24 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <algorithm>
 
 #include "dialogs/font_dialog.h"
 #include "platform/control.h"
 
 namespace ornavo {
 namespace {
+
+/// The active window. Just after another box none is; the main window, or the one that is left of all, then
+/// stands in.
+QWidget* Owner() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto main = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && window->windowType() == Qt::Window;
+    });
+    return main == windows.end() ? nullptr : *main;
+}
 
 QMessageBox::Icon BoxIcon(Icon icon) {
     switch (icon) {
@@ -66,8 +78,7 @@ Colour PlainColour(const QColor& colour) {
 }  // namespace
 
 Answer QtPrompts::Message(std::string_view text, std::string_view title, Icon icon, Buttons buttons) {
-    QMessageBox box(BoxIcon(icon), Shown(title), Shown(text), BoxButtons(buttons),
-                    QApplication::activeWindow());
+    QMessageBox box(BoxIcon(icon), Shown(title), Shown(text), BoxButtons(buttons), Owner());
     box.setTextFormat(Qt::PlainText);
     switch (box.exec()) {
         case QMessageBox::Yes:
@@ -94,7 +105,7 @@ QStringList NameFilters(std::string_view filter) {
 
 std::optional<std::string> QtPrompts::Input(std::string_view text, std::string_view title,
                                             std::string_view proposal) {
-    QInputDialog box(QApplication::activeWindow());
+    QInputDialog box(Owner());
     box.setWindowTitle(Shown(title));
     box.setLabelText(Shown(text));
     box.setTextValue(Shown(proposal));
@@ -103,7 +114,7 @@ std::optional<std::string> QtPrompts::Input(std::string_view text, std::string_v
 }
 
 std::optional<std::string> QtPrompts::File(const FileQuestion& question) {
-    QFileDialog box(QApplication::activeWindow(), Shown(question.title), ExistingFolder(question.folder));
+    QFileDialog box(Owner(), Shown(question.title), ExistingFolder(question.folder));
     // The desktops' own boxes on Linux match filters with regard to case.
 #ifndef Q_OS_WIN
     box.setOption(QFileDialog::DontUseNativeDialog);
@@ -120,7 +131,7 @@ std::optional<std::string> QtPrompts::File(const FileQuestion& question) {
 std::optional<Colour> QtPrompts::ColourOf(Colour start, CustomColours& custom) {
     for (std::size_t i = 0; i < custom.size(); ++i)
         QColorDialog::setCustomColor(static_cast<int>(i), ScreenColour(custom[i]));
-    QColorDialog box(ScreenColour(start), QApplication::activeWindow());
+    QColorDialog box(ScreenColour(start), Owner());
     box.setOption(QColorDialog::DontUseNativeDialog);
     const bool accepted = box.exec() == QDialog::Accepted;
     for (std::size_t i = 0; i < custom.size(); ++i)
@@ -131,7 +142,7 @@ std::optional<Colour> QtPrompts::ColourOf(Colour start, CustomColours& custom) {
 }
 
 std::optional<Font> QtPrompts::FontOf(const Font& start, const std::vector<std::string>& offered) {
-    FontDialog box(QApplication::activeWindow(), start, offered);
+    FontDialog box(Owner(), start, offered);
     if (box.exec() != QDialog::Accepted) return std::nullopt;
     return box.Chosen();
 }

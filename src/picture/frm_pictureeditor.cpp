@@ -119,11 +119,9 @@ void frm_PictureEditor::Form_Load() {
     LoadSource();
     tbx_FinalName->setText(Shown(finalName_));
     ListPresets();
-    bool asBmp = settings::SaveAsBMP.standard;
-    Attempt([&] { asBmp = settings::SaveAsBMP.Read(); });
     Attempt([&] { hscHue->setValue(settings::PictureHue.Read()); });
     Attempt([&] { hscSaturation->setValue(settings::PictureSaturation.Read()); });
-    (asBmp ? optBMP : optJPG)->setChecked(true);
+    (settings::SaveAsBMP.ReadOrStandard() ? optBMP : optJPG)->setChecked(true);
     hscHue->setFocus();
     isLoading_ = false;
     picSource->Refresh();

@@ -26,9 +26,7 @@ std::string KeyOf(const Entry& entry, int number) {
 }
 
 int CountPresets() {
-    int count = 0;
-    Attempt([&] { count = settings::PresetCount.Read(); });
-    return std::clamp(count, 0, MostPresets);
+    return std::clamp(settings::PresetCount.ReadOrStandard(), 0, MostPresets);
 }
 
 void Write(const Preset& preset, int number) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/failure.h"
+
 namespace ornavo {
 
 /// Sections and keys are compared without regard to case.
@@ -23,6 +25,7 @@ struct Setting {
     const char* key;
     T standard;
     T Read() const;
+    T ReadOrStandard() const;  // the default also for a text that is not of the type
     void Write(const T& value) const;
 };
 template <>
@@ -33,5 +36,12 @@ template <>
 bool Setting<bool>::Read() const;  // "True", "False", or a number
 template <>
 void Setting<bool>::Write(const bool& value) const;
+
+template <class T>
+T Setting<T>::ReadOrStandard() const {
+    T value = standard;
+    Attempt([&] { value = Read(); });
+    return value;
+}
 
 }  // namespace ornavo

@@ -57,9 +57,8 @@ void frm_Preview::Open(const Point& standardCorner) {
 }
 
 void frm_Preview::Form_Load(const Point& standardCorner) {
-    Point corner = standardCorner;
-    Attempt([&] { corner.x = settings::PreviewLeft(corner.x).Read(); });
-    Attempt([&] { corner.y = settings::PreviewTop(corner.y).Read(); });
+    const Point corner = {settings::PreviewLeft(standardCorner.x).ReadOrStandard(),
+                          settings::PreviewTop(standardCorner.y).ReadOrStandard()};
     MoveInside(corner, {objSkin->SkinWidth, objSkin->SkinHeight});
     mouse_.Layout = objCurrentLayout;
     ComposePreview(*this, mouse_.Layout, objSkin->SkinWidth, objSkin->SkinHeight);

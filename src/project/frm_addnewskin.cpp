@@ -33,8 +33,7 @@ void RepairSize(QLineEdit& box) {
 
 void ReadSize(QLineEdit& box, const Setting<int>& setting) {
     box.setMaxLength(Longest);
-    box.setText(QString::number(setting.standard));
-    Attempt([&] { box.setText(QString::number(setting.Read())); });
+    box.setText(QString::number(setting.ReadOrStandard()));
     QObject::connect(&box, &QLineEdit::editingFinished, &box, [&box] { RepairSize(box); });
 }
 

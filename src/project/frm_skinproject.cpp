@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "project/frm_skinproject.h"
 
-#include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "base/failure.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
+#include "editor/skin_drop.h"
 #include "platform/prompts.h"
 #include "project/layout_copy.h"
 #include "project/layout_steps.h"
@@ -45,7 +45,7 @@ frm_SkinProject::frm_SkinProject(QWidget* owner, Windows& windows, Canvas& canva
     : Form(owner, "frm_SkinProject", Qt::Tool), windows_(windows), canvas_(canvas), files_(std::move(files)) {
     setWindowTitle("Skin Project");
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setAcceptDrops(true);
+    new SkinDrop(*this, windows);
     MakeControls();
     LayOut();
     connect(tbx_SkinName, &QLineEdit::editingFinished, this, &frm_SkinProject::tbx_SkinName_LostFocus);
@@ -105,12 +105,8 @@ void frm_SkinProject::LayOut() {
 
 void frm_SkinProject::Form_Load() {
     EnableSkinControls(false);
-    MoveTwips({settings::SkinProjectLeft.standard, settings::SkinProjectTop.standard, PanelWidth,
-               settings::SkinProjectHeight.standard});
-    Attempt([&] {
-        MoveTwips({settings::SkinProjectLeft.Read(), settings::SkinProjectTop.Read(), PanelWidth,
-                   settings::SkinProjectHeight.Read()});
-    });
+    MoveTwips({settings::SkinProjectLeft.ReadOrStandard(), settings::SkinProjectTop.ReadOrStandard(),
+               PanelWidth, settings::SkinProjectHeight.ReadOrStandard()});
     setFixedWidth(width());
 }
 
@@ -139,7 +135,6 @@ void frm_SkinProject::ShowSkinProject(std::string_view key) {
     if (!shown && objSkin->dbLayouts->Count() > 0) shown = objSkin->dbLayouts->Item(1);
     if (shown) objCurrentLayout = shown;
     lst_Layouts->Fill(*objSkin->dbLayouts, shown ? shown->Key : "");
-    EnableLayoutButtons(lst_Layouts->LayoutIsSelected());
     if (shown) windows_.ShowToolbox();
 }
 
@@ -155,9 +150,7 @@ void frm_SkinProject::ShowCurrentLayout() {
 }
 
 void frm_SkinProject::LoadDebug(const SkinPlace& place) {
-    canvas_.ResetSelection();
     canvas_.HideSelectionTools();
-    windows_.properties().Hide();
     files_.Open(place);
     ShowReplacedSkin();
 }
@@ -181,7 +174,6 @@ void frm_SkinProject::btn_CreateNewSkin_Click() {
     if (AddNewSkin) return;
     AddNewSkin = new frm_AddNewSkin(this, files_);
     connect(AddNewSkin, &frm_AddNewSkin::Created, this, [this] {
-        canvas_.ResetSelection();
         canvas_.HideSelectionTools();
         ShowReplacedSkin();
     });
@@ -293,7 +285,7 @@ bool frm_SkinProject::Form_QueryUnload() {
 }
 
 void frm_SkinProject::StandAlone() {
-    const Rect place = TwipBounds();
+    const QPoint corner = pos();
     setParent(nullptr, Qt::Window);
     setAttribute(Qt::WA_QuitOnClose);
     for (QWidget* control : {static_cast<QWidget*>(btn_OpenSkin), static_cast<QWidget*>(btn_CreateNewSkin),
@@ -301,8 +293,9 @@ void frm_SkinProject::StandAlone() {
         control->setEnabled(false);
     EnableLayoutButtons(false);
     setAcceptDrops(false);
-    MoveTwips(place);
     show();
+    // The new native window is placed as if it had no frame, and would stand higher by the title.
+    windowHandle()->setFramePosition(corner);
 }
 
 void frm_SkinProject::keyPressEvent(QKeyEvent* event) {
@@ -312,20 +305,6 @@ void frm_SkinProject::keyPressEvent(QKeyEvent* event) {
         SaveSkin();
     else
         Form::keyPressEvent(event);
-}
-
-void frm_SkinProject::dragEnterEvent(QDragEnterEvent* event) {
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.first().isLocalFile()) event->acceptProposedAction();
-}
-
-void frm_SkinProject::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
-    try {
-        windows_.LoadDebug(event->mimeData()->urls().first().toLocalFile().toStdString());
-    } catch (const Failure& failure) {
-        prompts().Message(failure.description(), "Loading Skin Error", Icon::Critical, Buttons::Ok);
-    }
 }
 
 }  // namespace ornavo

@@ -44,8 +44,6 @@ protected:
     void Form_Resize() override;
     bool Form_QueryUnload() override;
     void keyPressEvent(QKeyEvent*) override;
-    void dragEnterEvent(QDragEnterEvent*) override;
-    void dropEvent(QDropEvent*) override;
 
 private:
     void Form_Load();

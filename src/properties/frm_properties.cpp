@@ -56,12 +56,8 @@ frm_Properties::~frm_Properties() {
 
 void frm_Properties::Form_Load() {
     const Raised building(parts_.IsBuilding);
-    MoveTwips({settings::PropertiesLeft.standard, settings::PropertiesTop.standard,
-               settings::PropertiesWidth.standard, settings::PropertiesWidth.standard});
-    Attempt([&] {
-        MoveTwips({settings::PropertiesLeft.Read(), settings::PropertiesTop.Read(),
-                   settings::PropertiesWidth.Read(), settings::PropertiesWidth.standard});
-    });
+    MoveTwips({settings::PropertiesLeft.ReadOrStandard(), settings::PropertiesTop.ReadOrStandard(),
+               settings::PropertiesWidth.ReadOrStandard(), settings::PropertiesWidth.standard});
 }
 
 void frm_Properties::Form_Unload() {

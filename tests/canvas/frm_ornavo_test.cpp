@@ -34,13 +34,14 @@ TEST_F(CanvasTest, SettingsComeBackAndNonsenseKeepsTheDesignedState) {
     SaveSetting("Ornavo", "SnapGrid", "True");
     SaveSetting("Ornavo", "ShowGrid", "perhaps");
     SaveSetting("Ornavo", "Left", "nowhere");
+    SaveSetting("Ornavo", "Top", "300");
     viewSwitches.GridY = 10;
     frm_Ornavo form(windows_, "0.1");
     EXPECT_EQ(viewSwitches.GridX, 7);
     EXPECT_EQ(viewSwitches.GridY, 10);
     EXPECT_TRUE(viewSwitches.SnapGrid);
     EXPECT_TRUE(viewSwitches.ShowGrid);
-    EXPECT_EQ(form.TwipBounds().left, 1020);
+    EXPECT_EQ(form.TwipBounds(), (Rect{1020, 300, 12120, 9435}));
 }
 
 TEST_F(CanvasTest, TheEndSavesPlaceAndSwitches) {
