@@ -15,7 +15,6 @@
 #include "app/program.h"
 #include "canvas/element_menu.h"
 #include "document/current_skin.h"
-#include "document/fields.h"
 #include "editor/selection.h"
 #include "platform/settings.h"
 #include "render/view_switches.h"
@@ -65,30 +64,215 @@ public:
     Place SomewhereIn(const walk::Box& box) {
         return {box.left + Below(std::max(1, box.width)), box.top + Below(std::max(1, box.height))};
     }
-    Place Target();
-    bool IsPlain(Place at);
+    /// More often where something is than anywhere.
+    Place Target() {
+        switch (Below(8)) {
+            case 0:
+                return Anywhere();
+            case 1:
+                return Near(model_->CornerPlace(Below(static_cast<int>(model_->current().corners.size()))));
+            case 2:
+            case 3:
+                if (model_->handles && !IsStandard()) return SomewhereIn(model_->Handle(Below(8)));
+                [[fallthrough]];
+            default:
+                return SomewhereIn(AnyOf(model_->current().elements).shown);
+        }
+    }
+    /// On the canvas; not on a handle of what keeps its size here, nor where it is open what lies in front.
+    bool IsPlain(Place at) {
+        // The very corner stands for the middle of a window in simulated events.
+        if (!QRect(QPoint(1, 0), canvas().size() - QSize(1, 0)).contains(at.x, at.y)) return false;
+        bool onHandle = false, onCorner = false;
+        for (int i = 0; model_->handles && i < 8; ++i) onHandle |= model_->Handle(i).Contains(at);
+        for (int i = 0; i < static_cast<int>(model_->current().corners.size()); ++i) {
+            const Place corner = model_->CornerPlace(i);
+            onCorner |= walk::Box{corner.x - 2, corner.y - 2, 5, 5}.Contains(at);
+        }
+        // The scroll frame's bar comes to the front of everything when the frame is moved.
+        const bool overBar =
+            model_->Named("Scrollbar").shown.Contains(at) && model_->ElementUnder(at) != "Scrollbar";
+        // A press on the panel's sample takes no element.
+        const QWidget* hit = canvas().childAt(at.x, at.y);
+        if (hit && canvas().host().pMain.isAncestorOf(hit)) return false;
+        return !overBar && !(onHandle && (onCorner || IsStandard()));
+    }
     bool IsStandard() { return Standard.count(model_->SelectedKey()) > 0; }
 
     // Events.
-    void Drag();
-    void Arrow();
-    void Delete();
-    void Menu();
-    void DeleteCorner();
-    void AddElement();
-    void SwitchGrid();
-    void ResizeCanvas();
-    void AddLayout();
-    void ChooseLayout();
-    void CloneLayout();
-    void RenameLayout();
-    void DeleteLayout();
-    void Save();
-    void Open();
-    void Create();
+    void Drag() {
+        Place at = Target();
+        if (!IsPlain(at) || model_->current().corners.size() > MostCorners) return;
+        QTest::mousePress(window(), Qt::LeftButton, {}, {at.x, at.y});
+        model_->Press(at);
+        for (int moves = Below(4); moves > 0; --moves) {
+            const int reach = Rarely(4) ? 300 : 25;
+            at = {std::clamp(at.x + Below(2 * reach + 1) - reach, 1, canvas().ScaleWidth() - 1),
+                  std::clamp(at.y + Below(2 * reach + 1) - reach, 0, canvas().ScaleHeight() - 1)};
+            QTest::mouseMove(window(), {at.x, at.y});
+            model_->MoveTo(at);
+        }
+        QTest::mouseRelease(window(), Qt::LeftButton, {}, {at.x, at.y});
+        model_->Release();
+    }
+    void Arrow() {
+        static constexpr struct {
+            Qt::Key key;
+            const char* name;
+        } arrows[] = {
+            {Qt::Key_Left, "Left"}, {Qt::Key_Right, "Right"}, {Qt::Key_Up, "Up"}, {Qt::Key_Down, "Down"}};
+        const auto& arrow = arrows[Below(4)];
+        const bool sizes = !IsStandard(), shift = sizes && Rarely(4), ctrl = sizes && Rarely(3);
+        QTest::keyClick(
+            window(), arrow.key,
+            (shift ? Qt::ShiftModifier : Qt::NoModifier) | (ctrl ? Qt::ControlModifier : Qt::NoModifier));
+        model_->Key(arrow.name, shift, ctrl);
+    }
+    void Delete() {
+        QTest::keyClick(window(), Qt::Key_Delete);
+        model_->Key("Delete");
+    }
+    void Menu() {
+        const Place at = SomewhereIn(AnyOf(model_->current().elements).shown);
+        const std::string hit = model_->ElementUnder(at);
+        if (!IsPlain(at) || hit.empty()) return;
+        int items[] = {MenuBringToFront, MenuSendToBack, MenuClone, MenuDelete};
+        int item = items[Below(Standard.count(hit) ? 2 : 4)];
+        if (item == MenuClone && model_->current().elements.size() >= MostElements) item = MenuDelete;
+        bool wasOpen = false;
+        QTimer answer;
+        QObject::connect(&answer, &QTimer::timeout, [&] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (!menu) return;
+            wasOpen = true;
+            for (QAction* action : menu->actions())
+                if (action->data().toInt() == item && action->isEnabled()) menu->setActiveAction(action);
+            if (menu->activeAction()) QTest::keyClick(menu, Qt::Key_Return);
+            menu->close();
+        });
+        answer.start(0);
+        QTest::mousePress(window(), Qt::RightButton, {}, {at.x, at.y});
+        QTest::mouseRelease(window(), Qt::RightButton, {}, {at.x, at.y});
+        ASSERT_TRUE(wasOpen) << hit;
+        model_->PressRight(at);
+        if (item == MenuClone) model_->CloneElement();
+        if (item == MenuDelete) model_->Key("Delete");
+        if (item == MenuBringToFront) model_->BringToFront();
+        if (item == MenuSendToBack) model_->SendToBack();
+    }
+    void DeleteCorner() {
+        const Place at = Near(model_->CornerPlace(Below(static_cast<int>(model_->current().corners.size()))));
+        if (!IsPlain(at)) return;
+        QTest::mouseClick(window(), Qt::RightButton, {}, {at.x, at.y});
+        model_->PressRight(at);
+    }
+    void AddElement() {
+        if (model_->current().elements.size() >= MostElements) return;
+        frm_Toolbox& toolbox = TheWindow<frm_Toolbox>();
+        TileCommand* const buttons[] = {toolbox.btn_AddButton, toolbox.btn_AddGraphic, toolbox.btn_AddVolume,
+                                        toolbox.btn_AddInfo};
+        const int type = Below(4);
+        buttons[type]->PerformClick();
+        model_->AddElement(type + 1);
+    }
+    void SwitchGrid() {
+        viewSwitches.SnapGrid = model_->snap = Rarely(2);
+        viewSwitches.GridX = model_->gridX = 1 + Below(20);
+        viewSwitches.GridY = model_->gridY = 1 + Below(20);
+    }
+    void ResizeCanvas() {
+        const QSize size = SkinSize + QSize(Below(60), Below(60));
+        canvas().resize(size);
+        canvas().tmrResizer_Timer();
+        model_->ResizeCanvas(size.width(), size.height());
+    }
+    void AddLayout() {
+        if (model_->layouts().size() >= MostLayouts) return;
+        const std::string name = "Layout " + std::to_string(++names_);
+        emit panel().lst_Layouts->AfterLabelEdit(LayoutList::AddNewKey, QString::fromStdString(name));
+        model_->AddLayout(name);
+    }
+    void ChooseLayout() {
+        const int row = Below(static_cast<int>(model_->layouts().size()));
+        LayoutList& list = *panel().lst_Layouts;
+        if (list.currentItem() == list.topLevelItem(row)) return;
+        list.setCurrentItem(list.topLevelItem(row));
+        model_->ChooseLayout(model_->layouts()[static_cast<std::size_t>(row)]->key);
+    }
+    void CloneLayout() {
+        if (model_->layouts().size() >= MostLayouts || !panel().lst_Layouts->LayoutIsSelected()) return;
+        const std::string name = "Copy " + std::to_string(++names_);
+        prompts_.inputs = {name};
+        panel().btn_CloneLayout->PerformClick();
+        model_->CloneLayout(name);
+        saved_ = std::make_unique<Model>(model_->Reopened());
+    }
+    void RenameLayout() {
+        const std::string key = AnyOf(model_->layouts())->key, name = "Name " + std::to_string(++names_);
+        emit panel().lst_Layouts->AfterLabelEdit(QString::fromStdString(key), QString::fromStdString(name));
+        model_->RenameLayout(key, name);
+    }
+    void DeleteLayout() {
+        LayoutList& list = *panel().lst_Layouts;
+        if (model_->layouts().size() < 2 || !list.LayoutIsSelected()) return;
+        prompts_.answers = {Answer::Yes};
+        const std::string key = list.SelectedKey();
+        emit list.DeletePressed();
+        model_->DeleteLayout(key);
+    }
+    void Save() {
+        program_->SaveSkin();
+        model_->Save();
+        saved_ = std::make_unique<Model>(model_->Reopened());
+    }
+    void Open() {
+        program_->LoadDebug(objSkin->SkinName);
+        canvas().tmrResizer.stop();
+        const bool snap = model_->snap;
+        const int gridX = model_->gridX, gridY = model_->gridY;
+        model_ = std::make_unique<Model>(saved_->Reopened());
+        model_->snap = snap, model_->gridX = gridX, model_->gridY = gridY;
+    }
+    void Create() {
+        const std::string name = "Walk" + std::to_string(++names_);
+        panel().btn_CreateNewSkin->PerformClick();
+        frm_AddNewSkin& dialog = *panel().AddNewSkin;
+        dialog.tbx_SkinName->setText(QString::fromStdString(name));
+        dialog.tbx_Width->setText(QString::number(SkinSize.width()));
+        dialog.tbx_Height->setText(QString::number(SkinSize.height()));
+        dialog.btn_Create_Click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        canvas().tmrResizer.stop();
+        model_ = std::make_unique<Model>(name, SkinSize.width(), SkinSize.height());
+        SwitchGrid();
+        Save();
+    }
 
-    void Check();
-    void CheckFile();
+    void Check() {
+        ASSERT_EQ(SelControl ? SelControl->Tag : "", model_->SelectedKey());
+        ASSERT_EQ(objSkin->Dirty, model_->dirty);
+        ASSERT_EQ(objCurrentLayout->Key, model_->current().key);
+        std::set<std::string> keys;
+        int order = 0;
+        for (const dbLayoutElementRef& element : *objCurrentLayout->dbLayoutElements) {
+            ASSERT_EQ(element->Order, ++order);
+            ASSERT_TRUE(keys.insert(element->Key).second);
+        }
+        for (order = 1; order <= objCurrentLayout->dbPoints->Count(); ++order)
+            ASSERT_TRUE(objCurrentLayout->dbPoints->GetFromOrder(order)) << order;
+    }
+    /// What would be saved is what the model expects; what was saved reads back equal in every field.
+    void CheckFile() {
+        const std::string file = objSkin->FileBytes();
+        ASSERT_EQ(file.substr(file.find("\r\n\t<Layouts>")), model_->LayoutLines());
+        if (objSkin->Dirty) return;
+        Save();
+        dbSkin loaded;
+        loaded.SetBasePath(objSkin->BasePath());
+        loaded.SkinName = objSkin->SkinName;
+        loaded.LoadSkin();
+        ASSERT_EQ(loaded.FileBytes(), objSkin->FileBytes());
+    }
 
     frm_Ornavo& canvas() { return TheWindow<frm_Ornavo>(); }
     frm_SkinProject& panel() { return TheWindow<frm_SkinProject>(); }
@@ -102,249 +286,6 @@ public:
     std::mt19937 random_{20261122};
     int names_ = 0;
 };
-
-/// More often where something is than anywhere.
-Place RandomWalk::Target() {
-    switch (Below(8)) {
-        case 0:
-            return Anywhere();
-        case 1:
-            return Near(model_->CornerPlace(Below(static_cast<int>(model_->current().corners.size()))));
-        case 2:
-        case 3:
-            if (model_->handles && !IsStandard()) return SomewhereIn(model_->Handle(Below(8)));
-            [[fallthrough]];
-        default:
-            return SomewhereIn(AnyOf(model_->current().elements).shown);
-    }
-}
-
-/// On the canvas; not on a handle of what keeps its size here, nor where it is open what lies in front.
-bool RandomWalk::IsPlain(Place at) {
-    // The very corner stands for the middle of a window in simulated events.
-    if (!QRect(QPoint(1, 0), canvas().size() - QSize(1, 0)).contains(at.x, at.y)) return false;
-    bool onHandle = false, onCorner = false;
-    for (int i = 0; model_->handles && i < 8; ++i) onHandle |= model_->Handle(i).Contains(at);
-    for (int i = 0; i < static_cast<int>(model_->current().corners.size()); ++i) {
-        const Place corner = model_->CornerPlace(i);
-        onCorner |= walk::Box{corner.x - 2, corner.y - 2, 5, 5}.Contains(at);
-    }
-    // The scroll frame's bar comes to the front of everything when the frame is moved.
-    const bool overBar =
-        model_->Named("Scrollbar").shown.Contains(at) && model_->ElementUnder(at) != "Scrollbar";
-    // A press on the panel's sample takes no element.
-    const QWidget* hit = canvas().childAt(at.x, at.y);
-    if (hit && canvas().host().pMain.isAncestorOf(hit)) return false;
-    return !overBar && !(onHandle && (onCorner || IsStandard()));
-}
-
-void RandomWalk::Drag() {
-    Place at = Target();
-    if (!IsPlain(at) || model_->current().corners.size() > MostCorners) return;
-    QTest::mousePress(window(), Qt::LeftButton, {}, {at.x, at.y});
-    model_->Press(at);
-    for (int moves = Below(4); moves > 0; --moves) {
-        const int reach = Rarely(4) ? 300 : 25;
-        at = {std::clamp(at.x + Below(2 * reach + 1) - reach, 1, canvas().ScaleWidth() - 1),
-              std::clamp(at.y + Below(2 * reach + 1) - reach, 0, canvas().ScaleHeight() - 1)};
-        QTest::mouseMove(window(), {at.x, at.y});
-        model_->MoveTo(at);
-    }
-    QTest::mouseRelease(window(), Qt::LeftButton, {}, {at.x, at.y});
-    model_->Release();
-}
-
-void RandomWalk::Arrow() {
-    static constexpr struct {
-        Qt::Key key;
-        const char* name;
-    } arrows[] = {
-        {Qt::Key_Left, "Left"}, {Qt::Key_Right, "Right"}, {Qt::Key_Up, "Up"}, {Qt::Key_Down, "Down"}};
-    const auto& arrow = arrows[Below(4)];
-    const bool sizes = !IsStandard(), shift = sizes && Rarely(4), ctrl = sizes && Rarely(3);
-    QTest::keyClick(
-        window(), arrow.key,
-        (shift ? Qt::ShiftModifier : Qt::NoModifier) | (ctrl ? Qt::ControlModifier : Qt::NoModifier));
-    model_->Key(arrow.name, shift, ctrl);
-}
-
-void RandomWalk::Delete() {
-    QTest::keyClick(window(), Qt::Key_Delete);
-    model_->Key("Delete");
-}
-
-void RandomWalk::Menu() {
-    const Place at = SomewhereIn(AnyOf(model_->current().elements).shown);
-    const std::string hit = model_->ElementUnder(at);
-    if (!IsPlain(at) || hit.empty()) return;
-    int items[] = {MenuBringToFront, MenuSendToBack, MenuClone, MenuDelete};
-    int item = items[Below(Standard.count(hit) ? 2 : 4)];
-    if (item == MenuClone && model_->current().elements.size() >= MostElements) item = MenuDelete;
-    bool wasOpen = false;
-    QTimer answer;
-    QObject::connect(&answer, &QTimer::timeout, [&] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (!menu) return;
-        wasOpen = true;
-        for (QAction* action : menu->actions())
-            if (action->data().toInt() == item && action->isEnabled()) menu->setActiveAction(action);
-        if (menu->activeAction()) QTest::keyClick(menu, Qt::Key_Return);
-        menu->close();
-    });
-    answer.start(0);
-    QTest::mousePress(window(), Qt::RightButton, {}, {at.x, at.y});
-    QTest::mouseRelease(window(), Qt::RightButton, {}, {at.x, at.y});
-    ASSERT_TRUE(wasOpen) << hit;
-    model_->PressRight(at);
-    if (item == MenuClone) model_->CloneElement();
-    if (item == MenuDelete) model_->Key("Delete");
-    if (item == MenuBringToFront) model_->BringToFront();
-    if (item == MenuSendToBack) model_->SendToBack();
-}
-
-void RandomWalk::DeleteCorner() {
-    const Place at = Near(model_->CornerPlace(Below(static_cast<int>(model_->current().corners.size()))));
-    if (!IsPlain(at)) return;
-    QTest::mouseClick(window(), Qt::RightButton, {}, {at.x, at.y});
-    model_->PressRight(at);
-}
-
-void RandomWalk::AddElement() {
-    if (model_->current().elements.size() >= MostElements) return;
-    frm_Toolbox& toolbox = TheWindow<frm_Toolbox>();
-    TileCommand* const buttons[] = {toolbox.btn_AddButton, toolbox.btn_AddGraphic, toolbox.btn_AddVolume,
-                                    toolbox.btn_AddInfo};
-    const int type = Below(4);
-    buttons[type]->PerformClick();
-    model_->AddElement(type + 1);
-}
-
-void RandomWalk::SwitchGrid() {
-    viewSwitches.SnapGrid = model_->snap = Rarely(2);
-    viewSwitches.GridX = model_->gridX = 1 + Below(20);
-    viewSwitches.GridY = model_->gridY = 1 + Below(20);
-}
-
-void RandomWalk::ResizeCanvas() {
-    const QSize size = SkinSize + QSize(Below(60), Below(60));
-    canvas().resize(size);
-    canvas().tmrResizer_Timer();
-    model_->ResizeCanvas(size.width(), size.height());
-}
-
-void RandomWalk::AddLayout() {
-    if (model_->layouts().size() >= MostLayouts) return;
-    const std::string name = "Layout " + std::to_string(++names_);
-    emit panel().lst_Layouts->AfterLabelEdit(LayoutList::AddNewKey, QString::fromStdString(name));
-    model_->AddLayout(name);
-}
-
-void RandomWalk::ChooseLayout() {
-    const int row = Below(static_cast<int>(model_->layouts().size()));
-    LayoutList& list = *panel().lst_Layouts;
-    if (list.currentItem() == list.topLevelItem(row)) return;
-    list.setCurrentItem(list.topLevelItem(row));
-    model_->ChooseLayout(model_->layouts()[static_cast<std::size_t>(row)]->key);
-}
-
-void RandomWalk::CloneLayout() {
-    if (model_->layouts().size() >= MostLayouts || !panel().lst_Layouts->LayoutIsSelected()) return;
-    const std::string name = "Copy " + std::to_string(++names_);
-    prompts_.inputs = {name};
-    panel().btn_CloneLayout->PerformClick();
-    model_->CloneLayout(name);
-    saved_ = std::make_unique<Model>(model_->Reopened());
-}
-
-void RandomWalk::RenameLayout() {
-    const std::string key = AnyOf(model_->layouts())->key, name = "Name " + std::to_string(++names_);
-    emit panel().lst_Layouts->AfterLabelEdit(QString::fromStdString(key), QString::fromStdString(name));
-    model_->RenameLayout(key, name);
-}
-
-void RandomWalk::DeleteLayout() {
-    LayoutList& list = *panel().lst_Layouts;
-    if (model_->layouts().size() < 2 || !list.LayoutIsSelected()) return;
-    prompts_.answers = {Answer::Yes};
-    const std::string key = list.SelectedKey();
-    emit list.DeletePressed();
-    model_->DeleteLayout(key);
-}
-
-void RandomWalk::Save() {
-    program_->SaveSkin();
-    model_->Save();
-    saved_ = std::make_unique<Model>(model_->Reopened());
-}
-
-void RandomWalk::Open() {
-    program_->LoadDebug(objSkin->SkinName);
-    canvas().tmrResizer.stop();
-    const bool snap = model_->snap;
-    const int gridX = model_->gridX, gridY = model_->gridY;
-    model_ = std::make_unique<Model>(saved_->Reopened());
-    model_->snap = snap, model_->gridX = gridX, model_->gridY = gridY;
-}
-
-void RandomWalk::Create() {
-    const std::string name = "Walk" + std::to_string(++names_);
-    panel().btn_CreateNewSkin->PerformClick();
-    frm_AddNewSkin& dialog = *panel().AddNewSkin;
-    dialog.tbx_SkinName->setText(QString::fromStdString(name));
-    dialog.tbx_Width->setText(QString::number(SkinSize.width()));
-    dialog.tbx_Height->setText(QString::number(SkinSize.height()));
-    dialog.btn_Create_Click();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    canvas().tmrResizer.stop();
-    model_ = std::make_unique<Model>(name, SkinSize.width(), SkinSize.height());
-    SwitchGrid();
-    Save();
-}
-
-void RandomWalk::Check() {
-    ASSERT_EQ(SelControl ? SelControl->Tag : "", model_->SelectedKey());
-    ASSERT_EQ(objSkin->Dirty, model_->dirty);
-    ASSERT_EQ(objCurrentLayout->Key, model_->current().key);
-    std::set<std::string> keys;
-    int order = 0;
-    for (const dbLayoutElementRef& element : *objCurrentLayout->dbLayoutElements) {
-        ASSERT_EQ(element->Order, ++order);
-        ASSERT_TRUE(keys.insert(element->Key).second);
-    }
-    for (order = 1; order <= objCurrentLayout->dbPoints->Count(); ++order)
-        ASSERT_TRUE(objCurrentLayout->dbPoints->GetFromOrder(order)) << order;
-}
-
-template <class T>
-void ExpectSameFields(const T& one, const T& other) {
-    for (const Field<T>& field : Fields<T>())
-        if (field.saved && field.name != "Font") {  // fonts are compared by the file
-            ASSERT_EQ(field.get(one), field.get(other)) << field.name;
-        }
-}
-
-/// What would be saved is what the model expects; what was saved reads back equal.
-void RandomWalk::CheckFile() {
-    const std::string file = objSkin->FileBytes();
-    ASSERT_EQ(file.substr(file.find("\r\n\t<Layouts>")), model_->LayoutLines());
-    if (objSkin->Dirty) return;
-    Save();
-    dbSkin loaded;
-    loaded.SetBasePath(objSkin->BasePath());
-    loaded.SkinName = objSkin->SkinName;
-    loaded.LoadSkin();
-    ASSERT_EQ(loaded.FileBytes(), objSkin->FileBytes());
-    ASSERT_EQ(loaded.dbLayouts->Count(), objSkin->dbLayouts->Count());
-    for (int i = 1; i <= loaded.dbLayouts->Count(); ++i) {
-        const dbLayout &was = *objSkin->dbLayouts->Item(i), &is = *loaded.dbLayouts->Item(i);
-        ASSERT_EQ(is.dbLayoutElements->Count(), was.dbLayoutElements->Count());
-        ASSERT_EQ(is.dbPoints->Count(), was.dbPoints->Count());
-        for (int k = 1; k <= is.dbLayoutElements->Count(); ++k)
-            ExpectSameFields(*is.dbLayoutElements->Item(k), *was.dbLayoutElements->Item(k));
-        for (int k = 1; k <= is.dbPoints->Count(); ++k)
-            ExpectSameFields(*is.dbPoints->GetFromOrder(k), *was.dbPoints->GetFromOrder(k));
-    }
-}
 
 TEST_F(RandomWalk, ProgramAndModelAgree) {
     struct Event {

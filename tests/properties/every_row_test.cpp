@@ -144,9 +144,48 @@ protected:
         return "DejaVu Serif";
     }
 
-    void ExpectOneChange(const std::string& name, const std::string& expected, const Snapshot& before);
-    void ExpectDrawn(const std::string& key, const std::string& name, const QImage& before);
-    void EditOnce(const Row& row);
+    void ExpectOneChange(const std::string& name, const std::string& expected, const Snapshot& before) {
+        const Snapshot after = SnapshotOf(*objSkin);
+        for (const std::string& changed : Differences(before, after))
+            EXPECT_TRUE(changed.starts_with(name) || changed == KeyColourBeside(name) ||
+                        (name.ends_with("ElementType") && changed.find(".Font.") != std::string::npos))
+                << changed;
+        const auto value = after.find(name.ends_with(".Font") ? name + ".Name" : name);
+        EXPECT_EQ(value == after.end() ? "absent" : value->second, expected);
+        objSkin->SaveSkin(false);
+        EXPECT_EQ(Differences(after, SnapshotOf(Stored())), std::set<std::string>());
+    }
+    void ExpectDrawn(const std::string& key, const std::string& name, const QImage& before) {
+        EXPECT_EQ(objSkin->Dirty, key == "ElementType");
+        Tick();
+        EXPECT_TRUE(objSkin->Dirty);
+        EXPECT_FALSE(timer().isActive());
+        const QImage after = Canvas(Part());
+        if (Seen.contains(key)) {
+            EXPECT_NE(after, before);
+        }
+        EXPECT_TRUE(panel_->isVisible());
+        if (Waiting.contains(name)) return;
+        form_->UpdateCurrentLayout();
+        EXPECT_EQ(after, Canvas(Part())) << "unlike a whole composition";
+    }
+    void EditOnce(const Row& row) {
+        SCOPED_TRACE(row.first);
+        const Snapshot before = SnapshotOf(*objSkin);
+        const QImage picture = Canvas(Part());
+        const std::string selected = SelKey, preference(GetClass(row.first));
+        objSkin->Dirty = false;
+        const std::string expected = Edit(row);
+        if (row.first == "ShowElement") {
+            EXPECT_NE(SelKey, selected);
+            return;
+        }
+        EXPECT_EQ(timer().isActive(), !Undrawn[static_cast<int>(row.second)].contains(row.first));
+        const std::string owner = preference.empty() ? selected : preference;
+        const std::string name = owner + '.' + std::string(GetMethod(row.first));
+        if (timer().isActive()) ExpectDrawn(row.first, name, picture);
+        ExpectOneChange(name, expected, before);
+    }
     /// What the edit may change. Other controls of a sample's family wait for the next composition.
     QRect Part() {
         if (!GetParam().isSample || SelControl == &skinButton_) return form_->rect();
@@ -156,52 +195,6 @@ protected:
     Control skinButton_{nullptr, "btn_SkinProperties"};
     QByteArray beginning_;
 };
-
-void EveryRowTest::ExpectOneChange(const std::string& name, const std::string& expected,
-                                   const Snapshot& before) {
-    const Snapshot after = SnapshotOf(*objSkin);
-    for (const std::string& changed : Differences(before, after))
-        EXPECT_TRUE(changed.starts_with(name) || changed == KeyColourBeside(name) ||
-                    (name.ends_with("ElementType") && changed.find(".Font.") != std::string::npos))
-            << changed;
-    const auto value = after.find(name.ends_with(".Font") ? name + ".Name" : name);
-    EXPECT_EQ(value == after.end() ? "absent" : value->second, expected);
-    objSkin->SaveSkin(false);
-    EXPECT_EQ(Differences(after, SnapshotOf(Stored())), std::set<std::string>());
-}
-
-void EveryRowTest::ExpectDrawn(const std::string& key, const std::string& name, const QImage& before) {
-    EXPECT_EQ(objSkin->Dirty, key == "ElementType");
-    Tick();
-    EXPECT_TRUE(objSkin->Dirty);
-    EXPECT_FALSE(timer().isActive());
-    const QImage after = Canvas(Part());
-    if (Seen.contains(key)) {
-        EXPECT_NE(after, before);
-    }
-    EXPECT_TRUE(panel_->isVisible());
-    if (Waiting.contains(name)) return;
-    form_->UpdateCurrentLayout();
-    EXPECT_EQ(after, Canvas(Part())) << "unlike a whole composition";
-}
-
-void EveryRowTest::EditOnce(const Row& row) {
-    SCOPED_TRACE(row.first);
-    const Snapshot before = SnapshotOf(*objSkin);
-    const QImage picture = Canvas(Part());
-    const std::string selected = SelKey, preference(GetClass(row.first));
-    objSkin->Dirty = false;
-    const std::string expected = Edit(row);
-    if (row.first == "ShowElement") {
-        EXPECT_NE(SelKey, selected);
-        return;
-    }
-    EXPECT_EQ(timer().isActive(), !Undrawn[static_cast<int>(row.second)].contains(row.first));
-    const std::string owner = preference.empty() ? selected : preference;
-    const std::string name = owner + '.' + std::string(GetMethod(row.first));
-    if (timer().isActive()) ExpectDrawn(row.first, name, picture);
-    ExpectOneChange(name, expected, before);
-}
 
 TEST_P(EveryRowTest, EveryRow) {
     GetParam().prepare();

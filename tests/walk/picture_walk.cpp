@@ -30,207 +30,135 @@ QRgb Recoloured(int hue, int saturation) {
 
 class PictureWalk : public WalkTest {
 protected:
-    void MakeSkin();
-    void Start();
-    QPoint Find(const char* what, const QRect& area, QRgb colour);
-    void OpenEditor();
-    void DragKnob(int by);
-    void SavePreset(const char* name);
-    void WaitForResult(int hue, int saturation);
+    /// A skin of one button that shows one picture.
+    void MakeSkin() {
+        WritePicture("a.png", {PictureSize, PictureSize}, SourceColour);
+        source_ = Contents(Path("a.png"));
+        SkinText skin("Walk", {800, 600});
+        skin.AddElement("E1", 2, {100, 100, 200, 200},
+                        "<LockLeft>True</LockLeft><LockTop>True</LockTop><PicNormal>a.png</PicNormal>");
+        WriteSkin(skin);
+    }
+    void Start() {
+        desktop_.StartProgram({"Walk"});
+        main_ = desktop_.Window("^Ornavo.*Walk");
+        const QRect canvas = desktop_.Inside(main_);
+        desktop_.WaitFor("the element",
+                         [&] { return desktop_.Pixel(canvas.topLeft() + InElement) == SourceColour; });
+        desktop_.Click(canvas.topLeft() + InElement);
+        const QString sheet = desktop_.Window("^Properties$");
+        desktop_.Place(sheet, SheetPlace);
+        sheet_ = desktop_.Inside(sheet);
+    }
+    /// The first pixel of a colour, row by row.
+    QPoint Find(const char* what, const QRect& area, QRgb colour) {
+        QPoint found;
+        desktop_.WaitFor(what, [&] {
+            const QImage screen = desktop_.Picture();
+            for (int y = area.top(); y <= area.bottom(); ++y)
+                for (int x = area.left(); x <= area.right(); ++x)
+                    if (screen.pixel(x, y) == colour) return found = {x, y}, true;
+            return false;
+        });
+        return found;
+    }
+    /// By the pencil of the first picture's row.
+    void OpenEditor() {
+        desktop_.Click(Find("a pencil", sheet_, PencilColour));
+        const QString window = desktop_.Window("^Picture Editor$");
+        desktop_.WaitForFocus("Picture Editor");
+        if (desktop_.Inside(window).size() != DialogSize) desktop_.Resize(window, DialogSize);
+        dialog_ = desktop_.Inside(window);
+        desktop_.ParkPointer();
+        desktop_.WaitFor("the source", [&] { return desktop_.Pixel(Inside()) == SourceColour; });
+    }
+    /// That of the slider which has the focus: nothing else has its colour in the lower part.
+    void DragKnob(int by) {
+        const QRect lower = dialog_.adjusted(0, dialog_.height() / 2, -dialog_.width() / 2, 0);
+        const QPoint knob = Find("a knob", lower, KnobColour) + QPoint(3, 9);
+        const QRgb before = ResultPixel();
+        desktop_.Press(knob);
+        for (const int step : {by / 2, by}) desktop_.MoveTo(knob + QPoint(step, 0));
+        desktop_.Release();
+        desktop_.ParkPointer();
+        desktop_.WaitFor("another colour", [&] { return ResultPixel() != before; });
+    }
+    void SavePreset(const char* name) {
+        Keys({"alt+a"});
+        desktop_.WaitForFocus("Save preset");
+        desktop_.Type(name);
+        Keys({"Return"});
+        desktop_.WaitForFocus("Picture Editor");
+    }
+    void WaitForResult(int hue, int saturation) {
+        const QRgb expected = Recoloured(hue, saturation);
+        desktop_.WaitFor("the result of " + std::to_string(hue) + ' ' + std::to_string(saturation),
+                         [&] { return ResultPixel() == expected; });
+    }
     QRgb ResultPixel() const { return desktop_.Pixel(Inside() + QPoint(DialogSize.width() / 2, 0)); }
     QPoint Inside() const { return dialog_.topLeft() + InPicture; }
-    void Keys(const QStringList& keys) { desktop_.Key(keys); }
-    void FirstTime();
-    void SecondTime();
-    void Cancelled();
-    void Close();
+    /// Presets come and go, and the result is saved as a BMP.
+    void FirstTime() {
+        OpenEditor();
+        WaitForResult(100, 100);
+        DragKnob(60);
+        Keys({"Home", "Page_Up", "Page_Up", "Right"});
+        WaitForResult(17, 100);
+        Keys({"Tab", "End", "Left"});
+        WaitForResult(17, 254);
+        SavePreset("Sea");
+        Keys({"Home"});
+        SavePreset("Grey");
+        WaitForResult(17, 0);
+        Keys({"Tab", "Down", "Up"});  // into the list, to the second preset and back
+        WaitForResult(17, 254);
+        Keys({"alt+d", "Return"});
+        desktop_.WaitUntilGone("^Picture Editor$");
+        EXPECT_EQ(Files(), (QStringList{"SkinSettings.xml", "a.bmp", "a.png", "Original/a.png"}));
+        EXPECT_EQ(Contents(Path("a.bmp")).size(), 54 + PictureSize * PictureSize * 3);
+        EXPECT_EQ(PixelOf("a.bmp"), Recoloured(17, 254));
+    }
+    /// From the kept source once more; a JPEG takes the place of the BMP.
+    void SecondTime() {
+        OpenEditor();
+        WaitForResult(17, 254);
+        Keys({"End"});
+        WaitForResult(255, 254);
+        Keys({"Tab", "Tab", "space"});  // into the list, to its one preset
+        WaitForResult(17, 0);
+        Keys({"Tab", "Tab", "Tab", "Tab", "Right", "Return"});  // over the buttons and the name to the kinds
+        desktop_.WaitUntilGone("^Picture Editor$");
+        EXPECT_EQ(Files(), (QStringList{"SkinSettings.xml", "a.jpg", "a.png", "Original/a.png"}));
+        const QRgb saved = PixelOf("a.jpg"), expected = Recoloured(17, 0);
+        for (const int shift : {0, 8, 16}) EXPECT_NEAR(saved >> shift & 255, expected >> shift & 255, 3);
+    }
+    void Cancelled() {
+        OpenEditor();
+        const QStringList files = Files();
+        const QByteArray jpeg = Contents(Path("a.jpg"));
+        Keys({"Page_Up"});
+        WaitForResult(25, 0);
+        Keys({"Escape"});
+        desktop_.WaitUntilGone("^Picture Editor$");
+        EXPECT_EQ(Files(), files);
+        EXPECT_EQ(Contents(Path("a.jpg")), jpeg);
+    }
 
-    QString Path(const QString& file) const { return desktop_.Home() + "/ornavo/Skins/Walk/" + file; }
-    QStringList Files() const;
-    QByteArray Bytes(const QString& file) const;
-    QString Setting(const QString& key) const;
+    QStringList Files() const {
+        QStringList files = QDir(Path("")).entryList(QDir::Files, QDir::Name);
+        for (const QString& kept : QDir(Path("Original")).entryList(QDir::Files, QDir::Name))
+            files += "Original/" + kept;
+        return files;
+    }
+    QString Setting(const QString& key) const {
+        const QString file = desktop_.Home() + "/Ornavo/Ornavo for Quillmar's Jukebox 3.2.ini";
+        return QSettings(file, QSettings::IniFormat).value("Picture-Editor/" + key, "-").toString();
+    }
     QRgb PixelOf(const QString& file) const { return QImage(Path(file)).pixel(7, 7); }
 
-    QString main_;
     QRect dialog_, sheet_;
     QByteArray source_;
 };
-
-QByteArray PictureWalk::Bytes(const QString& file) const {
-    QFile opened(Path(file));
-    EXPECT_TRUE(opened.open(QIODevice::ReadOnly)) << file.toStdString();
-    return opened.readAll();
-}
-
-QStringList PictureWalk::Files() const {
-    QStringList files = QDir(Path("")).entryList(QDir::Files, QDir::Name);
-    for (const QString& kept : QDir(Path("Original")).entryList(QDir::Files, QDir::Name))
-        files += "Original/" + kept;
-    return files;
-}
-
-QString PictureWalk::Setting(const QString& key) const {
-    const QString file = desktop_.Home() + "/Ornavo/Ornavo for Quillmar's Jukebox 3.2.ini";
-    return QSettings(file, QSettings::IniFormat).value("Picture-Editor/" + key, "-").toString();
-}
-
-/// A skin of one button that shows one picture.
-void PictureWalk::MakeSkin() {
-    ASSERT_TRUE(QDir().mkpath(Path("")));
-    QImage picture(PictureSize, PictureSize, QImage::Format_RGB32);
-    picture.fill(SourceColour);
-    ASSERT_TRUE(picture.save(Path("a.png")));
-    source_ = Bytes("a.png");
-    QFile file(Path("SkinSettings.xml"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    QByteArray text;
-    for (const QByteArray line : {"<Skin>",
-                                  "<SkinName>Walk</SkinName>",
-                                  "<SkinWidth>800</SkinWidth>",
-                                  "<SkinHeight>600</SkinHeight>",
-                                  "<Layouts>",
-                                  "<Layout>",
-                                  "<Key>Standard</Key>",
-                                  "<LayoutName>Standard</LayoutName>",
-                                  "<Elements>",
-                                  "<Element>",
-                                  "<Key>E1</Key>",
-                                  "<ElementName>One</ElementName>",
-                                  "<Order>1</Order>",
-                                  "<ElementType>2</ElementType>",
-                                  "<LeftX>100</LeftX>",
-                                  "<TopY>100</TopY>",
-                                  "<WidthX>200</WidthX>",
-                                  "<HeightY>200</HeightY>",
-                                  "<LockLeft>True</LockLeft>",
-                                  "<LockTop>True</LockTop>",
-                                  "<Visible>True</Visible>",
-                                  "<PicNormal>a.png</PicNormal>",
-                                  "</Element>",
-                                  "</Elements>",
-                                  "</Layout>",
-                                  "</Layouts>",
-                                  "</Skin>"})
-        text += line + "\r\n";
-    file.write(text);
-}
-
-void PictureWalk::Start() {
-    desktop_.StartProgram({"Walk"});
-    main_ = desktop_.Window("^Ornavo.*Walk");
-    const QRect canvas = desktop_.Inside(main_);
-    desktop_.WaitFor("the element",
-                     [&] { return desktop_.Pixel(canvas.topLeft() + InElement) == SourceColour; });
-    desktop_.Click(canvas.topLeft() + InElement);
-    const QString sheet = desktop_.Window("^Properties$");
-    desktop_.Place(sheet, SheetPlace);
-    sheet_ = desktop_.Inside(sheet);
-}
-
-/// The first pixel of a colour, row by row.
-QPoint PictureWalk::Find(const char* what, const QRect& area, QRgb colour) {
-    QPoint found;
-    desktop_.WaitFor(what, [&] {
-        const QImage screen = desktop_.Picture();
-        for (int y = area.top(); y <= area.bottom(); ++y)
-            for (int x = area.left(); x <= area.right(); ++x)
-                if (screen.pixel(x, y) == colour) return found = {x, y}, true;
-        return false;
-    });
-    return found;
-}
-
-/// By the pencil of the first picture's row.
-void PictureWalk::OpenEditor() {
-    desktop_.Click(Find("a pencil", sheet_, PencilColour));
-    const QString window = desktop_.Window("^Picture Editor$");
-    desktop_.WaitForFocus("Picture Editor");
-    if (desktop_.Inside(window).size() != DialogSize) desktop_.Resize(window, DialogSize);
-    dialog_ = desktop_.Inside(window);
-    desktop_.ParkPointer();
-    desktop_.WaitFor("the source", [&] { return desktop_.Pixel(Inside()) == SourceColour; });
-}
-
-/// That of the slider which has the focus: nothing else has its colour in the lower part.
-void PictureWalk::DragKnob(int by) {
-    const QRect lower = dialog_.adjusted(0, dialog_.height() / 2, -dialog_.width() / 2, 0);
-    const QPoint knob = Find("a knob", lower, KnobColour) + QPoint(3, 9);
-    const QRgb before = ResultPixel();
-    desktop_.Press(knob);
-    for (const int step : {by / 2, by}) desktop_.MoveTo(knob + QPoint(step, 0));
-    desktop_.Release();
-    desktop_.ParkPointer();
-    desktop_.WaitFor("another colour", [&] { return ResultPixel() != before; });
-}
-
-void PictureWalk::SavePreset(const char* name) {
-    Keys({"alt+a"});
-    desktop_.WaitForFocus("Save preset");
-    desktop_.Type(name);
-    Keys({"Return"});
-    desktop_.WaitForFocus("Picture Editor");
-}
-
-void PictureWalk::WaitForResult(int hue, int saturation) {
-    const QRgb expected = Recoloured(hue, saturation);
-    desktop_.WaitFor("the result of " + std::to_string(hue) + ' ' + std::to_string(saturation),
-                     [&] { return ResultPixel() == expected; });
-}
-
-void PictureWalk::Close() {
-    desktop_.Activate(main_);
-    Keys({"ctrl+s", "alt+F4"});
-    EXPECT_EQ(desktop_.ProgramEnd(), 0);
-}
-
-/// Presets come and go, and the result is saved as a BMP.
-void PictureWalk::FirstTime() {
-    OpenEditor();
-    WaitForResult(100, 100);
-    DragKnob(60);
-    Keys({"Home", "Page_Up", "Page_Up", "Right"});
-    WaitForResult(17, 100);
-    Keys({"Tab", "End", "Left"});
-    WaitForResult(17, 254);
-    SavePreset("Sea");
-    Keys({"Home"});
-    SavePreset("Grey");
-    WaitForResult(17, 0);
-    Keys({"Tab", "Down", "Up"});  // into the list, to the second preset and back
-    WaitForResult(17, 254);
-    Keys({"alt+d", "Return"});
-    desktop_.WaitUntilGone("^Picture Editor$");
-    EXPECT_EQ(Files(), (QStringList{"SkinSettings.xml", "a.bmp", "a.png", "Original/a.png"}));
-    EXPECT_EQ(Bytes("a.bmp").size(), 54 + PictureSize * PictureSize * 3);
-    EXPECT_EQ(PixelOf("a.bmp"), Recoloured(17, 254));
-}
-
-/// From the kept source once more; a JPEG takes the place of the BMP.
-void PictureWalk::SecondTime() {
-    OpenEditor();
-    WaitForResult(17, 254);
-    Keys({"End"});
-    WaitForResult(255, 254);
-    Keys({"Tab", "Tab", "space"});  // into the list, to its one preset
-    WaitForResult(17, 0);
-    Keys({"Tab", "Tab", "Tab", "Tab", "Right", "Return"});  // over the buttons and the name to the kinds
-    desktop_.WaitUntilGone("^Picture Editor$");
-    EXPECT_EQ(Files(), (QStringList{"SkinSettings.xml", "a.jpg", "a.png", "Original/a.png"}));
-    const QRgb saved = PixelOf("a.jpg"), expected = Recoloured(17, 0);
-    for (const int shift : {0, 8, 16}) EXPECT_NEAR(saved >> shift & 255, expected >> shift & 255, 3);
-}
-
-void PictureWalk::Cancelled() {
-    OpenEditor();
-    const QStringList files = Files();
-    const QByteArray jpeg = Bytes("a.jpg");
-    Keys({"Page_Up"});
-    WaitForResult(25, 0);
-    Keys({"Escape"});
-    desktop_.WaitUntilGone("^Picture Editor$");
-    EXPECT_EQ(Files(), files);
-    EXPECT_EQ(Bytes("a.jpg"), jpeg);
-}
 
 TEST_F(PictureWalk, Recolour) {
     MakeSkin();
@@ -238,9 +166,11 @@ TEST_F(PictureWalk, Recolour) {
     FirstTime();
     SecondTime();
     Cancelled();
+    desktop_.Activate(main_);
+    Keys({"ctrl+s"});
     Close();
-    EXPECT_EQ(Bytes("Original/a.png"), source_);
-    EXPECT_TRUE(Bytes("SkinSettings.xml").contains("<PicNormal>a.jpg</PicNormal>"));
+    EXPECT_EQ(Contents(Path("Original/a.png")), source_);
+    EXPECT_TRUE(Saved().contains("<PicNormal>a.jpg</PicNormal>"));
     const std::pair<const char*, const char*> settings[] = {
         {"Hue", "17"},           {"Saturation", "0"}, {"SaveAsBMP", "False"}, {"PresetCount", "1"},
         {"PresetName1", "Grey"}, {"HUE1", "17"},      {"Sat1", "0"},          {"PresetName2", "-"}};

@@ -56,42 +56,19 @@ constexpr Corner Corners[] = {
     {0, 0, false, true},
 };
 
-QByteArray Line(const char* tag, const QString& value) {
-    return QStringLiteral("<%1>%2</%1>\r\n").arg(QLatin1String(tag), value).toLatin1();
-}
-
-QString Truth(bool value) {
-    return QLatin1String(value ? "True" : "False");
-}
-
-QByteArray ElementLines(const Element& e) {
-    QByteArray text = "<Element>\r\n" + Line("Key", e.key) + Line("ElementType", QString::number(e.type)) +
-                      Line("ActionType", QString::number(e.action)) + Line("Visible", "True") +
-                      Line("LeftX", QString::number(e.at.x())) + Line("TopY", QString::number(e.at.y())) +
-                      Line("WidthX", QString::number(e.at.width())) +
-                      Line("HeightY", QString::number(e.at.height())) +
-                      Line("LockLeft", Truth(!e.fromRight)) + Line("LockTop", Truth(!e.fromBottom));
-    if (e.fromRight) text += Line("LockRight", "True");
-    if (e.fromBottom) text += Line("LockBottom", "True");
-    for (const QByteArray& line : QByteArray(Coloured + QByteArray(e.more)).replace("><", ">\n<").split('\n'))
-        text += line + "\r\n";
-    return text.replace(">\n<", ">\r\n<") + "</Element>\r\n";
-}
-
-QByteArray SkinLines() {
-    QByteArray text = "<Skin>\r\n" + Line("SkinName", "Walk") +
-                      Line("SkinWidth", QString::number(SkinSize.width())) +
-                      Line("SkinHeight", QString::number(SkinSize.height())) + "<Layouts>\r\n<Layout>\r\n" +
-                      Line("Key", "Standard") + Line("LayoutName", "Standard") + "<Points>\r\n";
-    int order = 0;
-    for (const Corner& corner : Corners)
-        text += "<Point>\r\n" + Line("Order", QString::number(++order)) +
-                Line("X", QString::number(corner.x)) + Line("Y", QString::number(corner.y)) +
-                Line("HAlign", corner.fromRight ? "2" : "0") + Line("VAlign", corner.fromBottom ? "2" : "0") +
-                "</Point>\r\n";
-    text += "</Points>\r\n<Elements>\r\n";
-    for (const Element& element : Elements) text += ElementLines(element);
-    return text + "</Elements>\r\n</Layout>\r\n</Layouts>\r\n</Skin>\r\n";
+SkinText TheSkin() {
+    SkinText skin("Walk", SkinSize);
+    const auto aligned = [](bool right, bool bottom) {
+        return QString("<HAlign>%1</HAlign><VAlign>%2</VAlign>").arg(right ? 2 : 0).arg(bottom ? 2 : 0);
+    };
+    for (const Corner& c : Corners) skin.AddPoint(c.x, c.y, aligned(c.fromRight, c.fromBottom));
+    for (const Element& e : Elements)
+        skin.AddElement(e.key, e.type, e.at,
+                        QString("<ActionType>%1</ActionType>").arg(e.action) +
+                            (e.fromRight ? "<LockRight>True</LockRight>" : "<LockLeft>True</LockLeft>") +
+                            (e.fromBottom ? "<LockBottom>True</LockBottom>" : "<LockTop>True</LockTop>") +
+                            Coloured + e.more);
+    return skin;
 }
 
 /// Whether the pixel is the window's, by the corners above: its sides are level, upright or diagonal.
@@ -109,215 +86,175 @@ QRect PlaceIn(const Element& e, const QSize& window) {
 
 class PreviewWalk : public WalkTest {
 protected:
-    void MakeSkin();
-    void StartProgram();
-    QByteArray Saved();
-    void Open(const std::function<void()>& how);
-    void Leave(const std::function<void()>& how);
-    void BecomesAt(const QRect& place);
-    bool ShapeIsRight() const;
-    QPoint On(const char* key) const;  // the middle of an element
-    void DragFrom(const char* key, const QPoint& by);
-    void ColourComes(const char* key, int x, QRgb colour);
-    void VolumeBecomes(int volume);
-    void Seek();
-    void TurnAndHold();
-    void MoveAndResize();
-    void MaximiseAndMinimise();
+    void MakeSkin() {
+        WritePicture("on.png", {255, 20}, Full);
+        WritePicture("off.png", {255, 20}, Empty);
+        WriteSkin(TheSkin());
+    }
+    void StartProgram() {
+        desktop_.StartProgram({Path("SkinSettings.xml")});
+        main_ = desktop_.Window(Main);
+        const QPoint places[] = {{300, 200}, {10, 420}, {10, 40}};
+        for (int i = 0; i < 3; ++i) desktop_.Place(desktop_.Window(Others[i]), places[i]);
+    }
+    QByteArray SavedAnew() {
+        const QString file = Path("SkinSettings.xml");
+        EXPECT_TRUE(QFile::remove(file));
+        desktop_.Activate(main_);
+        Keys({"ctrl+s"});
+        desktop_.WaitFor("a saved skin", [&] { return QFile::exists(file); });
+        return Saved();
+    }
+    void Open(const std::function<void()>& how) {
+        how();
+        preview_ = desktop_.Window(Preview);
+        for (const char* other : Others) desktop_.WaitUntilGone(other);
+        window_ = desktop_.Inside(preview_);
+        desktop_.ParkPointer();
+        desktop_.WaitFor("the shape", [&] { return ShapeIsRight(); });
+    }
+    void Leave(const std::function<void()>& how) {
+        how();
+        desktop_.WaitUntilGone(Preview);
+        for (const char* other : Others) desktop_.Window(other);
+    }
+    void BecomesAt(const QRect& place) {
+        desktop_.ParkPointer();
+        desktop_.WaitFor("the preview's place", [&] { return desktop_.Inside(preview_) == place; });
+        window_ = place;
+        desktop_.WaitFor("the shape", [&] { return ShapeIsRight(); });
+    }
+    /// Inside it is the skin, outside the desktop. The pointer is parked over the corner of a maximised one.
+    bool ShapeIsRight() const {
+        const QSize size = window_.size();
+        QRegion plain(QRect({}, size));
+        for (const Element& element : Elements)
+            if (element.key != Elements[0].key) plain -= PlaceIn(element, size);
+        for (int y = 0; y < size.height(); ++y)
+            for (int x = 0; x < size.width(); ++x) {
+                if (size.width() - x < PointerSize && size.height() - y < PointerSize) continue;
+                const bool inside = IsInside({x, y}, size);
+                if (inside && !plain.contains(QPoint(x, y))) continue;
+                if (desktop_.Pixel(window_.topLeft() + QPoint(x, y)) != (inside ? Ground : Desk))
+                    return false;
+            }
+        return true;
+    }
+    QPoint On(const char* key) const {
+        for (const Element& element : Elements)
+            if (element.key == std::string_view(key))
+                return window_.topLeft() + PlaceIn(element, window_.size()).center();
+        throw std::runtime_error(key);
+    }
+    void DragFrom(const char* key, const QPoint& by) {
+        const QPoint from = On(key);
+        desktop_.Press(from);
+        desktop_.MoveTo(from + by / 3);
+        desktop_.MoveTo(from + by);
+        desktop_.Release();
+    }
+    /// Of a pixel in the middle row of an element, x from its left.
+    void ColourComes(const char* key, int x, QRgb colour) {
+        const QPoint at = {window_.left() + 100 + x, On(key).y()};
+        desktop_.WaitFor(std::string(key) + " at " + std::to_string(x),
+                         [&] { return desktop_.Pixel(at) == colour; });
+    }
+    void VolumeBecomes(int volume) {
+        if (volume > 0) ColourComes("Volume", volume - 1, Full);
+        if (volume < 255) ColourComes("Volume", volume, Empty);
+    }
+    void Seek() {
+        const QPoint start = {window_.left() + 100, On("Seeker").y()};
+        ColourComes("Seeker", 58, Bar);
+        desktop_.Press(start + QPoint(150, 0));
+        ColourComes("Seeker", 140, Bar);  // the pointer covers what is beside it
+        ColourComes("Seeker", 180, Ground);
+        desktop_.MoveTo(start + QPoint(240, 0));
+        ColourComes("Seeker", 230, Bar);
+        desktop_.Release();
+        desktop_.ParkPointer();
+        ColourComes("Seeker", 241, Bar);  // a pixel in a second
+    }
+    void TurnAndHold() {
+        VolumeBecomes(128);
+        DragFrom("Dial", {3, -20});
+        VolumeBecomes(168);
+        DragFrom("Dial", {200, 15});
+        VolumeBecomes(138);
+        desktop_.Click({window_.left() + 160, On("Volume").y()});
+        desktop_.ParkPointer();
+        VolumeBecomes(60);
+        desktop_.Press(On("Louder"));
+        VolumeBecomes(255);
+        desktop_.Release();
+        desktop_.Click(On("Louder"));
+        VolumeBecomes(255);
+    }
+    void MoveAndResize() {
+        DragFrom("Dragger", {137, 91});
+        BecomesAt(window_.translated(137, 91));
+        DragFrom("Grip", {45, 30});
+        BecomesAt({window_.topLeft(), window_.size() + QSize(45, 30)});
+        VolumeBecomes(255);  // a rebuild keeps it
+        DragFrom("Grip", {-500, -400});
+        BecomesAt({window_.topLeft(), QSize(Least, Least)});
+        const QString here = desktop_.WindowAt(window_.topLeft() + QPoint(50, 50));
+        const QPoint notch = window_.topLeft() + QPoint(NotchLeft + Notch, Notch / 2);
+        EXPECT_NE(desktop_.WindowAt(notch), here);
+        EXPECT_EQ(desktop_.WindowAt(notch + QPoint(0, Notch)), here);
+    }
+    void MaximiseAndMinimise() {
+        const QRect normal = window_, whole({}, desktop_.Picture().size());
+        desktop_.DoubleClick(On("Dragger"));
+        BecomesAt(whole);
+        DragFrom("Grip", {-500, -400});
+        DragFrom("Dragger", {40, 40});
+        desktop_.Click(On("Maximise"));
+        BecomesAt(normal);
+        desktop_.Click(On("Maximise"));
+        BecomesAt(whole);
+        desktop_.DoubleClick(On("Dragger"));
+        BecomesAt(normal);
+        desktop_.Click(On("Minimise"));
+        desktop_.WaitUntilGone(Preview);
+        desktop_.Activate(preview_);
+        BecomesAt(normal);
+    }
 
-    QString SkinFile() const { return desktop_.Home() + "/skin/Walk/SkinSettings.xml"; }
-
-    QString main_, preview_;
+    QString preview_;
     QRect window_;  // of the preview
 };
-
-void PreviewWalk::MakeSkin() {
-    const QString folder = desktop_.Home() + "/skin/Walk/";
-    ASSERT_TRUE(QDir().mkpath(folder));
-    for (const auto& [name, colour] : {std::pair{"on.png", Full}, {"off.png", Empty}}) {
-        QImage picture(255, 20, QImage::Format_RGB32);
-        picture.fill(colour);
-        ASSERT_TRUE(picture.save(folder + name));
-    }
-    QFile file(SkinFile());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_GT(file.write(SkinLines()), 0);
-}
-
-void PreviewWalk::StartProgram() {
-    desktop_.StartProgram({SkinFile()});
-    main_ = desktop_.Window(Main);
-    const QPoint places[] = {{300, 200}, {10, 420}, {10, 40}};
-    for (int i = 0; i < 3; ++i) desktop_.Place(desktop_.Window(Others[i]), places[i]);
-}
-
-QByteArray PreviewWalk::Saved() {
-    EXPECT_TRUE(QFile::remove(SkinFile()));
-    desktop_.Activate(main_);
-    desktop_.Key({"ctrl+s"});
-    desktop_.WaitFor("a saved skin", [&] { return QFile::exists(SkinFile()); });
-    QFile file(SkinFile());
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
-void PreviewWalk::Open(const std::function<void()>& how) {
-    how();
-    preview_ = desktop_.Window(Preview);
-    for (const char* other : Others) desktop_.WaitUntilGone(other);
-    window_ = desktop_.Inside(preview_);
-    desktop_.ParkPointer();
-    desktop_.WaitFor("the shape", [&] { return ShapeIsRight(); });
-}
-
-void PreviewWalk::Leave(const std::function<void()>& how) {
-    how();
-    desktop_.WaitUntilGone(Preview);
-    for (const char* other : Others) desktop_.Window(other);
-}
-
-void PreviewWalk::BecomesAt(const QRect& place) {
-    desktop_.ParkPointer();
-    desktop_.WaitFor("the preview's place", [&] { return desktop_.Inside(preview_) == place; });
-    window_ = place;
-    desktop_.WaitFor("the shape", [&] { return ShapeIsRight(); });
-}
-
-/// Inside it is the skin, outside the desktop. The pointer is parked over the corner of a maximised one.
-bool PreviewWalk::ShapeIsRight() const {
-    const QSize size = window_.size();
-    QRegion plain(QRect({}, size));
-    for (const Element& element : Elements)
-        if (element.key != Elements[0].key) plain -= PlaceIn(element, size);
-    for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x) {
-            if (size.width() - x < PointerSize && size.height() - y < PointerSize) continue;
-            const bool inside = IsInside({x, y}, size);
-            if (inside && !plain.contains(QPoint(x, y))) continue;
-            if (desktop_.Pixel(window_.topLeft() + QPoint(x, y)) != (inside ? Ground : Desk)) return false;
-        }
-    return true;
-}
-
-QPoint PreviewWalk::On(const char* key) const {
-    for (const Element& element : Elements)
-        if (element.key == std::string_view(key))
-            return window_.topLeft() + PlaceIn(element, window_.size()).center();
-    throw std::runtime_error(key);
-}
-
-void PreviewWalk::DragFrom(const char* key, const QPoint& by) {
-    const QPoint from = On(key);
-    desktop_.Press(from);
-    desktop_.MoveTo(from + by / 3);
-    desktop_.MoveTo(from + by);
-    desktop_.Release();
-}
-
-/// Of a pixel in the middle row of an element, x from its left.
-void PreviewWalk::ColourComes(const char* key, int x, QRgb colour) {
-    const QPoint at = {window_.left() + 100 + x, On(key).y()};
-    desktop_.WaitFor(std::string(key) + " at " + std::to_string(x),
-                     [&] { return desktop_.Pixel(at) == colour; });
-}
-
-void PreviewWalk::VolumeBecomes(int volume) {
-    if (volume > 0) ColourComes("Volume", volume - 1, Full);
-    if (volume < 255) ColourComes("Volume", volume, Empty);
-}
-
-void PreviewWalk::Seek() {
-    const QPoint start = {window_.left() + 100, On("Seeker").y()};
-    ColourComes("Seeker", 58, Bar);
-    desktop_.Press(start + QPoint(150, 0));
-    ColourComes("Seeker", 140, Bar);  // the pointer covers what is beside it
-    ColourComes("Seeker", 180, Ground);
-    desktop_.MoveTo(start + QPoint(240, 0));
-    ColourComes("Seeker", 230, Bar);
-    desktop_.Release();
-    desktop_.ParkPointer();
-    ColourComes("Seeker", 241, Bar);  // a pixel in a second
-}
-
-void PreviewWalk::TurnAndHold() {
-    VolumeBecomes(128);
-    DragFrom("Dial", {3, -20});
-    VolumeBecomes(168);
-    DragFrom("Dial", {200, 15});
-    VolumeBecomes(138);
-    desktop_.Click({window_.left() + 160, On("Volume").y()});
-    desktop_.ParkPointer();
-    VolumeBecomes(60);
-    desktop_.Press(On("Louder"));
-    VolumeBecomes(255);
-    desktop_.Release();
-    desktop_.Click(On("Louder"));
-    VolumeBecomes(255);
-}
-
-void PreviewWalk::MoveAndResize() {
-    DragFrom("Dragger", {137, 91});
-    BecomesAt(window_.translated(137, 91));
-    DragFrom("Grip", {45, 30});
-    BecomesAt({window_.topLeft(), window_.size() + QSize(45, 30)});
-    VolumeBecomes(255);  // a rebuild keeps it
-    DragFrom("Grip", {-500, -400});
-    BecomesAt({window_.topLeft(), QSize(Least, Least)});
-    const QString here = desktop_.WindowAt(window_.topLeft() + QPoint(50, 50));
-    const QPoint notch = window_.topLeft() + QPoint(NotchLeft + Notch, Notch / 2);
-    EXPECT_NE(desktop_.WindowAt(notch), here);
-    EXPECT_EQ(desktop_.WindowAt(notch + QPoint(0, Notch)), here);
-}
-
-void PreviewWalk::MaximiseAndMinimise() {
-    const QRect normal = window_, whole({}, desktop_.Picture().size());
-    desktop_.DoubleClick(On("Dragger"));
-    BecomesAt(whole);
-    DragFrom("Grip", {-500, -400});
-    DragFrom("Dragger", {40, 40});
-    desktop_.Click(On("Maximise"));
-    BecomesAt(normal);
-    desktop_.Click(On("Maximise"));
-    BecomesAt(whole);
-    desktop_.DoubleClick(On("Dragger"));
-    BecomesAt(normal);
-    desktop_.Click(On("Minimise"));
-    desktop_.WaitUntilGone(Preview);
-    desktop_.Activate(preview_);
-    BecomesAt(normal);
-}
 
 TEST_F(PreviewWalk, Preview) {
     MakeSkin();
     StartProgram();
-    const QByteArray before = Saved();
+    const QByteArray before = SavedAnew();
+    EXPECT_TRUE(before.contains("<Key>Grip</Key>"));
     std::vector<QRect> places;
     for (const char* other : Others) places.push_back(desktop_.Inside(desktop_.Window(other)));
 
-    Open([&] { desktop_.Key({"F5"}); });
+    Open([&] { Keys({"F5"}); });
     Seek();
     TurnAndHold();
     MoveAndResize();
     MaximiseAndMinimise();
     const QPoint corner = window_.topLeft();
-    Leave([&] { desktop_.Key({"Escape"}); });
+    Leave([&] { Keys({"Escape"}); });
 
     desktop_.Activate(main_);
-    Open([&] { desktop_.Key({"F5"}); });
+    Open([&] { Keys({"F5"}); });
     EXPECT_EQ(window_, QRect(corner, SkinSize));
-    Leave([&] { desktop_.Key({"F5"}); });
+    Leave([&] { Keys({"F5"}); });
 
     desktop_.Activate(desktop_.Window(Others[1]));
-    Open([&] { desktop_.Key({"alt+p"}); });
+    Open([&] { Keys({"alt+p"}); });
     Leave([&] { desktop_.Click(On("Close")); });
 
     for (std::size_t i = 0; i < places.size(); ++i)
         desktop_.WaitFor(std::string(Others[i]) + " where it was",
                          [&] { return desktop_.Inside(desktop_.Window(Others[i])) == places[i]; });
-    EXPECT_EQ(Saved().split('\n'), before.split('\n'));
-    desktop_.Activate(main_);
-    desktop_.Key({"alt+F4"});
-    EXPECT_EQ(desktop_.ProgramEnd(), 0);
+    EXPECT_EQ(SavedAnew().split('\n'), before.split('\n'));
+    Close();
 }
 
 }  // namespace

@@ -11,46 +11,30 @@ namespace {
 
 constexpr int RowHeight = 15, ValueLeft = 120;  // pixels
 constexpr QPoint SheetPlace = {1450, 40}, ProjectPlace = {10, 40}, CanvasPlace = {320, 40};
-constexpr const char* SkinName = "Rows";
 
 using Captions = QStringList;
-const Captions Position = {
-    "Position",      "X",        "Y",           "Width",         "Height", "Lock Left", "Lock Right",
-    "Stretch Width", "Lock Top", "Lock Bottom", "Stretch Height"};
+const Captions Position =
+    QString(
+        "Position;X;Y;Width;Height;Lock Left;Lock Right;Stretch Width;Lock Top;Lock Bottom;Stretch Height")
+        .split(';');
 const Captions Element = {"Element List", "Element", "Name", "Element Type"};
-const Captions Look = {"Caption Heading",
-                       "Caption",
-                       "Caption X Margin",
-                       "Caption Y Margin",
-                       "Font",
-                       "Text Color",
-                       "Show Shadow",
-                       "Shadow Distance",
-                       "Shadow Color",
-                       "Appearance",
-                       "Visible",
-                       "Show Border",
-                       "Border Color",
-                       "Normal",
-                       "On",
-                       "Over",
-                       "Down",
-                       "Disabled",
-                       "Show Smooth",
-                       "Use Transparency",
-                       "Use Top-Left Transp.",
-                       "Transparent Color",
-                       "Rotation"};
+const Captions Look =
+    QString(
+        "Caption Heading;Caption;Caption X Margin;Caption Y Margin;Font;Text Color;Show Shadow;Shadow "
+        "Distance;Shadow Color;Appearance;Visible;Show Border;Border Color;Normal;On;Over;Down;Disabled;Show "
+        "Smooth;Use Transparency;Use Top-Left Transp.;Transparent Color;Rotation")
+        .split(';');
 const Captions ButtonRows = Element + Captions{"Action Type"} + Position + Look;
 const Captions AmountRows = Element + Captions{"Action Type", "Value"} + Position + Look;
 const Captions PictureRows =
     Element + Position + Look +
     Captions{"Misc", "db-Script Name", "Is Jukebox Drager", "Is Jukebox Resizer", "Is Search Graphic"};
 const Captions InfoHead = Element + Position + Captions{"Info Settings", "Info Type"};
-const Captions InfoTail = {"Is Song Seeker",     "Seeker Color",         "Offset Left", "Offset Right",
-                           "Offset Top",         "Offset Bottom",        "Appearance",  "Visible",
-                           "Background Picture", "Background Color",     "Font",        "Text Color",
-                           "Caption Y Margin",   "Scroll Speed (Pixels)"};
+const Captions InfoTail = QString(
+                              "Is Song Seeker;Seeker Color;Offset Left;Offset Right;Offset Top;Offset "
+                              "Bottom;Appearance;Visible;Background Picture;Background Color;Font;Text "
+                              "Color;Caption Y Margin;Scroll Speed (Pixels)")
+                              .split(';');
 const Captions LabelRows = InfoHead + Captions{"Caption", "db-Script Name"} + InfoTail;
 const Captions TitleRows = InfoHead + Captions{"db-Script Name"} + InfoTail;
 const Captions CornerRows = {"Heading", "X", "Y", "Horizontal Align", "Vertical Align"};
@@ -66,180 +50,126 @@ using Facts = QMap<QString, QString>;  // "Owner.Tag" and its value
 
 class SheetsWalk : public WalkTest {
 protected:
-    void MakeSkin();
-    void Start();
-    void Select(QPoint onCanvas, const Captions& rows);
-    void Becomes(const Captions& rows);
-    void ClickRow(const char* caption);
-    void Type(const char* caption, const char* text);
-    void Keys(const QStringList& keys) { desktop_.Key(keys); }
-    Facts Save();
-    void EditButton();
-    void EditOthers();
-
-    QString Path(const QString& file) const {
-        return desktop_.Home() + "/ornavo/Skins/" + SkinName + '/' + file;
+    /// A panel, a button, an info, a corner; and a preference that the program doesn't know, of the last
+    /// kind.
+    void MakeSkin() {
+        WritePicture("new.bmp", {8, 8}, Qt::darkMagenta);
+        SkinText skin("Walk", {1000, 700},
+                      "<SkinPref><Key>SL_Own</Key><PrefType>15</PrefType><Caption>Own</Caption>"
+                      "<Value>0</Value></SkinPref>");
+        for (const QPoint at : {QPoint(30, 30), QPoint(970, 30), QPoint(970, 670), QPoint(30, 670)})
+            skin.AddPoint(at.x(), at.y());
+        skin.AddElement("Main", 0, {50, 60, 600, 560});
+        skin.AddElement("Play", 1, {700, 100, 120, 60});
+        skin.AddElement("Title", 4, {700, 300, 200, 40});
+        WriteSkin(skin);
+    }
+    void Start() {
+        desktop_.StartProgram({Path("")});
+        main_ = desktop_.Window("^Ornavo");
+        desktop_.Place(desktop_.Window("^Skin Project$"), ProjectPlace);
+        desktop_.Place(main_, CanvasPlace);
+        canvas_ = desktop_.Inside(main_);
+    }
+    void Select(QPoint onCanvas, const Captions& rows) {
+        desktop_.Click(canvas_.topLeft() + onCanvas);
+        const bool isFirst = sheet_.isEmpty();
+        sheet_ = desktop_.Window("^Properties$");
+        if (isFirst) desktop_.Place(sheet_, SheetPlace);
+        Becomes(rows);
+    }
+    void Becomes(const Captions& rows) {
+        rows_ = rows;
+        desktop_.WaitFor("a sheet of " + std::to_string(rows.size()) + " rows", [&] {
+            return desktop_.Inside(sheet_).height() == RowHeight * static_cast<int>(rows.size()) - 1;
+        });
+    }
+    void ClickRow(const char* caption) {
+        const auto row = static_cast<int>(rows_.indexOf(caption));
+        ASSERT_GE(row, 0) << caption;
+        desktop_.Click(desktop_.Inside(sheet_).topLeft() +
+                       QPoint(ValueLeft + 6, RowHeight * row + RowHeight / 2));
+        desktop_.WaitForFocus("Properties");
+    }
+    void Type(const char* caption, const char* text) {
+        ClickRow(caption);
+        Keys({"ctrl+a"});
+        desktop_.Type(text);
+    }
+    /// Saves, though what was just typed may not yet be drawn, and tells what the file has now.
+    Facts Save() {
+        const QByteArray before = Saved();
+        Keys({"ctrl+s"});
+        desktop_.WaitFor("a saved skin", [&] { return Saved() != before; });
+        Facts facts;
+        QString owner, group;
+        for (const QByteArray& line : Saved().split('\n')) {
+            const QRegularExpressionMatch match =
+                QRegularExpression("<(/?)(\\w+)>(?:([^<]*)</)?").match(QString::fromLatin1(line));
+            const QString tag = match.captured(2);
+            if (tag == "Font") group = match.captured(1).isEmpty() ? "Font." : "";
+            if (tag == "Key") owner = match.captured(3);
+            if (tag == "Point") owner = "Point";
+            if (owner == "Point" && tag == "Order") owner += match.captured(3);
+            if (match.hasCaptured(3)) facts[owner + '.' + group + tag] = match.captured(3);
+        }
+        return facts;
+    }
+    void EditButton() {
+        Select({760, 130}, ButtonRows);
+        Type("Name", "Go");
+        Keys(QStringList(2, "Tab") + QStringList(10, "Down"));
+        Becomes(AmountRows);
+        Type("Value", "12.5");
+        Type("X", "705");
+        ClickRow("Lock Right");
+        Type("Text Color", "255");
+        ClickRow("Font");
+        Keys({"F4"});
+        desktop_.WaitForFocus("Font");
+        desktop_.Type("Verdana");
+        Keys(QStringList(4, "Tab") + QStringList{"space", "Return"});  // bold
+        desktop_.WaitForFocus("Properties");
+        ClickRow("Normal");
+        Keys({"F4"});
+        desktop_.WaitForFocus("Open Picture");
+        desktop_.Type("new.bmp");
+        // The first Return may only close a list of proposals.
+        desktop_.WaitFor("a chosen picture", [&] {
+            Keys({"Return"});
+            return desktop_.FocusTitle() != "Open Picture";
+        });
+        desktop_.WaitForFocus("Properties");
+        ClickRow("Name");
+        Keys({"Tab", "Down"});
+        Becomes(PictureRows);
+        Type("db-Script Name", "jump");
+        ClickRow("Is Jukebox Resizer");
+    }
+    void EditOthers() {
+        ClickRow("Name");
+        Keys({"shift+Tab", "Down"});
+        Becomes(LabelRows);
+        ClickRow("Height");
+        Keys(QStringList(7, "Tab") + QStringList(2, "Down"));
+        Becomes(TitleRows);
+        Type("Scroll Speed (Pixels)", "-4");
+        Select({30, 30}, CornerRows);
+        Type("Y", "33");
+        Keys({"Tab", "Down", "Tab", "Down", "Down"});
+        Select({150, 75}, SongRows);
+        ClickRow("Margin");
+        Keys({"Tab", "Tab", "Down"});
+        Select({70, 200}, LetterRows);
+        ClickRow("Width");
+        Keys({"shift+Tab", "Down", "Tab", "ctrl+a"});
+        desktop_.Type("41");
     }
 
-    QString main_, sheet_;
+    QString sheet_;
     QRect canvas_;
     Captions rows_;
-    QByteArray saved_;
 };
-
-QByteArray Lines(const QByteArrayList& lines) {
-    return lines.join("\r\n") + "\r\n";
-}
-
-QByteArray ElementLines(const char* key, int order, int type, QRect at) {
-    const auto number = [](int value) { return QByteArray::number(value); };
-    return Lines({"<Element>", "<Key>" + QByteArray(key) + "</Key>",
-                  "<ElementName>" + QByteArray(key) + "</ElementName>",
-                  "<Order>" + number(order) + "</Order>", "<ElementType>" + number(type) + "</ElementType>",
-                  "<LeftX>" + number(at.x()) + "</LeftX>", "<TopY>" + number(at.y()) + "</TopY>",
-                  "<WidthX>" + number(at.width()) + "</WidthX>",
-                  "<HeightY>" + number(at.height()) + "</HeightY>", "<LockLeft>True</LockLeft>",
-                  "<LockTop>True</LockTop>", "<Visible>True</Visible>", "</Element>"});
-}
-
-/// A panel, a button, an info, a corner; and a preference that the program doesn't know, of the last kind.
-void SheetsWalk::MakeSkin() {
-    ASSERT_TRUE(QDir().mkpath(Path("")));
-    QImage picture(8, 8, QImage::Format_RGB32);
-    picture.fill(Qt::darkMagenta);
-    ASSERT_TRUE(picture.save(Path("new.bmp")));
-    QFile file(Path("SkinSettings.xml"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(Lines({"<Skin>", "<SkinName>Rows</SkinName>", "<SkinWidth>1000</SkinWidth>",
-                      "<SkinHeight>700</SkinHeight>", "<SkinPrefs>", "<SkinPref>", "<Key>SL_Own</Key>",
-                      "<PrefType>15</PrefType>", "<Caption>Own</Caption>", "<Value>0</Value>", "</SkinPref>",
-                      "</SkinPrefs>", "<Layouts>", "<Layout>", "<Key>Standard</Key>",
-                      "<LayoutName>Standard</LayoutName>", "<Points>"}));
-    const std::array<QPoint, 4> corners = {QPoint(30, 30), QPoint(970, 30), QPoint(970, 670),
-                                           QPoint(30, 670)};
-    for (std::size_t i = 0; i < corners.size(); ++i)
-        file.write(Lines({"<Point>", "<Order>" + QByteArray::number(static_cast<int>(i) + 1) + "</Order>",
-                          "<X>" + QByteArray::number(corners[i].x()) + "</X>",
-                          "<Y>" + QByteArray::number(corners[i].y()) + "</Y>", "</Point>"}));
-    file.write(Lines({"</Points>", "<Elements>"}));
-    file.write(ElementLines("Main", 1, 0, {50, 60, 600, 560}) +
-               ElementLines("Play", 2, 1, {700, 100, 120, 60}) +
-               ElementLines("Title", 3, 4, {700, 300, 200, 40}));
-    file.write(Lines({"</Elements>", "</Layout>", "</Layouts>", "</Skin>"}));
-}
-
-void SheetsWalk::Start() {
-    desktop_.StartProgram({Path("")});
-    main_ = desktop_.Window("^Ornavo");
-    desktop_.Place(desktop_.Window("^Skin Project$"), ProjectPlace);
-    desktop_.Place(main_, CanvasPlace);
-    canvas_ = desktop_.Inside(main_);
-}
-
-void SheetsWalk::Select(QPoint onCanvas, const Captions& rows) {
-    desktop_.Click(canvas_.topLeft() + onCanvas);
-    const bool isFirst = sheet_.isEmpty();
-    sheet_ = desktop_.Window("^Properties$");
-    if (isFirst) desktop_.Place(sheet_, SheetPlace);
-    Becomes(rows);
-}
-
-void SheetsWalk::Becomes(const Captions& rows) {
-    rows_ = rows;
-    desktop_.WaitFor("a sheet of " + std::to_string(rows.size()) + " rows", [&] {
-        return desktop_.Inside(sheet_).height() == RowHeight * static_cast<int>(rows.size()) - 1;
-    });
-}
-
-void SheetsWalk::ClickRow(const char* caption) {
-    const auto row = static_cast<int>(rows_.indexOf(caption));
-    ASSERT_GE(row, 0) << caption;
-    desktop_.Click(desktop_.Inside(sheet_).topLeft() +
-                   QPoint(ValueLeft + 6, RowHeight * row + RowHeight / 2));
-    desktop_.WaitForFocus("Properties");
-}
-
-void SheetsWalk::Type(const char* caption, const char* text) {
-    ClickRow(caption);
-    Keys({"ctrl+a"});
-    desktop_.Type(text);
-}
-
-/// Saves, though what was just typed may not yet be drawn, and tells what the file has now.
-Facts SheetsWalk::Save() {
-    const auto contents = [&] {
-        QFile file(Path("SkinSettings.xml"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : saved_;
-    };
-    const QByteArray before = contents();
-    Keys({"ctrl+s"});
-    desktop_.WaitFor("a saved skin", [&] { return (saved_ = contents()) != before; });
-    Facts facts;
-    QString owner, group;
-    for (const QByteArray& line : saved_.split('\n')) {
-        const QRegularExpressionMatch match =
-            QRegularExpression("<(/?)(\\w+)>(?:([^<]*)</)?").match(QString::fromLatin1(line));
-        const QString tag = match.captured(2);
-        if (tag == "Font") group = match.captured(1).isEmpty() ? "Font." : "";
-        if (tag == "Key") owner = match.captured(3);
-        if (tag == "Point") owner = "Point";
-        if (owner == "Point" && tag == "Order") owner += match.captured(3);
-        if (match.hasCaptured(3)) facts[owner + '.' + group + tag] = match.captured(3);
-    }
-    return facts;
-}
-
-void SheetsWalk::EditButton() {
-    Select({760, 130}, ButtonRows);
-    Type("Name", "Go");
-    Keys(QStringList(2, "Tab") + QStringList(10, "Down"));
-    Becomes(AmountRows);
-    Type("Value", "12.5");
-    Type("X", "705");
-    ClickRow("Lock Right");
-    Type("Text Color", "255");
-    ClickRow("Font");
-    Keys({"F4"});
-    desktop_.WaitForFocus("Font");
-    desktop_.Type("Verdana");
-    Keys(QStringList(4, "Tab") + QStringList{"space", "Return"});  // bold
-    desktop_.WaitForFocus("Properties");
-    ClickRow("Normal");
-    Keys({"F4"});
-    desktop_.WaitForFocus("Open Picture");
-    desktop_.Type("new.bmp");
-    // The first Return may only close a list of proposals.
-    desktop_.WaitFor("a chosen picture", [&] {
-        Keys({"Return"});
-        return desktop_.FocusTitle() != "Open Picture";
-    });
-    desktop_.WaitForFocus("Properties");
-    ClickRow("Name");
-    Keys({"Tab", "Down"});
-    Becomes(PictureRows);
-    Type("db-Script Name", "jump");
-    ClickRow("Is Jukebox Resizer");
-}
-
-void SheetsWalk::EditOthers() {
-    ClickRow("Name");
-    Keys({"shift+Tab", "Down"});
-    Becomes(LabelRows);
-    ClickRow("Height");
-    Keys(QStringList(7, "Tab") + QStringList(2, "Down"));
-    Becomes(TitleRows);
-    Type("Scroll Speed (Pixels)", "-4");
-    Select({30, 30}, CornerRows);
-    Type("Y", "33");
-    Keys({"Tab", "Down", "Tab", "Down", "Down"});
-    Select({150, 75}, SongRows);
-    ClickRow("Margin");
-    Keys({"Tab", "Tab", "Down"});
-    Select({70, 200}, LetterRows);
-    ClickRow("Width");
-    Keys({"shift+Tab", "Down", "Tab", "ctrl+a"});
-    desktop_.Type("41");
-}
 
 std::string Lines(const Facts& facts) {
     QString lines;
@@ -271,9 +201,7 @@ TEST_F(SheetsWalk, Sheets) {
     };
     for (auto edit = edits.begin(); edit != edits.end(); ++edit) expected[edit.key()] = edit.value();
     EXPECT_EQ(Lines(saved), Lines(expected));
-    desktop_.Activate(main_);
-    Keys({"alt+F4"});
-    EXPECT_EQ(desktop_.ProgramEnd(), 0);
+    Close();
 }
 
 }  // namespace
