@@ -10,12 +10,8 @@ namespace {
 
 class CanvasTest : public SkinTest {
 protected:
-    CanvasTest() { UseSettingsFile(settings_.filePath("settings.ini")); }
     ScriptedPrompts prompts_;
     RecordedWindows windows_;
-
-private:
-    QTemporaryDir settings_;
 };
 
 TEST_F(CanvasTest, AFirstRunHasItsDesignedPlace) {

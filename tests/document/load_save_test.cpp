@@ -119,7 +119,7 @@ TEST_F(LoadSave, TheSettingsFileIsFoundInAnyCase) {
     skin->LoadSkin();
     EXPECT_EQ(skin->SkinWidth, 5);
     skin->SaveSkin(false);
-    EXPECT_EQ(Snapshot(folder).size(), 1u);
+    EXPECT_EQ(scratch.Files().size(), 1u);
     EXPECT_NE(BytesOf(folder / "Blue/skinSETTINGS.xml").find("<SkinName>blue<"), std::string::npos);
 }
 

@@ -41,9 +41,9 @@ TEST_F(Packaging, EveryKindOfReferenceIsGathered) {
     EXPECT_EQ(objSkin->dbSkinPrefs->Item("P")->value, Value("a.png"));
     EXPECT_EQ(objSkin->dbSkinPrefs->Item("Text")->value, Value(a));
     EXPECT_EQ(InSkin("a.png"), "A");
-    const auto once = Snapshot(folder);
+    const auto once = scratch.Files();
     objSkin->SaveSkin(false);
-    EXPECT_EQ(Snapshot(folder), once);
+    EXPECT_EQ(scratch.Files(), once);
 }
 
 TEST_F(Packaging, ARenamedSkinTakesItsPicturesAlong) {
@@ -100,7 +100,7 @@ TEST_F(Packaging, WhatIsNoPlainFileStaysOutside) {
     fs::create_directories(folder / "Blue/real.png");
     const std::string real = folder / "Pics/real.png";
     EXPECT_EQ(Saved(real), real);
-    EXPECT_EQ(Snapshot(folder / "Blue").size(), 2u);
+    EXPECT_EQ(scratch.Files("Blue").size(), 2u);
 }
 
 TEST_F(Packaging, NoPictureLandsOnTheSettings) {
@@ -110,7 +110,7 @@ TEST_F(Packaging, NoPictureLandsOnTheSettings) {
         EXPECT_EQ(Saved(trap, keep), trap);
         EXPECT_EQ(InSkin("SkinSettings.xml").substr(0, 5), "<?xml");
     }
-    EXPECT_EQ(Snapshot(folder / "Blue").size(), 1u);
+    EXPECT_EQ(scratch.Files("Blue").size(), 1u);
 }
 
 TEST_F(Packaging, ALinkInTheFolderLeadsNoCopyOutside) {

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "base/failure.h"
 #include "base/files.h"
 #include "base/numbers.h"
@@ -21,21 +19,8 @@ inline std::string BytesOf(const fs::path& path) {
     return TemporaryFolder::Read(path);
 }
 
-inline void Put(const fs::path& path, const std::string& bytes) {
-    fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
 inline std::string Fixture(const std::string& name) {
     return BytesOf(fs::path(ORNAVO_SOURCE_DIR "/tests/document/fixtures") / name);
-}
-
-/// Every file below the folder with its bytes.
-inline std::map<std::string, std::string> Snapshot(const fs::path& folder) {
-    std::map<std::string, std::string> files;
-    for (const auto& entry : fs::recursive_directory_iterator(folder))
-        if (entry.is_regular_file()) files[fs::relative(entry.path(), folder)] = BytesOf(entry.path());
-    return files;
 }
 
 class SkinTest : public testing::Test {
@@ -45,6 +30,10 @@ protected:
         UseFileLayer(nullptr);
         UseNumberSigns({});
         objSkin = std::make_shared<dbSkin>();
+    }
+    static void Put(const fs::path& path, const std::string& bytes) {
+        fs::create_directories(path.parent_path());
+        std::ofstream(path, std::ios::binary) << bytes;
     }
     /// Without the catalogue, so that a file has only what a test puts there.
     dbSkinRef NewSkin(const std::string& name) const {

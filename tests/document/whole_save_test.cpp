@@ -39,7 +39,7 @@ protected:
     /// Each file of the skin as it was or as it shall be; no others but scratch files.
     void ExpectWhole(const std::map<std::string, std::string>& before,
                      const std::map<std::string, std::string>& after, bool scratchAllowed) {
-        const auto now = Snapshot(folder);
+        const auto now = scratch.Files();
         for (const auto& [name, bytes] : before) EXPECT_TRUE(now.contains(name)) << name;
         for (const auto& [name, bytes] : now) {
             if (scratchAllowed && fs::path(name).extension() == ".tmp") continue;
@@ -64,12 +64,12 @@ protected:
 TEST_F(WholeSave, AFailureAtEachStep) {
     for (const std::string name : {"Blue", "Red"}) {
         Prepare(name);
-        const auto before = Snapshot(folder);
+        const auto before = scratch.Files();
         const std::string modelBefore = Model();
         StepLayer counting;
         UseFileLayer(&counting);
         objSkin->SaveSkin(false);
-        const auto after = Snapshot(folder);
+        const auto after = scratch.Files();
         EXPECT_EQ(Model(), name + "," + name + ",clean,old.png,new.png,same.png,new.png");
         ASSERT_GT(counting.steps, 15);
         int refused = 0;
@@ -93,7 +93,7 @@ TEST_F(WholeSave, AFailureAtEachStep) {
             }
             UseFileLayer(nullptr);
             SCOPED_TRACE(name + ", step " + std::to_string(bad));
-            const auto now = Snapshot(folder);
+            const auto now = scratch.Files();
             if (failed) {
                 ++refused;
                 EXPECT_EQ(Model(), modelBefore);
@@ -113,12 +113,12 @@ TEST_F(WholeSave, AFailureAtEachStep) {
 
 TEST_F(WholeSave, KilledAtEachStep) {
     Prepare("Blue");
-    const auto before = Snapshot(folder);
+    const auto before = scratch.Files();
     StepLayer counting;
     UseFileLayer(&counting);
     objSkin->SaveSkin(false);
     UseFileLayer(nullptr);
-    const auto after = Snapshot(folder);
+    const auto after = scratch.Files();
     for (int last = 1; last <= counting.steps + 1; ++last) {
         Prepare("Blue");
         const pid_t child = fork();
@@ -139,13 +139,13 @@ TEST_F(WholeSave, KilledAtEachStep) {
         ExpectWhole(before, after, true);
         ExpectReferencesTrue("Blue");
     }
-    EXPECT_EQ(Snapshot(folder).at("Blue/SkinSettings.xml"), after.at("Blue/SkinSettings.xml"));
+    EXPECT_EQ(scratch.Files().at("Blue/SkinSettings.xml"), after.at("Blue/SkinSettings.xml"));
 }
 
 /// The system itself refuses to write beyond a size; unlike a right, this stops every user.
 TEST_F(WholeSave, TheSystemTakesNoMore) {
     Prepare("Blue");
-    const auto before = Snapshot(folder);
+    const auto before = scratch.Files();
     for (const rlim_t room : {rlim_t{0}, rlim_t{100}, rlim_t{1000}}) {
         const pid_t child = fork();
         ASSERT_GE(child, 0);
@@ -160,7 +160,7 @@ TEST_F(WholeSave, TheSystemTakesNoMore) {
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
         EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << room;
-        const auto now = Snapshot(folder);
+        const auto now = scratch.Files();
         EXPECT_EQ(now.at("Blue/SkinSettings.xml"), before.at("Blue/SkinSettings.xml"));
         EXPECT_TRUE(room > 0 || now == before);
     }

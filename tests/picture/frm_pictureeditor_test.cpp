@@ -18,10 +18,7 @@ namespace {
 
 class PictureEditorTest : public SkinTest {
 protected:
-    PictureEditorTest() {
-        UseSettingsFile(Path("settings.ini"));
-        SelKey.clear();
-    }
+    PictureEditorTest() { SelKey.clear(); }
     ~PictureEditorTest() override {
         UseFileLayer(nullptr);
         SelKey.clear();

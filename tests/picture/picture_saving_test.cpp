@@ -38,15 +38,6 @@ protected:
         layout_->dbLayoutElements->Add(layout_->dbLayoutElements->Count() + 1, key, 1, 0)->PicNormal =
             picture;
     }
-    /// All files below the folder with their bytes.
-    std::map<std::string, std::string> Files() const {
-        std::map<std::string, std::string> files;
-        for (const auto& entry : fs::recursive_directory_iterator(folder_.place()))
-            if (entry.is_regular_file())
-                files[entry.path().lexically_relative(folder_.place()).generic_string()] =
-                    TemporaryFolder::Read(entry.path());
-        return files;
-    }
     std::string Named(const std::string& path) const {
         return fs::path(path).lexically_relative(folder_.place()).generic_string();
     }
@@ -76,7 +67,7 @@ TEST_F(SavingTest, KeepsTheSourceOnceAndWritesTheFile) {
     EXPECT_EQ(Named(Save("a.bmp", "a")), "Blue/a.bmp");
     EXPECT_EQ(Named(Save("a.bmp", "a", FileKind::Jpeg)), "Blue/a.jpg");
     EXPECT_EQ(Named(Save((folder_ / "far/z.gif").string(), "y")), "Blue/y.bmp");
-    std::map<std::string, std::string> files = Files();
+    std::map<std::string, std::string> files = folder_.Files();
     const std::string jpeg = files["Blue/a.jpg"], bmp = files["Blue/y.bmp"];
     files["Blue/a.jpg"] = files["Blue/y.bmp"] = "";
     EXPECT_EQ(files, (std::map<std::string, std::string>{{"Blue/Original/a.bmp", "source"},
@@ -105,25 +96,25 @@ TEST_F(SavingTest, AJpegTakesTheBmpsPlaceUnlessItIsShownElsewhere) {
         folder_.Write("Blue/k.bmp", "old");
         folder_.Write("Blue/s.png", "source");
         Save(c.picture, "k", FileKind::Jpeg);
-        EXPECT_EQ(Files().contains("Blue/k.bmp"), c.stays) << c.shown << ' ' << c.alsoShown;
+        EXPECT_EQ(folder_.Files().contains("Blue/k.bmp"), c.stays) << c.shown << ' ' << c.alsoShown;
     }
 }
 
 TEST_F(SavingTest, LeavesTheSkinsFolderByNoRoad) {
     folder_.Write("Blue/a.png", "source");
     folder_.Write("far/b.bmp", "far");
-    const auto before = Files();
+    const auto before = folder_.Files();
     for (const char* name : {"../far/b", "..\\far\\b", "/tmp/x", "", "  ", ".", "..", "c:x", "a*"})
         EXPECT_EQ(FailureNumber([&] { Save("a.png", name); }), 513) << name;
     objSkin->SkinName.clear();
     EXPECT_EQ(FailureNumber([&] { Save((folder_ / "Blue/a.png").string(), "a"); }), 513);
     objSkin->SkinName = "Blue";
     EXPECT_EQ(FailureNumber([&] { Save("gone.png", "a"); }), 53);
-    EXPECT_EQ(Files(), before);
+    EXPECT_EQ(folder_.Files(), before);
 
     fs::create_directory_symlink(folder_ / "far", folder_ / "Blue/Original");
     EXPECT_EQ(FailureNumber([&] { Save("a.png", "a"); }), 75);
-    EXPECT_EQ(Files(), before);
+    EXPECT_EQ(folder_.Files(), before);
     fs::remove(folder_ / "Blue/Original");
     fs::create_symlink(folder_ / "far/b.bmp", folder_ / "Blue/b.bmp");
     fs::create_directory(folder_ / "Blue/Original");
@@ -143,7 +134,7 @@ TEST_F(SavingTest, AnyStepMayFail) {
             fs::remove_all(folder_ / "Blue");
             folder_.Write("Blue/a.bmp", "source");
             folder_.Write("Blue/a.jpg", "old");
-            const auto before = Files();
+            const auto before = folder_.Files();
             StepLayer disk;
             disk.before = [&](int step) {
                 if (step == bad) throw Failure(61, "disk", "full");
@@ -153,7 +144,7 @@ TEST_F(SavingTest, AnyStepMayFail) {
             UseFileLayer(nullptr);
             if (!wentWell) ++failed;
             if (disk.steps < bad) break;
-            const auto after = Files();
+            const auto after = folder_.Files();
             if (!wentWell) {
                 EXPECT_EQ(after, before) << "step " << bad;
             } else {

@@ -30,7 +30,6 @@ public:
 
 class PreviewTest : public SkinTest {
 protected:
-    PreviewTest() { UseSettingsFile(settings_.filePath("settings.ini")); }
     ~PreviewTest() override { TargetLayout.reset(); }
     void Open() {
         preview_ = std::make_unique<frm_Preview>(windows_);
@@ -56,7 +55,6 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    QTemporaryDir settings_;
     Leaving windows_;
     std::unique_ptr<frm_Preview> preview_;
 };

@@ -2,13 +2,11 @@
 // The main window on a skin of a test, and the mouse and keys as the window system brings them.
 #pragma once
 
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimerEvent>
 
 #include "canvas/frm_ornavo.h"
 #include "editor/selection.h"
-#include "platform/settings.h"
 #include "support/scripted_prompts.h"
 #include "support/skin_fixture.h"
 
@@ -54,7 +52,6 @@ inline void Fire(QTimer& timer) {
 class EditingTest : public SkinTest {
 protected:
     EditingTest() {
-        UseSettingsFile(settings_.filePath("settings.ini"));
         objSkin->SkinWidth = 800;
         objSkin->SkinHeight = 600;
         SelControl = nullptr;
@@ -121,9 +118,6 @@ protected:
     ScriptedPrompts prompts_;
     RecordedWindows windows_;
     std::unique_ptr<frm_Ornavo> form_;
-
-private:
-    QTemporaryDir settings_;
 };
 
 }  // namespace ornavo::testing

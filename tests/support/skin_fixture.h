@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "document/current_skin.h"
+#include "platform/settings.h"
 #include "render/compose.h"
 #include "render/layout_host.h"
 #include "render/surface.h"
@@ -34,10 +35,11 @@ private:
     LayoutHost host_;
 };
 
-/// objSkin is 100 x 100 with one empty layout, and its folder exists.
+/// objSkin is 100 x 100 with one empty layout, and its folder exists; there are no settings.
 class SkinTest : public ::testing::Test {
 protected:
     SkinTest() {
+        UseSettingsFile(folder_.filePath("settings.ini"));
         objSkin = std::make_shared<dbSkin>();
         objSkin->SetBasePath(folder_.path().toStdString());
         objSkin->SkinName = "Blue";

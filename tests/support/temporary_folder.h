@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <random>
 #include <string>
 #include <string_view>
@@ -38,6 +39,14 @@ public:
     static std::string Read(const std::filesystem::path& path) {
         std::ifstream file(path, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), {});
+    }
+    /// Every file below, or below a folder in it, with its bytes.
+    std::map<std::string, std::string> Files(std::string_view below = "") const {
+        std::map<std::string, std::string> files;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(place_ / below))
+            if (entry.is_regular_file())
+                files[entry.path().lexically_relative(place_ / below).generic_string()] = Read(entry.path());
+        return files;
     }
     std::size_t Entries() const {
         return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(place_), {}));
