@@ -157,8 +157,7 @@ public:
         model_->PressRight(at);
         if (item == MenuClone) model_->CloneElement();
         if (item == MenuDelete) model_->Key("Delete");
-        if (item == MenuBringToFront) model_->BringToFront();
-        if (item == MenuSendToBack) model_->SendToBack();
+        if (item == MenuBringToFront || item == MenuSendToBack) model_->Restack(item == MenuBringToFront);
     }
     void DeleteCorner() {
         const Place at = Near(model_->CornerPlace(Below(static_cast<int>(model_->current().corners.size()))));

@@ -134,14 +134,6 @@ TEST_F(ToolboxTest, ASpacingIsAWholeNumberFromOne) {
     EXPECT_GT(grids, 0);
 }
 
-TEST_F(ToolboxTest, TheOtherButtons) {
-    objSkin->SkinWidth = 700;
-    Click(toolbox.btn_ResetView);
-    EXPECT_EQ(form_->width(), 700);
-    Click(toolbox.btn_Preview);
-    EXPECT_EQ(windows_.previews, 1);
-}
-
 TEST_F(ToolboxTest, ItComesBackWhereItWas) {
     EXPECT_EQ(toolbox.TwipBounds().left, 15);
     EXPECT_EQ(toolbox.TwipBounds().top, 765);

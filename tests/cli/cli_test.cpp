@@ -228,26 +228,22 @@ TEST_F(RecolourTest, RefusesAndWritesNothing) {
     ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("no picture") > 0);
     text.close();
     const QString in = Path("in.png"), out = Path("out.bmp");
-    const struct {
-        QStringList words;
-        int code;
-    } rows[] = {
-        {{in, out, "--hue", "256", "--saturation", "1"}, 2},
-        {{in, out, "--hue=-1", "--saturation", "1"}, 2},
-        {{in, out, "--hue", "1", "--saturation", "1.5"}, 2},
-        {{in, out, "--hue", "", "--saturation", "1"}, 2},
-        {{in, out, "--hue", "1"}, 2},
-        {{in, "--hue", "1", "--saturation", "1"}, 2},
-        {{in, out, out, "--hue", "1", "--saturation", "1"}, 2},
-        {{in, Path("out.png"), "--hue", "1", "--saturation", "1"}, 2},
-        {{Path("none.png"), out, "--hue", "1", "--saturation", "1"}, 1},
-        {{Path("text.png"), out, "--hue", "1", "--saturation", "1"}, 1},
-        {{in, Path("no/out.bmp"), "--hue", "1", "--saturation", "1"}, 1},
-        {{in, Path("no/out.jpg"), "--hue", "1", "--saturation", "1"}, 1},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(Run(row.words), row.code) << row.words.join(' ').toStdString();
-        EXPECT_FALSE(said_.isEmpty()) << row.words.join(' ').toStdString();
+    const QStringList one = {"--hue", "1", "--saturation", "1"};
+    const std::pair<QStringList, int> rows[] = {{{in, out, "--hue", "256", "--saturation", "1"}, 2},
+                                                {{in, out, "--hue=-1", "--saturation", "1"}, 2},
+                                                {{in, out, "--hue", "1", "--saturation", "1.5"}, 2},
+                                                {{in, out, "--hue", "", "--saturation", "1"}, 2},
+                                                {{in, out, "--hue", "1"}, 2},
+                                                {QStringList{in} + one, 2},
+                                                {QStringList{in, out, out} + one, 2},
+                                                {QStringList{in, Path("out.png")} + one, 2},
+                                                {QStringList{Path("none.png"), out} + one, 1},
+                                                {QStringList{Path("text.png"), out} + one, 1},
+                                                {QStringList{in, Path("no/out.bmp")} + one, 1},
+                                                {QStringList{in, Path("no/out.jpg")} + one, 1}};
+    for (const auto& [words, code] : rows) {
+        EXPECT_EQ(Run(words), code) << words.join(' ').toStdString();
+        EXPECT_FALSE(said_.isEmpty()) << words.join(' ').toStdString();
     }
     EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }

@@ -1,12 +1,84 @@
 // SPDX-License-Identifier: MIT
+#include "document/layout_edits.h"
+
+#include <gtest/gtest.h>
 #include <set>
 
 #include "document/catalogue.h"
+#include "document/codes.h"
 #include "document/fields.h"
+#include "document/shape_edits.h"
 #include "support.h"
+#include "support/failure_number.h"
 
 namespace ornavo {
 namespace {
+
+TEST(LayoutEdits, NumbersFillTheLowestGapAndOrdersStayDense) {
+    dbLayout layout;
+    const auto add = [&](int type) { return AddNumberedElement(layout, GetTopOrder(layout), type)->Key; };
+    std::string keys;
+    for (const int type : {TypeButton, TypePicture, TypeVolume, TypeInfo, TypeButton})
+        keys += add(type) + " ";
+    DeleteElement(layout, "button1");
+    for (const int type : {TypeButton, TypeButton}) keys += add(type) + " ";
+    EXPECT_EQ(keys, "Button1 Graphic1 Volume1 Info1 Button2 Button1 Button3 ");
+    for (const int type : {-1, int(TypeMain), int(TypeSearchBox), 99})
+        EXPECT_EQ(AddNumberedElement(layout, 1, type), nullptr);
+    for (const auto edit : {DeleteElement, BringElementToFront, SendElementToBack})
+        EXPECT_EQ(FailureNumber([&] { edit(layout, "Nobody"); }), 9);
+    BringElementToFront(layout, "info1");
+    SendElementToBack(layout, "Button3");
+    layout.dbLayoutElements->Item("Volume1")->ControlIndex = 7;
+    EXPECT_EQ(GetControlIndex(layout, 3), 7);
+    EXPECT_EQ(GetControlIndex(layout, 9), 0);
+    std::string stack;
+    for (const dbLayoutElementRef& e : *layout.dbLayoutElements)
+        stack += e->Key + "=" + std::to_string(e->Order) + " ";
+    EXPECT_EQ(stack, "Button3=1 Graphic1=2 Volume1=3 Button2=4 Button1=5 Info1=6 ");
+}
+
+/// X of each point with its order, in the collection's sequence.
+std::string Listed(const dbPoints& points) {
+    std::string text;
+    for (const dbPointRef& point : points)
+        text += std::to_string(point->Order) + ":" + std::to_string(point->X) + " ";
+    return text;
+}
+
+void AddPoint(dbLayout& layout, int order, int x) {
+    dbPoint point;
+    point.Order = order, point.X = x, point.Y = x + 1, point.VAlign = 2, point.HAlign = 3;
+    layout.dbPoints->AddObject(std::make_shared<dbPoint>(point));
+}
+
+TEST(ShapeEdits, ATagAndItsOrder) {
+    EXPECT_EQ(OrderOfTag(TagOfPoint(12)), 12);
+    for (const char* none : {"", "K", "Kx", "K1x", "K 1", "K99999999999", "Button"})
+        EXPECT_EQ(OrderOfTag(none), 0) << none;
+}
+
+TEST(ShapeEdits, ADeletedPointLeavesDenseOrdersAndNewKeys) {
+    dbLayout layout;
+    for (const int order : {7, 3, -2, 3000}) AddPoint(layout, order, order);
+    RenumberPoints(*layout.dbPoints);
+    EXPECT_EQ(Listed(*layout.dbPoints), "1:7 2:3 3:-2 4:3000 ");
+    layout = dbLayout();
+    for (const int order : {1, 2, 3, 4}) AddPoint(layout, order, order * 10);
+    for (const char* none : {"", "K", "K0", "K5", "K-1", "Main"}) DeleteShapePoint(layout, none);
+    EXPECT_EQ(layout.dbPoints->Count(), 4);
+    DeleteShapePoint(layout, "K2");
+    EXPECT_EQ(Listed(*layout.dbPoints), "1:10 2:30 3:40 ");
+    EXPECT_EQ(layout.dbPoints->Find("K3")->X, 40);
+    EXPECT_EQ(layout.dbPoints->Find("K4"), nullptr);
+    const dbPoint& moved = *layout.dbPoints->Item(2);
+    EXPECT_TRUE(moved.Y == 31 && moved.VAlign == 2 && moved.HAlign == 3);
+    AddPoint(layout, 0, 50);
+    DeleteShapePoint(layout, "K1");
+    EXPECT_EQ(Listed(*layout.dbPoints), "1:30 2:40 ") << "what has no order goes too";
+    DeleteShapePoint(layout, "K1");
+    EXPECT_EQ(Listed(*layout.dbPoints), "1:30 2:40 ") << "two corners stay";
+}
 
 TEST(Model, ALayoutIsKeyedByItsName) {
     dbSkin skin;

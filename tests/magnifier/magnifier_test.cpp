@@ -14,6 +14,9 @@ const std::vector<QRect> OneScreen = {{0, 0, 1600, 1200}};
 
 TEST(Pieces, LieAboutThePointerAndWithinTheScreens) {
     const std::vector<QRect> twoScreens = {{0, 0, 100, 100}, {100, 20, 100, 100}};
+    const std::vector<QRect> leftScreen = {{0, 0, 100, 100}, {-100, 0, 100, 100}};
+    const std::vector<Piece> seam = {{0, {95, 15, 5, 10}, {0, 0, 40, 80}},
+                                     {1, {100, 20, 5, 5}, {40, 40, 40, 40}}};
     struct Row {
         const char* name;
         QPoint pointer;
@@ -23,44 +26,14 @@ TEST(Pieces, LieAboutThePointerAndWithinTheScreens) {
         std::vector<Piece> pieces;
     };
     const Row rows[] = {
-        {"in the middle", {100, 80}, {40, 20}, 4, OneScreen, {{0, {95, 78, 10, 5}, {0, 0, 40, 20}}}},
-        {"at the top left only the last quarter is screen",
-         {0, 0},
-         {40, 40},
-         4,
-         OneScreen,
-         {{0, {0, 0, 5, 5}, {20, 20, 20, 20}}}},
-        {"at the bottom right only the first quarter is",
-         {1599, 1199},
-         {40, 40},
-         4,
-         OneScreen,
-         {{0, {1594, 1194, 6, 6}, {0, 0, 24, 24}}}},
-        {"halves round to the even one, and the rest is shown in part",
-         {100, 100},
-         {42, 46},
-         4,
-         OneScreen,
-         {{0, {95, 94, 11, 12}, {0, 0, 44, 48}}}},
+        {"middle", {100, 80}, {40, 20}, 4, OneScreen, {{0, {95, 78, 10, 5}, {0, 0, 40, 20}}}},
+        {"top left", {0, 0}, {40, 40}, 4, OneScreen, {{0, {0, 0, 5, 5}, {20, 20, 20, 20}}}},
+        {"end", {1599, 1199}, {40, 40}, 4, OneScreen, {{0, {1594, 1194, 6, 6}, {0, 0, 24, 24}}}},
+        {"half to even", {100, 100}, {42, 46}, 4, OneScreen, {{0, {95, 94, 11, 12}, {0, 0, 44, 48}}}},
         {"as it is", {100, 100}, {9, 9}, 1, OneScreen, {{0, {96, 96, 9, 9}, {0, 0, 9, 9}}}},
-        {"less than half a pixel fits",
-         {100, 100},
-         {10, 10},
-         32,
-         OneScreen,
-         {{0, {100, 100, 1, 1}, {0, 0, 32, 32}}}},
-        {"over the seam of two screens",
-         {100, 20},
-         {80, 80},
-         8,
-         twoScreens,
-         {{0, {95, 15, 5, 10}, {0, 0, 40, 80}}, {1, {100, 20, 5, 5}, {40, 40, 40, 40}}}},
-        {"a screen on the left of the first",
-         {-50, 5},
-         {40, 40},
-         4,
-         {{0, 0, 100, 100}, {-100, 0, 100, 100}},
-         {{1, {-55, 0, 10, 10}, {0, 0, 40, 40}}}},
+        {"half a pixel", {100, 100}, {10, 10}, 32, OneScreen, {{0, {100, 100, 1, 1}, {0, 0, 32, 32}}}},
+        {"seam", {100, 20}, {80, 80}, 8, twoScreens, seam},
+        {"left of the first", {-50, 5}, {40, 40}, 4, leftScreen, {{1, {-55, 0, 10, 10}, {0, 0, 40, 40}}}},
         {"beyond all", {5000, 5000}, {40, 40}, 4, OneScreen, {}},
         {"no room", {100, 100}, {0, 20}, 4, OneScreen, {}},
     };

@@ -14,7 +14,6 @@ namespace ornavo::walk {
 namespace {
 
 constexpr QSize ScreenSize = {1800, 1200};
-constexpr QPoint Parking = {1798, 1198};
 constexpr int Patience = 20000, Interval = 15;  // milliseconds
 
 [[noreturn]] void Fail(const QString& what) {
@@ -36,10 +35,6 @@ void Stop(QProcess& process) {
     process.terminate();
     if (!process.waitForFinished(3000)) process.kill();
     process.waitForFinished(3000);
-}
-
-QString Number(int value) {
-    return QString::number(value);
 }
 
 }  // namespace
@@ -143,14 +138,6 @@ void Desktop::WaitForFocus(const QString& title) {
     WaitFor("the focus in " + title.toStdString(), [&] { return FocusTitle() == title; });
 }
 
-QString Desktop::FocusTitle() {
-    return Tool("xdotool", {"getwindowfocus", "getwindowname"}).trimmed();
-}
-
-QString Desktop::Title(const QString& window) {
-    return Tool("xdotool", {"getwindowname", window}).trimmed();
-}
-
 QRect Desktop::Inside(const QString& window) {
     const QString told = Tool("xwininfo", {"-id", window});
     const auto number = [&](const QString& label) {
@@ -178,41 +165,9 @@ void Desktop::Activate(const QString& window) {
     WaitFor("the focus", [&] { return Tool("xdotool", {"getwindowfocus"}).trimmed() == window; });
 }
 
-void Desktop::Click(const QPoint& at, int button) {
-    XDo({"mousemove", Number(at.x()), Number(at.y()), "click", Number(button)});
-}
-
-void Desktop::DoubleClick(const QPoint& at) {
-    XDo({"mousemove", Number(at.x()), Number(at.y()), "click", "--repeat", "2", "--delay", "40", "1"});
-}
-
 QString Desktop::WindowAt(const QPoint& at) {
     MoveTo(at);
     return Tool("xdotool", {"getmouselocation", "--shell"}).section("WINDOW=", 1).trimmed();
-}
-
-void Desktop::Press(const QPoint& at, int button) {
-    XDo({"mousemove", Number(at.x()), Number(at.y()), "mousedown", Number(button)});
-}
-
-void Desktop::MoveTo(const QPoint& at) {
-    XDo({"mousemove", Number(at.x()), Number(at.y())});
-}
-
-void Desktop::Release(int button) {
-    XDo({"mouseup", Number(button)});
-}
-
-void Desktop::ParkPointer() {
-    MoveTo(Parking);
-}
-
-void Desktop::Key(const QStringList& keys) {
-    XDo(QStringList{"key", "--clearmodifiers"} + keys);
-}
-
-void Desktop::Type(const QString& text) {
-    XDo({"type", "--delay", "1", "--", text});
 }
 
 QRgb Desktop::Pixel(const QPoint& at) const {

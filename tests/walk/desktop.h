@@ -14,6 +14,10 @@
 
 namespace ornavo::walk {
 
+inline QString Number(int value) {
+    return QString::number(value);
+}
+
 class Desktop {
 public:
     /// Starts screen and window manager; `limit` is how long the whole walk may take, in seconds.
@@ -32,22 +36,29 @@ public:
     /// How many windows of the program can be seen, menus too, but not those of that title.
     int WindowCount(const QString& except);
     void WaitForFocus(const QString& title);
-    QString FocusTitle();
-    QString Title(const QString& window);
+    QString FocusTitle() { return Tool("xdotool", {"getwindowfocus", "getwindowname"}).trimmed(); }
+    QString Title(const QString& window) { return Tool("xdotool", {"getwindowname", window}).trimmed(); }
     QRect Inside(const QString& window);  // without its frame, on the screen
     void Place(const QString& window, const QPoint& corner);
     void Resize(const QString& window, const QSize& inside);
     void Activate(const QString& window);
 
     // All places are on the screen.
-    void Click(const QPoint& at, int button = 1);
-    void DoubleClick(const QPoint& at);
-    void Press(const QPoint& at, int button = 1);
-    void MoveTo(const QPoint& at);
-    void Release(int button = 1);
-    void ParkPointer();                 // where it covers nothing
-    void Key(const QStringList& keys);  // "Right", "ctrl+s", ...
-    void Type(const QString& text);
+    void Click(const QPoint& at, int button = 1) {
+        XDo({"mousemove", Number(at.x()), Number(at.y()), "click", Number(button)});
+    }
+    void DoubleClick(const QPoint& at) {
+        XDo({"mousemove", Number(at.x()), Number(at.y()), "click", "--repeat", "2", "--delay", "40", "1"});
+    }
+    void Press(const QPoint& at, int button = 1) {
+        XDo({"mousemove", Number(at.x()), Number(at.y()), "mousedown", Number(button)});
+    }
+    void MoveTo(const QPoint& at) { XDo({"mousemove", Number(at.x()), Number(at.y())}); }
+    void Release(int button = 1) { XDo({"mouseup", Number(button)}); }
+    void ParkPointer() { MoveTo({1798, 1198}); }  // where it covers nothing
+    /// "Right", "ctrl+s", ...
+    void Key(const QStringList& keys) { XDo(QStringList{"key", "--clearmodifiers"} + keys); }
+    void Type(const QString& text) { XDo({"type", "--delay", "1", "--", text}); }
 
     QString WindowAt(const QPoint& at);  // the id of what a click there would hit
 

@@ -11,6 +11,8 @@ namespace {
 
 constexpr int HandleSize = 7, CornerReach = 2, CornerSize = 5, SideReach = 3, EdgeZone = 100;
 constexpr int ButtonFace = static_cast<int>(0x8000000F), White = 0xFFFFFF;
+/// The sides of the box that each handle holds: -1 the left or upper one, 1 the other one.
+constexpr Place Sides[] = {{-1, -1}, {0, -1}, {1, -1}, {1, 0}, {1, 1}, {0, 1}, {-1, 1}, {-1, 0}};
 enum Type { Main = 0, Button = 1, Volume = 3, Info = 4, SearchBox = 5, Scrollbar = 6 };
 
 int Round(double value) {
@@ -19,10 +21,6 @@ int Round(double value) {
 
 int Steps(int distance, int spacing) {
     return Round(distance / static_cast<double>(spacing)) * spacing;
-}
-
-int OnGrid(int value, int spacing) {
-    return Round(value / static_cast<double>(spacing)) * spacing;
 }
 
 /// The axis' rule is its own inverse for a start; a size grows with the canvas only between two locks.
@@ -48,11 +46,8 @@ bool Box::Contains(Place at) const {
 Model::Model(std::string name, int width, int height)
     : name_(std::move(name)), width_(width), height_(height), canvasWidth_(width), canvasHeight_(height) {
     for (const char* layout : {"Admin-Mode", "Kiosk-Mode"}) layouts_.push_back(WithStandardElements(layout));
-    for (const char* key : {"SearchBox", "Scrollbar"})
-        std::find_if(layouts_[0]->elements.begin(), layouts_[0]->elements.end(), [&](const Element& e) {
-            return e.key == key;
-        })->visible = false;
     current_ = layouts_[0];
+    for (const char* key : {"SearchBox", "Scrollbar"}) Named(key).visible = false;
     Compose();
 }
 
@@ -60,19 +55,11 @@ LayoutRef Model::WithStandardElements(const std::string& name) const {
     auto layout = std::make_shared<Layout>();
     layout->key = LayoutKey(name);
     layout->name = name;
+    const Locks both = {true, true}, none, far = {false, true};
     layout->elements = {
-        {"Main", "Main", Main, {30, 120, 740, 450}, {true, true}, {true, true}, true, ButtonFace, 0, {}},
-        {"SearchBox", "Search Box", SearchBox, {330, 85, 200, 25}, {}, {}, true, White, 0, {}},
-        {"Scrollbar",
-         "Scrollbar",
-         Scrollbar,
-         {70, 120, 40, 450},
-         {false, true},
-         {true, true},
-         true,
-         ButtonFace,
-         0,
-         {}}};
+        {"Main", "Main", Main, {30, 120, 740, 450}, both, both, true, ButtonFace, 0, {}},
+        {"SearchBox", "Search Box", SearchBox, {330, 85, 200, 25}, none, none, true, White, 0, {}},
+        {"Scrollbar", "Scrollbar", Scrollbar, {70, 120, 40, 450}, far, both, true, ButtonFace, 0, {}}};
     layout->corners = {
         {{0, 0}, false, false}, {{0, 1}, false, true}, {{1, 1}, true, true}, {{1, 0}, true, false}};
     return layout;
@@ -142,22 +129,20 @@ void Model::Deselect() {
 }
 
 void Model::AddElement(int type) {
-    static const struct {
-        const char* word;
-        Element element;
-    } kinds[] = {{"Button", {"", "", Button, {25, 25, 50, 50}, {}, {}, true, 0, 0, {}}},
-                 {"Graphic", {"", "", 2, {25, 25, 50, 50}, {}, {}, true, 0, 0, {}}},
-                 {"Volume", {"", "", Volume, {75, 25, 50, 50}, {false, true}, {}, true, 0, 0, {}}},
-                 {"Info", {"", "", Info, {100, 20, 400, 50}, {true, true}, {}, true, ButtonFace, 1, {}}}};
-    const auto& kind = kinds[type - Button];
-    Element element = kind.element;
+    static const Element kinds[] = {
+        {"Button", "", Button, {25, 25, 50, 50}, {}, {}, true, 0, 0, {}},
+        {"Graphic", "", 2, {25, 25, 50, 50}, {}, {}, true, 0, 0, {}},
+        {"Volume", "", Volume, {75, 25, 50, 50}, {false, true}, {}, true, 0, 0, {}},
+        {"Info", "", Info, {100, 20, 400, 50}, {true, true}, {}, true, ButtonFace, 1, {}}};
+    Element element = kinds[type - Button];
+    const std::string word = element.key;
+    const auto& all = current_->elements;
     const auto taken = [&](const std::string& key) {
-        return std::any_of(current_->elements.begin(), current_->elements.end(),
-                           [&](const Element& e) { return e.key == key; });
+        return std::any_of(all.begin(), all.end(), [&](const Element& e) { return e.key == key; });
     };
     int number = 1;
-    while (taken(kind.word + std::to_string(number))) ++number;
-    element.key = element.name = kind.word + std::to_string(number);
+    while (taken(word + std::to_string(number))) ++number;
+    element.key = element.name = word + std::to_string(number);
     current_->elements.push_back(element);
     dirty = true;
     Compose();
@@ -176,17 +161,11 @@ void Model::CloneElement() {
     Select(clone);
 }
 
-void Model::BringToFront() {
+void Model::Restack(bool toFront) {
     auto& all = current_->elements;
     const auto chosen = all.begin() + (Selected() - all.data());
-    std::rotate(chosen, chosen + 1, all.end());
-    Compose();
-}
-
-void Model::SendToBack() {
-    auto& all = current_->elements;
-    const auto chosen = all.begin() + (Selected() - all.data());
-    std::rotate(all.begin(), chosen, chosen + 1);
+    std::rotate(toFront ? chosen : all.begin(), toFront ? chosen + 1 : chosen,
+                toFront ? all.end() : chosen + 1);
     Compose();
 }
 
@@ -240,17 +219,12 @@ void Model::ResizeCanvas(int width, int height) {
 }
 
 Box Model::Handle(int index) const {
-    const int l = handles->left, t = handles->top, w = handles->width, h = handles->height;
-    const int midX = Round(l + w / 2.0 - 3), midY = Round(t + h / 2.0 - 3);
-    const Place places[] = {{l - HandleSize, t - HandleSize},
-                            {midX, t - HandleSize},
-                            {l + w, t - HandleSize},
-                            {l + w, midY},
-                            {l + w, t + h},
-                            {midX, t + h},
-                            {l - HandleSize, t + h},
-                            {l - HandleSize, midY}};
-    return {places[index].x, places[index].y, HandleSize, HandleSize};
+    const auto along = [](int side, int start, int extent) {
+        if (side < 0) return start - HandleSize;
+        return side > 0 ? start + extent : Round(start + extent / 2.0 - 3);
+    };
+    return {along(Sides[index].x, handles->left, handles->width),
+            along(Sides[index].y, handles->top, handles->height), HandleSize, HandleSize};
 }
 
 Place Model::CornerPlace(int index) const {
@@ -314,7 +288,7 @@ void Model::Press(Place at) {
 
 void Model::PressRight(Place at) {
     Press(at);
-    if (held_ == Held::Corner) DeleteCorner(std::stoi(selected_.substr(1)) - 1);
+    if (held_ == Held::Corner) DeleteCorner(SelectedCorner());
     held_ = Held::Nothing;
 }
 
@@ -327,7 +301,7 @@ void Model::MoveTo(Place at) {
         const Box handle = Handle(handle_);
         DragHandle(*Selected(), away(handle.left, handle.top));
     } else if (held_ == Held::Corner) {
-        const int index = std::stoi(selected_.substr(1)) - 1;
+        const int index = SelectedCorner();
         const Place corner = CornerPlace(index);
         const Place by = away(corner.x - CornerReach, corner.y - CornerReach);
         if (by.x == 0 && by.y == 0) return;
@@ -347,21 +321,15 @@ void Model::DragElement(Element& element, Place by) {
 }
 
 void Model::DragHandle(Element& element, Place by) {
-    static constexpr struct {
-        int left, top, width, height;  // how each follows the pointer
-    } rules[] = {{1, 1, -1, -1}, {0, 1, 0, -1}, {0, 1, 1, -1}, {0, 0, 1, 0},
-                 {0, 0, 1, 1},   {0, 0, 0, 1},  {1, 0, -1, 1}, {1, 0, -1, 0}};
-    const auto& rule = rules[handle_];
-    const auto follow = [&](int& value, int sign, int distance, int spacing, bool isSize) {
-        if (sign == 0) return;
-        value += sign * (snap ? Steps(distance, spacing) : distance);
-        if (snap) value = OnGrid(value, spacing);
-        if (isSize) value = std::max(0, value);
+    const auto follow = [&](int side, int distance, int spacing, int& start, int& extent) {
+        if (side == 0) return;
+        const int step = snap ? Steps(distance, spacing) : distance;
+        const auto settled = [&](int value) { return snap ? Steps(value, spacing) : value; };
+        if (side < 0) start = settled(start + step);
+        extent = std::max(0, settled(extent + side * step));
     };
-    follow(element.shown.left, rule.left, by.x, gridX, false);
-    follow(element.shown.top, rule.top, by.y, gridY, false);
-    follow(element.shown.width, rule.width, by.x, gridX, true);
-    follow(element.shown.height, rule.height, by.y, gridY, true);
+    follow(Sides[handle_].x, by.x, gridX, element.shown.left, element.shown.width);
+    follow(Sides[handle_].y, by.y, gridY, element.shown.top, element.shown.height);
     handles = element.shown;
     dirty = true;
 }
@@ -416,15 +384,11 @@ void Model::DeleteCorner(int index) {
 void Model::Key(const std::string& key, bool shift, bool ctrl) {
     if (selected_.empty()) return;
     const int step = shift || ctrl ? 10 : 1;
-    const Place by = {key == "Left"    ? -step
-                      : key == "Right" ? step
-                                       : 0,
-                      key == "Up"     ? -step
-                      : key == "Down" ? step
-                                      : 0};
+    const Place by = {(key == "Right") * step - (key == "Left") * step,
+                      (key == "Down") * step - (key == "Up") * step};
     Element* element = Selected();
     if (!element) {
-        const int index = std::stoi(selected_.substr(1)) - 1;
+        const int index = SelectedCorner();
         if (key == "Delete") return DeleteCorner(index);
         return MoveCorner(index, by);
     }

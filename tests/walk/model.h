@@ -72,8 +72,7 @@ public:
     void Release();
     void Key(const std::string& key, bool shift = false, bool ctrl = false);
     void CloneElement();
-    void BringToFront();
-    void SendToBack();
+    void Restack(bool toFront);
 
     // What must be seen.
     std::string Caption() const;
@@ -100,6 +99,7 @@ private:
     int CornerAt(Place at) const;
     Element* ElementAt(Place at);
     Element* Selected();
+    int SelectedCorner() const { return std::stoi(selected_.substr(1)) - 1; }
     void Compose();
     void WriteFields(Element& element);
     void Select(Element& element);
