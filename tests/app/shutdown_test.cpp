@@ -6,7 +6,6 @@
 #include <QTemporaryDir>
 
 #include "app/program.h"
-#include "base/failure.h"
 #include "base/files.h"
 #include "document/current_skin.h"
 #include "editor/settings_keys.h"
@@ -37,10 +36,6 @@ protected:
         program_->ToggleMagnifier();
         QCoreApplication::processEvents();
         objSkin->Dirty = true;
-    }
-    ~ShutdownTest() override {
-        UseFileLayer(nullptr);
-        program_.reset();
     }
     std::string Folder() const { return folder_.path().toStdString(); }
     bool IsSaved() const { return FileExists(Folder() + "/Skins/Blue/SkinSettings.xml"); }
@@ -103,15 +98,12 @@ TEST_F(ShutdownTest, AfterCancelThePanelIsTheLastWindowAndCanSave) {
 }
 
 TEST_F(ShutdownTest, AFailedSaveStopsTheClosing) {
-    StepLayer disk;
-    disk.before = [](int) { throw Failure(75, "", "the disk is full"); };
-    UseFileLayer(&disk);
+    const FullDisk full;
     prompts_.answers = {Answer::Yes};
     EXPECT_FALSE(Main().close());
     EXPECT_EQ(Shown(), "frm_Ornavo frm_SkinProject frm_Toolbox frm_Magnifier ");
     EXPECT_EQ(prompts_.asked.size(), 2u) << "the question, and what went wrong";
     EXPECT_TRUE(objSkin->Dirty);
-    UseFileLayer(nullptr);
 }
 
 }  // namespace

@@ -15,22 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The call of one number fails. A failing write has written half.
-class FailingLayer : public StepLayer {
-public:
-    explicit FailingLayer(int failing) : failing_(failing) {
-        before = [failing](int step) {
-            if (step == failing) throw Failure(61, "Files", "No space left on device");
-        };
-        UseFileLayer(this);
-    }
-    ~FailingLayer() override { UseFileLayer(nullptr); }
-    bool HasFailed() const { return steps >= failing_; }
-
-private:
-    int failing_;
-};
-
 /// Lets each call of the action fail in turn. Whatever happens, the target holds the new bytes when the
 /// action ends well and the old ones otherwise, and nothing else lies in the folder.
 template <class Action>
@@ -45,9 +29,9 @@ void ExpectAllOrNothing(const TemporaryFolder& folder, const fs::path& target, c
             const std::size_t entries = folder.Entries();
             bool done = false;
             {
-                const FailingLayer layer(call);
+                const FullDisk disk(call, call);
                 done = Attempt(action);
-                reached = layer.HasFailed();
+                reached = disk.steps >= call;
             }
             failures += !done;
             EXPECT_EQ(fs::exists(target), done || exists) << call;
@@ -78,7 +62,7 @@ TEST(CopyFileWhole, IsAllOrNothingAtEveryStep) {
 TEST(ReplaceFile, TellsTheUserWhatFailed) {
     const TemporaryFolder folder;
     const fs::path target = folder / "My Skin.xml";
-    const FailingLayer layer(2);
+    const FullDisk disk(2, 2);
     try {
         ReplaceFile(target, "x");
         FAIL();
@@ -163,7 +147,7 @@ TEST(Folders, AreMadeWhereTheyAreMissing) {
     EXPECT_FALSE(MakePath(""));
     EXPECT_EQ(folder.Entries(), 2u);
     {
-        const FailingLayer layer(2);
+        const FullDisk disk(2, 2);
         EXPECT_FALSE(MakePath(root + "/p/q"));
     }
     EXPECT_TRUE(FolderExists(root + "/p"));

@@ -27,7 +27,6 @@ class SkinTest : public testing::Test {
 protected:
     SkinTest() { objSkin = NewSkin("Blue"); }
     ~SkinTest() override {
-        UseFileLayer(nullptr);
         UseNumberSigns({});
         objSkin = std::make_shared<dbSkin>();
     }

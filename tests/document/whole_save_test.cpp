@@ -66,32 +66,28 @@ TEST_F(WholeSave, AFailureAtEachStep) {
         Prepare(name);
         const auto before = scratch.Files();
         const std::string modelBefore = Model();
-        StepLayer counting;
-        UseFileLayer(&counting);
-        objSkin->SaveSkin(false);
+        int steps = 0;
+        {
+            StepLayer counting;
+            objSkin->SaveSkin(false);
+            steps = counting.steps;
+        }
         const auto after = scratch.Files();
         EXPECT_EQ(Model(), name + "," + name + ",clean,old.png,new.png,same.png,new.png");
-        ASSERT_GT(counting.steps, 15);
+        ASSERT_GT(steps, 15);
         int refused = 0;
-        for (int bad = 1; bad <= counting.steps; ++bad) {
-            UseFileLayer(nullptr);
+        for (int bad = 1; bad <= steps; ++bad) {
             Prepare(name);
-            StepLayer layer;
-            bool forGood = bad % 2 == 0;  // a full disk stays full, other failures pass
-            layer.before = [&](int step) {
-                if (step == bad || (forGood && step > bad))
-                    throw Failure(61, "Disk", "No space left on device");
-            };
-            UseFileLayer(&layer);
             const std::string settings = name + "/SkinSettings.xml";
             bool failed = false;
             try {
+                // A full disk stays full, other failures pass.
+                const FullDisk disk(bad, bad % 2 == 0 ? std::numeric_limits<int>::max() : bad);
                 objSkin->SaveSkin(false);
             } catch (const Failure& failure) {
                 failed = true;
                 EXPECT_NE(failure.description().find(name), std::string::npos) << failure.description();
             }
-            UseFileLayer(nullptr);
             SCOPED_TRACE(name + ", step " + std::to_string(bad));
             const auto now = scratch.Files();
             if (failed) {
@@ -114,27 +110,27 @@ TEST_F(WholeSave, AFailureAtEachStep) {
 TEST_F(WholeSave, KilledAtEachStep) {
     Prepare("Blue");
     const auto before = scratch.Files();
-    StepLayer counting;
-    UseFileLayer(&counting);
-    objSkin->SaveSkin(false);
-    UseFileLayer(nullptr);
+    int steps = 0;
+    {
+        StepLayer counting;
+        objSkin->SaveSkin(false);
+        steps = counting.steps;
+    }
     const auto after = scratch.Files();
-    for (int last = 1; last <= counting.steps + 1; ++last) {
+    for (int last = 1; last <= steps + 1; ++last) {
         Prepare("Blue");
         const pid_t child = fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
-            StepLayer layer;
-            layer.before = [last](int step) {
+            const StepLayer layer([last](int step) {
                 if (step == last) raise(SIGKILL);
-            };
-            UseFileLayer(&layer);
+            });
             objSkin->SaveSkin(false);
             _exit(0);
         }
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_EQ(WIFSIGNALED(status), last <= counting.steps) << last;
+        EXPECT_EQ(WIFSIGNALED(status), last <= steps) << last;
         SCOPED_TRACE("killed at step " + std::to_string(last));
         ExpectWhole(before, after, true);
         ExpectReferencesTrue("Blue");

@@ -24,10 +24,7 @@ namespace {
 class PictureEditorTest : public SkinTest {
 protected:
     PictureEditorTest() { SelKey.clear(); }
-    ~PictureEditorTest() override {
-        UseFileLayer(nullptr);
-        SelKey.clear();
-    }
+    ~PictureEditorTest() override { SelKey.clear(); }
     void Open(const char* picture, const char* finalName = "a") {
         form_ = std::make_unique<frm_PictureEditor>(nullptr);
         form_->SetFinalName(finalName);
@@ -149,13 +146,10 @@ TEST_F(PictureEditorTest, SavesOrStaysOpen) {
     Click(form_->btn_Save);
     EXPECT_EQ(Notice(), "\"../c\" can't be the name of a file.");
     form_->tbx_FinalName->setText("  ");
-    StepLayer disk;
-    disk.before = [](int step) {
-        if (step > 1) throw Failure(61, "disk", "No space left on device");
-    };
-    UseFileLayer(&disk);
-    QTest::keyClick(form_->tbx_FinalName, Qt::Key_Return);
-    UseFileLayer(nullptr);
+    {
+        const FullDisk disk(2);
+        QTest::keyClick(form_->tbx_FinalName, Qt::Key_Return);
+    }
     EXPECT_TRUE(Notice().contains("No space left on device")) << Notice().toStdString();
     EXPECT_TRUE(form_->isVisible() && form_->IsCanceled());
     EXPECT_EQ(form_->EditPicture(), Path("a.png").toStdString());

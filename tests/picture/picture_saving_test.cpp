@@ -26,7 +26,6 @@ protected:
         result_.Create(3, 2);
         result_.RandomiseBits(7);
     }
-    ~SavingTest() override { UseFileLayer(nullptr); }
 
     /// Opens the picture as the skin names it and saves it.
     std::string Save(const std::string& picture, const std::string& name,
@@ -135,15 +134,14 @@ TEST_F(SavingTest, AnyStepMayFail) {
             folder_.Write("Blue/a.bmp", "source");
             folder_.Write("Blue/a.jpg", "old");
             const auto before = folder_.Files();
-            StepLayer disk;
-            disk.before = [&](int step) {
-                if (step == bad) throw Failure(61, "disk", "full");
-            };
-            UseFileLayer(&disk);
-            const bool wentWell = FailureNumber([&] { Save("a.bmp", "a", kind); }) == 0;
-            UseFileLayer(nullptr);
+            bool wentWell = false, reached = false;
+            {
+                const FullDisk disk(bad, bad);
+                wentWell = FailureNumber([&] { Save("a.bmp", "a", kind); }) == 0;
+                reached = disk.steps >= bad;
+            }
             if (!wentWell) ++failed;
-            if (disk.steps < bad) break;
+            if (!reached) break;
             const auto after = folder_.Files();
             if (!wentWell) {
                 EXPECT_EQ(after, before) << "step " << bad;

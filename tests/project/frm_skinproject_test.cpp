@@ -184,6 +184,7 @@ TEST_F(PanelTest, TheQuestionAtTheEnd) {
         std::unique_ptr<FullDisk> full;
         if (row.full) full = std::make_unique<FullDisk>();
         EXPECT_EQ(panel_->close(), row.outcome == Unload::Done);
+        full.reset();
         EXPECT_EQ(panel_->LastUnload(), row.outcome);
         EXPECT_EQ(panel_->isVisible(), row.outcome != Unload::Done);
         EXPECT_EQ(objSkin->Dirty, row.changed);

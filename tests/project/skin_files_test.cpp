@@ -12,18 +12,12 @@ namespace {
 class FilesTest : public ::testing::Test {
 protected:
     fs::path Root() const { return fs::canonical(folder_.place()); }
-    static void Write(const fs::path& path, const char* bytes) {
-        fs::create_directories(path.parent_path());
-        std::ofstream(path) << bytes;
-    }
-
-private:
     TemporaryFolder folder_;
 };
 
 TEST_F(FilesTest, WhereASkinLies) {
     const std::string root = Root().string();
-    Write(Root() / "Party" / "SkinSettings.xml", "");
+    folder_.Write("Party/SkinSettings.xml", "");
     const struct {
         std::string text, base, name;
     } rows[] = {
@@ -43,9 +37,9 @@ TEST_F(FilesTest, WhereASkinLies) {
 }
 
 TEST_F(FilesTest, ASkinIsOpened) {
-    Write(Root() / "Party" / "SkinSettings.xml",
-          "<Skin>\n<SkinWidth>640</SkinWidth>\n<Layouts>\n<Layout>\n<Key>A</Key>\n</Layout>\n"
-          "</Layouts>\n</Skin>\n");
+    folder_.Write("Party/SkinSettings.xml",
+                  "<Skin>\n<SkinWidth>640</SkinWidth>\n<Layouts>\n<Layout>\n<Key>A</Key>\n</Layout>\n"
+                  "</Layouts>\n</Skin>\n");
     ScriptedPrompts prompts;
     SkinFiles files("/own", (Root() / "data").string());
     EXPECT_FALSE(files.AskForSkin().has_value()) << "Cancel";
@@ -73,7 +67,7 @@ TEST_F(FilesTest, AForeignFolderIsAskedAbout) {
     SkinFiles files(Root().string(), (Root() / "data").string());
     const std::string bytes = "<Skin>\n<SkinName>Original</SkinName>\n</Skin>\n";
     for (const char* name : {"Original", "Copy", "Third"})
-        Write(Root() / "Skins" / name / "SkinSettings.xml", bytes.c_str());
+        folder_.Write("Skins/" + std::string(name) + "/SkinSettings.xml", bytes);
     const auto text = [&](const char* name) {
         return fileLayer().Read(Root() / "Skins" / name / "SkinSettings.xml");
     };
@@ -107,7 +101,7 @@ TEST_F(FilesTest, AFailedSaveIsToldAndLosesNothing) {
     files.Create("New", 800, 600);
     objSkin->Dirty = true;
     {
-        const FullDisk full;
+        const FullDisk full(5);  // the folders can still be made
         EXPECT_EQ(files.Save(), SkinFiles::Saved::Failed);
     }
     ASSERT_EQ(prompts.asked.size(), 1u);
@@ -148,7 +142,7 @@ TEST_F(FilesTest, DroppedChangesAreRecoverable) {
     ASSERT_TRUE(fs::exists(last));
     EXPECT_NE(fileLayer().Read(last).find("<SkinWidth>1011</SkinWidth>"), std::string::npos);
     EXPECT_TRUE(prompts.asked.empty()) << "silently";
-    Write(Root() / "blocked", "");
+    folder_.Write("blocked", "");
     SkinFiles(Root().string(), (Root() / "blocked").string()).KeepDropped();
     EXPECT_TRUE(prompts.asked.empty());
 }
@@ -163,9 +157,9 @@ TEST_F(FilesTest, TheOwnFolder) {
 }
 
 TEST_F(FilesTest, SamplesComeOnce) {
-    Write(Root() / "skins" / "Blue" / "SkinSettings.xml", "x");
-    Write(Root() / "skins" / "Blue" / "back.jpg", "y");
-    Write(Root() / "skins" / "art" / "draw.py", "no skin");
+    folder_.Write("skins/Blue/SkinSettings.xml", "x");
+    folder_.Write("skins/Blue/back.jpg", "y");
+    folder_.Write("skins/art/draw.py", "no skin");
     fs::create_directories(Root() / "build");
     EXPECT_EQ(SampleFolder(Root() / "build"), Root() / "skins");
     EXPECT_EQ(SampleFolder(Root() / "data" / "bin"), fs::path());
@@ -176,7 +170,7 @@ TEST_F(FilesTest, SamplesComeOnce) {
     fs::remove_all(own / "Skins" / "Blue");
     BringSamples(Root() / "skins", own);
     EXPECT_FALSE(fs::exists(own / "Skins" / "Blue")) << "a skin that was deleted stays so";
-    Write(Root() / "blocked", "");
+    folder_.Write("blocked", "");
     EXPECT_THROW(BringSamples(Root() / "skins", Root() / "blocked"), Failure);
 }
 

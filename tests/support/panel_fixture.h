@@ -11,13 +11,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "base/failure.h"
 #include "base/files.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "project/frm_skinproject.h"
 #include "project/layout_copy.h"
 #include "support/scripted_prompts.h"
+#include "support/step_layer.h"
 
 namespace ornavo::testing {
 
@@ -45,16 +45,6 @@ public:
     std::string loaded;
     int toolboxes = 0, previews = 0;
     Control* sheetOf = nullptr;
-};
-
-/// Every rename fails, and so does every save.
-class FullDisk : public FileLayer {
-public:
-    FullDisk() { UseFileLayer(this); }
-    ~FullDisk() override { UseFileLayer(nullptr); }
-    void Rename(const fs::path&, const fs::path&) override {
-        throw Failure(61, "Files", "No space left on device");
-    }
 };
 
 class PanelTest : public ::testing::Test {

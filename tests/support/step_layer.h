@@ -4,16 +4,21 @@
 
 #include <filesystem>
 #include <functional>
+#include <limits>
 #include <string_view>
 
+#include "base/failure.h"
 #include "base/files.h"
 
 namespace ornavo {
 
-/// Counts the steps towards the disk and lets one of them go wrong.
+/// Counts the steps towards the disk, as long as it lives.
 class StepLayer : public FileLayer {
 public:
-    std::function<void(int step)> before = [](int) {};
+    explicit StepLayer(std::function<void(int step)> before = [](int) {}) : before_(std::move(before)) {
+        UseFileLayer(this);
+    }
+    ~StepLayer() override { UseFileLayer(nullptr); }
     int steps = 0;
 
     int Create(const std::filesystem::path& path) override { return Step(), FileLayer::Create(path); }
@@ -37,7 +42,17 @@ public:
     }
 
 private:
-    void Step() { before(++steps); }
+    void Step() { before_(++steps); }
+    std::function<void(int)> before_;
+};
+
+/// Takes nothing from one step to another, all that come after the first if the last is not given.
+class FullDisk : public StepLayer {
+public:
+    explicit FullDisk(int first = 1, int last = std::numeric_limits<int>::max())
+        : StepLayer([first, last](int step) {
+              if (step >= first && step <= last) throw Failure(61, "Disk", "No space left on device");
+          }) {}
 };
 
 }  // namespace ornavo
