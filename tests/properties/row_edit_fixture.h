@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QClipboard>
+#include <chrono>
 #include <map>
 #include <set>
 
@@ -63,6 +64,9 @@ protected:
         Picture("new.bmp", Qt::darkRed, 40, 30);
         AddOneOfEach();
         panel_ = std::make_unique<frm_Properties>(form_.get(), windows_, *form_);
+        EXPECT_EQ(timer().interval(), 100);
+        timer().setInterval(
+            std::chrono::hours(1));  // it fires when the test says so, however slow the machine
         windows_.real = panel_.get();
         Compose();
         objSkin->SaveSkin(false);
