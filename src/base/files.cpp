@@ -322,6 +322,11 @@ bool FileExists(std::string_view path) {
     return TypeOf(OnDisk(path)) == fs::file_type::regular;
 }
 
+bool NothingStandsAt(std::string_view path) {
+    std::error_code ignored;
+    return fs::symlink_status(OnDisk(path), ignored).type() == fs::file_type::not_found;
+}
+
 std::string ReadFile(std::string_view path) {
     const fs::path place = OnDisk(path);
     return Named(place, "read", [&] { return fileLayer().Read(place); });

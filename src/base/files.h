@@ -34,6 +34,9 @@ void UseFileLayer(FileLayer* layer);  // null: the real disk again
 
 bool FileExists(std::string_view path);  // a regular file, found as OnDisk finds; never fails
 bool FolderExists(std::string_view path);
+/// Whether the place is free: not even a link that leads nowhere stands there. False where the system won't
+/// tell.
+bool NothingStandsAt(std::string_view path);
 std::string ReadFile(std::string_view path);  // plain files only; found as OnDisk finds
 /// The file has these bytes when the call returns, and the ones it had before when it throws.
 /// Written beside it, flushed, renamed; leaves no scratch file. The permission bits of an old file stay, a

@@ -21,8 +21,8 @@ bool ReadWhole(std::string_view text, int& number) {
 /// The skin's folder with a separator at its end, whichever way it was named.
 std::string FolderOf(const std::string& skin) {
     std::string path = ToText(std::filesystem::absolute(OnDisk(skin)).lexically_normal());
-    return EqualText(GetFileName(path), SettingsFile) && FileExists(path) ? GetParentFolderName(path)
-                                                                          : WithSeparator(path);
+    return EqualText(GetFileName(path), SettingsFile) && !FolderExists(path) ? GetParentFolderName(path)
+                                                                             : WithSeparator(path);
 }
 
 }  // namespace
@@ -40,13 +40,12 @@ std::string Arguments::Need(const std::string& name) const {
 void OpenNamedSkin(const Arguments& arguments, bool upgraded) {
     if (arguments.skin.empty()) throw UsageError("name one skin");
     const std::string folder = FolderOf(arguments.skin);
-    if (!FileExists(folder + SettingsFile)) throw Failure(53, "Skin", folder + SettingsFile + " not found!");
     const std::string bare = folder.substr(0, folder.size() - 1);
     objSkin = std::make_shared<dbSkin>();
     objCurrentLayout = std::make_shared<dbLayout>();
     objSkin->SetBasePath(GetParentFolderName(bare));
     objSkin->SkinName = GetFileName(bare);
-    objSkin->LoadSkin();
+    if (!objSkin->LoadSkin().found) throw Failure(53, "Skin", folder + SettingsFile + " not found!");
     if (upgraded) objSkin->SetupSkinPrefs();
 }
 

@@ -14,6 +14,11 @@ namespace ornavo {
 
 inline constexpr std::string_view SettingsFileName = "SkinSettings.xml";
 
+/// What reading a skin's file came to.
+struct LoadReport {
+    bool found = false;  // there is a file
+};
+
 class dbSkin {
 public:
     dbSkin();  // the whole catalogue with its defaults, no layout
@@ -37,10 +42,11 @@ public:
     static std::string GetLayoutKey(std::string_view name);
 
     /// Fills the skin from its file, by BasePath and SkinName. A file that is not there changes nothing but
-    /// OldSkinName; what can't be read is skipped. SkinName is afterwards a plain folder name.
-    void LoadSkin();
-    /// Gathers the pictures into the skin's folder and writes the file, whole or not at all. Failure when
-    /// it can't; the model is then as it was.
+    /// OldSkinName; a line that says nothing is skipped. SkinName is afterwards a plain folder name. Failure
+    /// where a file is that can't be read whole; the skin is then as it was.
+    LoadReport LoadSkin();
+    /// Gathers the pictures into the skin's folder and writes the file, whole or not at all; a link in its
+    /// place is replaced itself. Failure when it can't; the model is then as it was.
     void SaveSkin(bool keepExisting);
     /// The bytes of the settings file as the skin stands now, pictures where they are.
     std::string FileBytes() const;

@@ -255,16 +255,16 @@ void Loader::CloseFont() {
 
 }  // namespace
 
-void dbSkin::LoadSkin() {
-    OldSkinName = SkinName;
+LoadReport dbSkin::LoadSkin() {
     const std::string file = SkinFile();
-    Attempt([&] {
-        if (!FileExists(file)) throw Failure(513, "LoadSkin", file + " not found!");
-        Loader(*this).Load(ReadFile(file));
-    });
-    if (SkinName == OldSkinName) return;
-    SkinName = CleanFileName(SkinName);
+    LoadReport report;
+    report.found = !NothingStandsAt(file);
+    const std::string bytes = report.found ? ReadFile(file) : "";
+    OldSkinName = SkinName;
+    Loader(*this).Load(bytes);
+    if (SkinName != OldSkinName) SkinName = CleanFileName(SkinName);
     if (!IsPlainName(SkinName)) SkinName = OldSkinName;
+    return report;
 }
 
 }  // namespace ornavo

@@ -220,7 +220,7 @@ void dbSkin::SaveSkin(bool keepExisting) {
     if (!CreateFolderOnce(folder) && !MakePath(folder))
         throw Failure(75, "SaveSkin", "The folder \"" + folder + "\" could not be made");
     PackagePictures(*this, keepExisting, probation);
-    ReplaceFile(OnDisk(SkinFile()), FileBytes());
+    ReplaceFileItself(OnDisk(SkinFile()), FileBytes());
     OldSkinName = SkinName;
     Dirty = false;
     probation.Keep();

@@ -150,8 +150,7 @@ void frm_SkinProject::ShowCurrentLayout() {
 }
 
 void frm_SkinProject::LoadDebug(const SkinPlace& place) {
-    canvas_.HideSelectionTools();
-    files_.Open(place);
+    files_.Open(place, [this] { canvas_.HideSelectionTools(); });
     ShowReplacedSkin();
 }
 
@@ -167,7 +166,13 @@ void frm_SkinProject::tbx_SkinName_LostFocus() {
 }
 
 void frm_SkinProject::btn_OpenSkin_Click() {
-    if (const std::optional<SkinPlace> place = files_.AskForSkin()) LoadDebug(*place);
+    const std::optional<SkinPlace> place = files_.AskForSkin();
+    if (!place) return;
+    try {
+        LoadDebug(*place);
+    } catch (const Failure& failure) {
+        prompts().Message(failure.description(), "Loading Skin Error", Icon::Critical, Buttons::Ok);
+    }
 }
 
 void frm_SkinProject::btn_CreateNewSkin_Click() {

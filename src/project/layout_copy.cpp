@@ -39,9 +39,21 @@ dbLayoutRef AddCopy(dbSkin& skin, std::string_view name, const dbLayout& source)
     return copy;
 }
 
-void ReadAgain() {
-    objSkin->LoadSkin();
-    objSkin->SetupSkinPrefs();
+constexpr const char* InsertTitle = "Insert Layout to Skin";
+
+/// False where the file can't be read, which is told.
+bool Read(dbSkin& skin, const char* title) {
+    try {
+        if (skin.LoadSkin().found) return true;
+        throw Failure(53, title, skin.SkinFile() + " not found!");
+    } catch (const Failure& failure) {
+        prompts().Message(failure.description(), title, Icon::Critical, Buttons::Ok);
+        return false;
+    }
+}
+
+void ReadAgain(const char* title) {
+    if (Read(*objSkin, title)) objSkin->SetupSkinPrefs();
 }
 
 }  // namespace
@@ -67,7 +79,7 @@ std::string CloneLayout(std::string_view key, SkinFiles& files) {
         objSkin->dbLayouts->Remove(copyKey);
         return "";
     }
-    ReadAgain();
+    ReadAgain("Clone Layout");
     return copyKey;
 }
 
@@ -83,16 +95,10 @@ bool InsertLayoutToSkin(std::string_view key, SkinFiles& files) {
     const std::filesystem::path home = OnDisk(target.SkinFolder());
     const bool same = EqualText(target.SkinName, objSkin->SkinName);
     if (same && files.Save() != SkinFiles::Saved::Yes) return false;
-    try {
-        ReadFile(target.SkinFile());  // what can't be read must not be replaced
-    } catch (const Failure& failure) {
-        prompts().Message(failure.description(), "Insert Layout to Skin", Icon::Critical, Buttons::Ok);
-        return same;
-    }
-    target.LoadSkin();
+    if (!Read(target, InsertTitle)) return same;  // what can't be read must not be replaced
     AddCopy(target, GetFreeClonedText(target, answer), *source);
     files.SaveInto(target, home);
-    if (same) ReadAgain();
+    if (same) ReadAgain(InsertTitle);
     return same;
 }
 

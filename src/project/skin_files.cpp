@@ -75,14 +75,16 @@ void SkinFiles::Replace(dbSkinRef skin) {
     objCurrentLayout = std::make_shared<dbLayout>();
 }
 
-void SkinFiles::Open(const SkinPlace& place) {
+void SkinFiles::Open(const SkinPlace& place, const std::function<void()>& beforeIt) {
     auto skin = std::make_shared<dbSkin>();
     skin->SetBasePath(place.basePath);
     skin->SkinName = place.skinName;
-    home_ = FolderOf(*skin);
+    const fs::path home = FolderOf(*skin);
+    skin->LoadSkin();
+    skin->SetupSkinPrefs();
+    beforeIt();
     Replace(std::move(skin));
-    objSkin->LoadSkin();
-    objSkin->SetupSkinPrefs();
+    home_ = home;
 }
 
 void SkinFiles::Create(std::string_view name, std::int32_t width, std::int32_t height) {
@@ -99,7 +101,7 @@ void SkinFiles::Create(std::string_view name, std::int32_t width, std::int32_t h
 SkinFiles::Saved SkinFiles::SaveTo(dbSkin& skin, const fs::path& home, bool keepExisting) const {
     const fs::path folder = FolderOf(skin);
     const std::string file = ToText(folder / SettingsFileName);
-    if (folder != home && FileExists(file)) {
+    if (folder != home && !NothingStandsAt(file)) {
         const std::string question = "There is a skin in\n" + ToText(folder) + "\nalready. Replace it?";
         if (prompts().Message(question, SaveTitle, Icon::Question, Buttons::YesNo) != Answer::Yes)
             return Saved::No;

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <sys/stat.h>
+
 #include "document/fields.h"
 #include "document/skin_lines.h"
 #include "support.h"
@@ -113,6 +115,37 @@ TEST_F(LoadSave, AMissingFileChangesNothing) {
     EXPECT_EQ(objSkin->SkinWidth, 5);
     EXPECT_EQ(objSkin->dbLayouts->Count(), 1);
     EXPECT_EQ(objSkin->OldSkinName, "Blue");
+}
+
+TEST_F(LoadSave, AFileThatCannotBeReadReachesTheCaller) {
+    const fs::path file = folder / "Blue/SkinSettings.xml";
+    const auto fails = [] { return FailureNumber([] { objSkin->LoadSkin(); }) != 0; };
+    Put(file, "<Skin>\n<SkinWidth>5</SkinWidth>\n</Skin>\n");
+    for (const int step : {1, 2, 3}) {
+        const FullDisk disk(step, step);
+        EXPECT_TRUE(fails()) << "opened, read, and read to its end: step " << step;
+    }
+    fs::remove(file);
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    EXPECT_TRUE(fails());
+    for (const char* where : {"/dev/null", "nowhere", "SkinSettings.xml"}) {
+        fs::remove(file);
+        fs::create_symlink(where, file);
+        EXPECT_TRUE(fails()) << "a link to " << where;
+    }
+    EXPECT_EQ(objSkin->SkinWidth, 0) << "the skin is as it was";
+}
+
+TEST_F(LoadSave, ALinkIsReadAndReplaced) {
+    const std::string text = "<Skin>\n<SkinWidth>5</SkinWidth>\n</Skin>\n";
+    Put(folder / "Elsewhere.xml", text);
+    fs::create_directories(folder / "Blue");
+    fs::create_symlink("../Elsewhere.xml", folder / "Blue/SkinSettings.xml");
+    objSkin->LoadSkin();
+    EXPECT_EQ(objSkin->SkinWidth, 5);
+    objSkin->SaveSkin(false);
+    EXPECT_EQ(BytesOf(folder / "Elsewhere.xml"), text);
+    EXPECT_EQ(scratch.Files("Blue").size(), 1u) << "a file of its own";
 }
 
 TEST_F(LoadSave, TheSettingsFileIsFoundInAnyCase) {

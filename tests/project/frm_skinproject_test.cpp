@@ -33,6 +33,21 @@ TEST_F(PanelTest, OpeningByTheDialog) {
     ExpectShown("Standard");
 }
 
+TEST_F(PanelTest, ASkinThatCannotBeReadLeavesTheOpenOne) {
+    OpenBlue();
+    MakeSkin("Red", {"Standard"});
+    prompts_.files = {Settings("Red").string()};
+    const dbSkinRef open = objSkin;
+    {
+        const FullDisk disk;
+        Click(panel_->btn_OpenSkin);
+    }
+    EXPECT_EQ(objSkin, open);
+    ASSERT_EQ(prompts_.asked.size(), 1u);
+    EXPECT_EQ(prompts_.asked[0], "Loading Skin Error: The file \"" + Settings("Red").string() +
+                                     "\" could not be read: No space left on device");
+}
+
 TEST_F(PanelTest, ChoosingByMouseAndKeys) {
     OpenBlue();
     ClickItem(1);
