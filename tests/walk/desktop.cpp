@@ -49,17 +49,25 @@ Desktop::Desktop(int limit) : limit_(limit * 1000LL) {
     environment_.insert("QT_QPA_PLATFORM", "xcb");
     environment_.insert("LC_ALL", "C.UTF-8");
     StartScreen();
-    Start(manager_, "openbox", {}, environment_);
-    WaitFor("a window manager", [&] {
-        return Tool("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
-    });
+    StartManager();
     ParkPointer();
 }
 
 Desktop::~Desktop() {
     Stop(program_);
     Stop(manager_);
+    Stop(bus_);
     Stop(screen_);
+}
+
+QByteArray Desktop::FirstLine(QProcess& process, const std::string& what) {
+    QByteArray line;
+    WaitFor(what, [&] {
+        process.waitForReadyRead(Interval);
+        line += process.readAllStandardOutput();
+        return line.endsWith('\n');
+    });
+    return line.trimmed();
 }
 
 void Desktop::StartScreen() {
@@ -67,14 +75,24 @@ void Desktop::StartScreen() {
     Start(screen_, "Xvfb",
           {"-displayfd", "1", "-screen", "0", size, "-noreset", "-nolisten", "tcp", "-fbdir", home_.path()},
           environment_);
-    QByteArray display;
-    WaitFor("a screen", [&] {
-        screen_.waitForReadyRead(Interval);
-        display += screen_.readAllStandardOutput();
-        return display.endsWith('\n');
-    });
-    environment_.insert("DISPLAY", ':' + display.trimmed());
+    environment_.insert("DISPLAY", ':' + FirstLine(screen_, "a screen"));
     MapScreen();
+}
+
+/// openbox, or what the environment names. xfwm4 asks a session's bus for its settings; without the shadows of
+/// its compositor the screen has the windows' own pixels.
+void Desktop::StartManager() {
+    const QString manager = environment_.value("ORNAVO_WALK_MANAGER", "openbox");
+    QStringList arguments;
+    if (manager == "xfwm4") {
+        Start(bus_, "dbus-daemon", {"--session", "--nofork", "--print-address"}, environment_);
+        environment_.insert("DBUS_SESSION_BUS_ADDRESS", FirstLine(bus_, "a session's bus"));
+        arguments = {"--compositor=off"};
+    }
+    Start(manager_, manager, arguments, environment_);
+    WaitFor("a window manager", [&] {
+        return Tool("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
+    });
 }
 
 /// The screen's pixels lie in a file in the X window dump format: a header of big-endian numbers, colours,

@@ -71,6 +71,8 @@ public:
 private:
     void StartScreen();
     void MapScreen();
+    void StartManager();
+    QByteArray FirstLine(QProcess& process, const std::string& what);
     QString Tool(const QString& program, const QStringList& arguments);
     void XDo(const QStringList& arguments) { Tool("xdotool", arguments); }
 
@@ -78,7 +80,7 @@ private:
     qint64 limit_;  // milliseconds
     QTemporaryDir home_;
     QProcessEnvironment environment_;
-    QProcess screen_, manager_, program_;
+    QProcess screen_, bus_, manager_, program_;
     QFile frame_;
     const uchar* pixels_ = nullptr;
     int bytesPerLine_ = 0;
