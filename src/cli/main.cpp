@@ -17,8 +17,10 @@ constexpr const char* Usage =
     "SKIN is a skin's folder or the SkinSettings.xml in it.\n\n"
     "  dump SKIN [--raw]                     the skin as JSON; --raw without the preferences that its file "
     "lacks\n"
-    "  save SKIN [--as NAME] [--keep-existing]\n"
-    "                                        write the skin, also under another name beside it\n"
+    "  save SKIN [--as NAME] [--keep-existing] [--replace]\n"
+    "                                        write the skin, also under another name beside it, and tell its "
+    "file;\n"
+    "                                        --replace also where another skin lies\n"
     "  place SKIN --layout KEY [--size WxH]  where elements and points stand, as JSON\n"
     "  render SKIN --layout KEY --out FILE.png [--size WxH] [--view preview|canvas] [--edge soft|hard]\n"
     "         [--time HH:MM:SS]              a picture of the layout, its clocks at that time\n"
@@ -38,7 +40,7 @@ struct Command {
 
 const Command Commands[] = {
     {"dump", {"raw!"}, Dump},
-    {"save", {"as", "keep-existing!"}, Save},
+    {"save", {"as", "keep-existing!", "replace!"}, Save},
     {"place", {"layout", "size"}, Place},
     {"render", {"layout", "out", "size", "view", "edge", "time"}, Render},
     {"recolour", {"hue", "saturation"}, Recolour, true},

@@ -110,6 +110,28 @@ TEST_F(ToolTest, SaveWritesBackAndUnderAnotherName) {
         EXPECT_EQ(RunTool({"save", skin_, "--as", bad}).code, 2) << bad;
 }
 
+TEST_F(ToolTest, SaveTakesNoOtherSkinsPlaceUnasked) {
+    const QString copy = folder_.filePath("Copy"), red = folder_.filePath("Red"), file = "/skinSETTINGS.xml";
+    for (const QString& folder : {copy, red}) {
+        QDir(folder_.path()).mkdir(folder);
+        QFile text(folder + file);
+        ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+        text.write("<Skin>\n<SkinName>Red</SkinName>\n</Skin>\n");
+    }
+    const QByteArray before = Bytes(red + file);
+    for (const QStringList& words : {QStringList{"save", copy}, {"save", skin_, "--as", "Red"}}) {
+        const Outcome refused = RunTool(words);
+        EXPECT_EQ(refused.code, 1) << words.join(' ').toStdString();
+        EXPECT_TRUE(refused.err.contains((red + file).toUtf8())) << refused.err.constData();
+        EXPECT_EQ(Bytes(red + file), before);
+    }
+    const Outcome asked = RunTool({"save", copy, "--replace"});
+    EXPECT_EQ(asked.code, 0) << asked.err.constData();
+    EXPECT_EQ(asked.out, (red + file + '\n').toUtf8());
+    EXPECT_NE(Bytes(red + file), before);
+    EXPECT_EQ(RunTool({"save", red}).code, 0) << "the folder that was opened";
+}
+
 TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
     const QString out = folder_.filePath("out.png");
     ASSERT_EQ(RunTool({"render", skin_, "--layout", "Standard", "--out", out, "--edge", "hard"}).code, 0);
