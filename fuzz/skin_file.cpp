@@ -113,9 +113,9 @@ void CompareRoads(std::string_view bytes) {
     }
 }
 
-/// One value may settle further over a reload, and with "," as the decimal sign more than once: the text
-/// "0,5" comes back as the number 0.5, whose text "0.5" has a group sign there and comes back as 5.
-constexpr int SettlingRounds = 4;
+/// A fraction that rounds up to 1 is saved as "+7." and comes back as the floor; from then on nothing
+/// changes.
+constexpr int SettlingRounds = 1;
 
 void RoundTrip(const fs::path& base, std::string_view bytes) {
     fs::create_directory(base / "Fuzz");

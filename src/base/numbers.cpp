@@ -230,7 +230,8 @@ std::string NumberText(double value, std::string_view decimal) {
     if (written[e + 1] == '-') power = -power;
 
     std::string text = value < 0 ? "-" : "";
-    if (power < -4 || power >= 15) {
+    const int places = static_cast<int>(digits.size()) - 1 - power;
+    if ((power < -4 && places > 15) || power >= 15) {
         text += digits[0];
         if (digits.size() > 1) text.append(decimal).append(digits, 1);
         const std::string tens = std::to_string(std::abs(power));

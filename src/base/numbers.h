@@ -35,9 +35,9 @@ double ToNumber(std::string_view text, const NumberSigns& signs);
 /// none. Failure 6 if it is too large.
 double Val(std::string_view text);
 
-/// The plain text of a number: up to 15 digits, no group signs, "1E-05" below 0.0001 and "1E+15" from there
-/// on, with the decimal sign given.
-std::string NumberText(double value, std::string_view decimal = ".");
+/// The plain text of a number: up to 15 digits, no group signs, with the decimal sign given. "1E+15" from
+/// there on, and "1E-16" below 0.0001 for what 15 decimal places don't hold.
+std::string NumberText(double value, std::string_view decimal = numberSigns().decimal);
 std::string NumberText(std::int32_t value);
 
 }  // namespace ornavo

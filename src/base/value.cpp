@@ -13,10 +13,11 @@ Failure Mismatch() {
     return Failure(13, "Value", "Type mismatch");
 }
 
-/// Whatever signs the user has, a value is converted with the English ones.
-double EnglishNumber(const std::string& text) {
+/// The user's signs come first, since the text may be that of a number; a file from elsewhere has the English
+/// ones.
+double NumberOf(const std::string& text) {
     static const NumberSigns english;
-    return ToNumber(text, english);
+    return IsNumeric(text) ? ToNumber(text) : ToNumber(text, english);
 }
 
 }  // namespace
@@ -39,7 +40,7 @@ double Value::ToDouble() const {
     if (Is<bool>()) return As<bool>() ? -1 : 0;
     if (Is<std::int32_t>()) return As<std::int32_t>();
     if (Is<double>()) return As<double>();
-    if (Is<std::string>()) return EnglishNumber(As<std::string>());
+    if (Is<std::string>()) return NumberOf(As<std::string>());
     throw Mismatch();
 }
 

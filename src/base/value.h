@@ -12,7 +12,8 @@ namespace ornavo {
 
 /// Empty, a boolean, a whole number, a real number, a text or a font. The conversions follow the usual
 /// rules: True is -1, empty is 0 or "", a real becomes whole half to even, a text that is a number becomes
-/// it (English signs), a number becomes its plain text. Failure 13 where there is none, 6 on overflow.
+/// it (the user's signs, else the English ones), a number becomes its plain text. Failure 13 where there is
+/// none, 6 on overflow.
 class Value {
 public:
     Value() = default;

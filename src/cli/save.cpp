@@ -15,7 +15,7 @@ void RefuseOtherSkin() {
     const std::string opened = objSkin->BasePath() + objSkin->OldSkinName;
     const std::string file = objSkin->SkinFile();
     std::error_code ignored;
-    if (FileExists(file) &&
+    if (!NothingStandsAt(file) &&
         !std::filesystem::equivalent(OnDisk(opened), OnDisk(objSkin->SkinFolder()), ignored))
         throw Failure(58, "Save", ToText(OnDisk(file)) + " is there already; --replace takes its place.");
 }

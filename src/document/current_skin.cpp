@@ -20,9 +20,10 @@ std::string GetSkinPicturePath(std::string_view name) {
 std::filesystem::path FindSkinPicture(std::string_view name) {
     if (TrimBlanks(name).empty()) return {};
     const std::string file = GetFileName(name);
-    std::vector<std::string> places = {GetSkinPicturePath(name), objSkin->SkinFolder() + file};
+    std::vector<std::string> places = {GetSkinPicturePath(name)};
     if (!objSkin->OldSkinName.empty())
         places.push_back(WithSeparator(objSkin->BasePath() + objSkin->OldSkinName) + file);
+    places.push_back(objSkin->SkinFolder() + file);
     for (const std::string& place : places)
         if (FileExists(place)) return OnDisk(place);
     return {};

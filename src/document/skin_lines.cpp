@@ -66,7 +66,7 @@ bool AppendFraction(std::string& bytes, double value) {
     AppendWhole(bytes, whole);
     bytes += '.';
     // Behind "0."; a fraction that was rounded up to 1 has nothing there, and reads back as the floor.
-    const std::string text = NumberText(fraction);
+    const std::string text = NumberText(fraction, ".");
     if (text.size() > 2) bytes.append(text, 2);
     return true;
 }
@@ -99,6 +99,12 @@ Value ReadValue(std::string_view bytes) {
     return Value(std::move(text));
 }
 
+std::string ReadBack(const std::string& text) {
+    std::string bytes;
+    Attempt([&] { AppendValue(bytes, text); });
+    return ReadValue(bytes).ToText();
+}
+
 bool IsMyNumeric(std::string_view value) {
     return value.starts_with('+') && value.find('.') != None;
 }
@@ -121,7 +127,7 @@ std::string GetNumericValue(const Value& value) {
     const double number = value.Is<std::string>() ? ToNumber(value.As<std::string>()) : value.ToDouble();
     std::string text;
     if (AppendFraction(text, number)) return text;
-    return value.Is<double>() ? NumberText(number, numberSigns().decimal) : value.ToText();
+    return value.Is<double>() ? NumberText(number) : value.ToText();
 }
 
 std::string WriteXML(std::string_view tag, const Value& value) {
@@ -145,7 +151,7 @@ bool AppendValue(std::string& bytes, double value) {
     if (FloorToLong(value) == value)
         AppendWhole(bytes, static_cast<std::int32_t>(value));
     else if (!AppendFraction(bytes, value))
-        bytes += ToFileBytes(NumberText(value, numberSigns().decimal));
+        bytes += ToFileBytes(NumberText(value));
     return true;
 }
 

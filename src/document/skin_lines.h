@@ -25,6 +25,9 @@ TagLine GetTag(std::string_view line);
 /// The value that the bytes between two tags stand for: a boolean, a real number or a text. Numbers
 /// without "+" and "." are read with the signs of the user's system.
 Value ReadValue(std::string_view bytes);
+/// The text that a field has once the text was written and read: where it looks like a number or a boolean,
+/// the plain text of that. "" where it has no line.
+std::string ReadBack(const std::string& text);
 /// Whether the text has the form that no system's signs change: "+" first and a "." in it.
 bool IsMyNumeric(std::string_view value);
 /// The number of such a text; a part of it that is no number counts as 0. Never fails.

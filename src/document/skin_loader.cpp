@@ -253,6 +253,12 @@ void Loader::CloseFont() {
     Close();
 }
 
+/// Whether a file in the folder that has this name for the skin names the folder itself: a folder's name that
+/// looks like a number is read as that number's text.
+bool NamesFolder(const std::string& name, const std::string& folder) {
+    return name == ReadValue(ToFileBytes(folder)).ToText() || name == ReadBack(folder);
+}
+
 }  // namespace
 
 LoadReport dbSkin::LoadSkin() {
@@ -263,7 +269,7 @@ LoadReport dbSkin::LoadSkin() {
     OldSkinName = SkinName;
     Loader(*this).Load(bytes);
     if (SkinName != OldSkinName) SkinName = CleanFileName(SkinName);
-    if (!IsPlainName(SkinName)) SkinName = OldSkinName;
+    if (!IsPlainName(SkinName) || NamesFolder(SkinName, OldSkinName)) SkinName = OldSkinName;
     return report;
 }
 

@@ -9,6 +9,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "document/current_skin.h"
+#include "document/skin_lines.h"
 
 namespace ornavo {
 
@@ -46,21 +47,27 @@ bool IsTaken(const fs::path& path) {
     return fs::exists(fs::symlink_status(path, ignored));
 }
 
-/// The name under which the picture is stored: its own, or a substitute that no other picture has.
+/// The name under which the picture is stored: its own, or a substitute that no other picture has. One that
+/// the file would give back as a number is none.
 std::string StoredName(const std::string& folder, const std::string& name, const fs::path& source) {
-    if (CanBeNamed(name)) return name;
+    if (CanBeNamed(name) && ReadBack(name) == name) return name;
     for (int number = 1;; ++number) {
         std::string candidate = Substitute(name, number);
+        if (ReadBack(candidate) != candidate) candidate.insert(0, "_");
         const fs::path target = OnDisk(folder + candidate);
         if (!IsTaken(target) || SameBytes(target, source)) return candidate;
     }
 }
 
+/// Where the path leads; otherwise the file of that name in the folder that the saved skin had before, and
+/// only then in those of the current skin.
 fs::path FindSource(const dbSkin& skin, std::string_view path) {
-    fs::path source = FindSkinPicture(path);
-    if (!source.empty() || skin.OldSkinName.empty()) return source;
-    const std::string old = WithSeparator(skin.BasePath() + skin.OldSkinName) + GetFileName(path);
-    return FileExists(old) ? OnDisk(old) : fs::path();
+    std::vector<std::string> places = {GetSkinPicturePath(path)};
+    if (!skin.OldSkinName.empty())
+        places.push_back(WithSeparator(skin.BasePath() + skin.OldSkinName) + GetFileName(path));
+    for (const std::string& place : places)
+        if (FileExists(place)) return OnDisk(place);
+    return FindSkinPicture(path);
 }
 
 }  // namespace

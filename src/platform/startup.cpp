@@ -8,6 +8,7 @@
 #include <array>
 
 #include "base/numbers.h"
+#include "base/text.h"
 #include "platform/fonts.h"
 
 namespace ornavo {
@@ -53,9 +54,11 @@ QPalette LightPalette() {
     return palette;
 }
 
+/// A decimal sign that a skin's file can't hold would be lost with the number: the English signs stand in.
 void UseTheirNumberSigns() {
     const QLocale theirs = QLocale::system();
-    UseNumberSigns({theirs.decimalPoint().toStdString(), theirs.groupSeparator().toStdString()});
+    const NumberSigns signs = {theirs.decimalPoint().toStdString(), theirs.groupSeparator().toStdString()};
+    UseNumberSigns(FitsFile(signs.decimal) ? signs : NumberSigns());
 }
 
 }  // namespace

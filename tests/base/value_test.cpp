@@ -20,10 +20,10 @@ TEST(Value, ConvertsByTheUsualRules) {
         double real;
         const char* text;
     } cases[] = {{Value(), false, 0, 0, ""},         {true, true, -1, -1, "True"},
-                 {false, false, 0, 0, "False"},      {2.5, true, 2, 2.5, "2.5"},
+                 {false, false, 0, 0, "False"},      {2.5, true, 2, 2.5, "2,5"},
                  {std::int32_t{7}, true, 7, 7, "7"}, {"1,000.5", true, 1000, 1000.5, "1,000.5"},
-                 {" 0 ", false, 0, 0, " 0 "}};
-    UseNumberSigns({",", "."});  // no conversion may ask for the user's signs
+                 {" 0 ", false, 0, 0, " 0 "},        {"0,5", true, 0, 0.5, "0,5"}};
+    UseNumberSigns({",", "."});
     for (const auto& c : cases) {
         EXPECT_EQ(c.value.ToBoolean(), c.boolean) << c.text;
         EXPECT_EQ(c.value.ToLong(), c.whole) << c.text;

@@ -102,6 +102,12 @@ TEST_F(LoadSave, AFileNamesNoPlaceButAFolder) {
     };
     for (const auto& [name, expected] : rows)
         EXPECT_EQ(LoadBytes("<Skin>\n<SkinName>" + std::string(name) + "</SkinName>\n")->SkinName, expected);
+    for (const char* name : {"1.10", "007", "2e3", "7.99999", "Wahr", "+.a"}) {
+        LoadBytes("<Skin>\n<SkinName>" + std::string(name) + "</SkinName>\n", name)->SaveSkin(false);
+        const dbSkinRef again = NewSkin(name);
+        again->LoadSkin();
+        EXPECT_EQ(objSkin->SkinName + "," + again->SkinName, std::string(name) + "," + name);
+    }
     objSkin->SetBasePath((folder / "Skins").string());
     objSkin->SkinName = "../Out";
     EXPECT_THROW(objSkin->SaveSkin(false), Failure);
@@ -232,15 +238,29 @@ TEST(SkinLines, TheUsersSignsCountForPlainNumbersOnly) {
     EXPECT_EQ(ReadValue("+1.5"), Value(1.5));
     EXPECT_EQ(GetNumericValue(1.5), "+1.5");
     EXPECT_EQ(GetNumericValue("12,50"), "+12.5");
-    EXPECT_EQ(GetNumericValue(0.00001), "1E-05");
+    EXPECT_EQ(GetNumericValue(0.00001), "0,00001");
     EXPECT_EQ(GetNumericValue(1.00001), "1,00001");
     UseNumberSigns({});
+}
+
+TEST_F(LoadSave, ATextThatIsANumberStaysWithTheUsersSigns) {
+    UseNumberSigns({",", "."});
+    for (const std::string caption : {"0,5", "-1,25", "0,00001", "1,00001"}) {
+        auto skin = LoadBytes("<Layouts>\n<Layout>\n<Elements>\n<Element>\n<Order>1</Order>\n<Caption>" +
+                              caption + "</Caption>\n</Element>\n</Elements>\n</Layout>\n");
+        for (int round = 0; round < 3; ++round) {
+            EXPECT_EQ(skin->dbLayouts->Item(1)->dbLayoutElements->Item(1)->Caption, caption) << round;
+            skin->SaveSkin(false);
+            skin->LoadSkin();
+        }
+    }
+    EXPECT_NE(BytesOf(folder / "Blue/SkinSettings.xml").find("<Caption>1,00001<"), std::string::npos);
 }
 
 TEST(SkinLines, NumbersAreWrittenByTheirFloor) {
     const std::pair<Value, const char*> rows[] = {
         {8.25, "+8.25"},      {-1.5, "+-2.5"},      {120.0, "120"},
-        {-3, "-3"},           {7.99999, "+7."},     {0.00005, "5E-05"},
+        {-3, "-3"},           {7.99999, "+7."},     {0.00005, "0.00005"},
         {0.09375, "+0.0938"}, {0.0001, "+0.0001"},  {2147483647.5, "+2147483647.5"},
         {"12.50", "+12.5"},   {1.00001, "1.00001"},
     };

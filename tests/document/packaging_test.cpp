@@ -55,11 +55,15 @@ TEST_F(Packaging, ARenamedSkinTakesItsPicturesAlong) {
     EXPECT_EQ(FindSkinPicture("a.png"), folder / "Blue/a.png");
     EXPECT_EQ(FindSkinPicture("b.png"), folder / "Red/b.png");
     EXPECT_EQ(FindSkinPicture(folder.string() + "/nowhere/a.png"), folder / "Blue/a.png");
+    EXPECT_EQ(FindSkinPicture(folder.string() + "/nowhere/b.png"), folder / "Blue/b.png");
     EXPECT_EQ(FindSkinPicture("c.png"), fs::path());
     EXPECT_EQ(Saved("a.png"), "a.png");
     EXPECT_EQ(InSkin("a.png"), "A");
     EXPECT_EQ(Saved("b.png"), "b.png");
     EXPECT_EQ(InSkin("b.png"), "own");
+    objSkin->OldSkinName = "Blue";
+    EXPECT_EQ(Saved(folder.string() + "/nowhere/b.png"), "b.png");
+    EXPECT_EQ(InSkin("b.png"), "B");
     EXPECT_EQ(BytesOf(folder / "Blue/a.png"), "A");
 }
 
@@ -139,6 +143,17 @@ TEST_F(Packaging, NamesThatTheFileCannotHold) {
     const dbSkinRef read = NewSkin("Blue");
     read->LoadSkin();
     EXPECT_EQ(read->dbLayouts->Item(1)->dbLayoutElements->Item(1)->PicNormal, "_-3.png");
+}
+
+TEST_F(Packaging, ANameThatReadsAsANumberGetsASubstitute) {
+    for (const char* name : {"+.png", "+vol.down.bmp", "007", "1.50", "Wahr", "3000000000"}) {
+        Put(folder / "Pics" / name, name);
+        const std::string stored = Saved(folder / "Pics" / name);
+        objSkin->LoadSkin();
+        EXPECT_EQ(Picture(), stored);
+        EXPECT_EQ(Saved(Picture()), stored);
+        EXPECT_EQ(InSkin(Picture()), name);
+    }
 }
 
 TEST_F(Packaging, ASkinWhoseNameTheFileCannotHold) {
