@@ -12,15 +12,17 @@
 #include <algorithm>
 
 #include "dialogs/font_dialog.h"
+#include "platform/asker.h"
 #include "platform/control.h"
 
 namespace ornavo {
 namespace {
 
-/// The active window. Just after another box none is; the main window, or the one that is left of all, then
-/// stands in.
-QWidget* Owner() {
+/// The active window. Just after another box none is; the window that asked for that one, otherwise the main
+/// window or the one that is left of all, then stands in.
+QWidget* Owner(QWidget* last) {
     if (QWidget* active = QApplication::activeWindow()) return active;
+    if (last && last->isVisible()) return last;
     const QWidgetList windows = QApplication::topLevelWidgets();
     const auto main = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
         return window->isVisible() && window->windowType() == Qt::Window;
@@ -77,9 +79,17 @@ Colour PlainColour(const QColor& colour) {
 
 }  // namespace
 
+QWidget* QtPrompts::TakeOwner() {
+    owner_ = Owner(owner_);
+    return owner_;
+}
+
 Answer QtPrompts::Message(std::string_view text, std::string_view title, Icon icon, Buttons buttons) {
-    QMessageBox box(BoxIcon(icon), Shown(title), Shown(text), BoxButtons(buttons), Owner());
+    const Asker asker(TakeOwner());
+    QMessageBox box(BoxIcon(icon), Shown(title), Shown(text), BoxButtons(buttons), owner_);
     box.setTextFormat(Qt::PlainText);
+    // What can be answered by Yes or No alone can't be taken back.
+    if (buttons == Buttons::YesNo) box.setDefaultButton(QMessageBox::No);
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;
@@ -105,7 +115,8 @@ QStringList NameFilters(std::string_view filter) {
 
 std::optional<std::string> QtPrompts::Input(std::string_view text, std::string_view title,
                                             std::string_view proposal) {
-    QInputDialog box(Owner());
+    const Asker asker(TakeOwner());
+    QInputDialog box(owner_);
     box.setWindowTitle(Shown(title));
     box.setLabelText(Shown(text));
     box.setTextValue(Shown(proposal));
@@ -114,11 +125,13 @@ std::optional<std::string> QtPrompts::Input(std::string_view text, std::string_v
 }
 
 std::optional<std::string> QtPrompts::File(const FileQuestion& question) {
-    QFileDialog box(Owner(), Shown(question.title), ExistingFolder(question.folder));
+    const Asker asker(TakeOwner());
+    QFileDialog box(owner_, Shown(question.title), ExistingFolder(question.folder));
     // The desktops' own boxes on Linux match filters with regard to case.
 #ifndef Q_OS_WIN
     box.setOption(QFileDialog::DontUseNativeDialog);
 #endif
+    box.setOption(QFileDialog::ReadOnly);  // it chooses, and neither deletes nor renames
     box.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     box.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (const QStringList filters = NameFilters(question.filter); !filters.isEmpty())
@@ -131,7 +144,8 @@ std::optional<std::string> QtPrompts::File(const FileQuestion& question) {
 std::optional<Colour> QtPrompts::ColourOf(Colour start, CustomColours& custom) {
     for (std::size_t i = 0; i < custom.size(); ++i)
         QColorDialog::setCustomColor(static_cast<int>(i), ScreenColour(custom[i]));
-    QColorDialog box(ScreenColour(start), Owner());
+    const Asker asker(TakeOwner());
+    QColorDialog box(ScreenColour(start), owner_);
     box.setOption(QColorDialog::DontUseNativeDialog);
     const bool accepted = box.exec() == QDialog::Accepted;
     for (std::size_t i = 0; i < custom.size(); ++i)
@@ -142,7 +156,8 @@ std::optional<Colour> QtPrompts::ColourOf(Colour start, CustomColours& custom) {
 }
 
 std::optional<Font> QtPrompts::FontOf(const Font& start, const std::vector<std::string>& offered) {
-    FontDialog box(Owner(), start, offered);
+    const Asker asker(TakeOwner());
+    FontDialog box(owner_, start, offered);
     if (box.exec() != QDialog::Accepted) return std::nullopt;
     return box.Chosen();
 }

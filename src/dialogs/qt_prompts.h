@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The prompts on real windows.
+// The prompts on real windows. Each gives the keyboard back to the window that asked.
 #pragma once
 
+#include <QPointer>
 #include <QStringList>
+#include <QWidget>
 
 #include "platform/prompts.h"
 
@@ -16,6 +18,11 @@ public:
     std::optional<std::string> File(const FileQuestion& question) override;
     std::optional<Colour> ColourOf(Colour start, CustomColours& custom) override;
     std::optional<Font> FontOf(const Font& start, const std::vector<std::string>& offered) override;
+
+private:
+    QWidget* TakeOwner();
+
+    QPointer<QWidget> owner_;  // of the last box
 };
 
 /// "Name|*.a;*.b" becomes "Name (*.a *.b)"; ":" separates as "|" does.

@@ -14,7 +14,7 @@
 namespace ornavo {
 
 enum class Icon { None, Information, Question, Critical, Exclamation };
-enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Buttons { Ok, YesNo, YesNoCancel };  // the default is the first, of YesNo it is No
 enum class Answer { Ok, Yes, No, Cancel };
 
 /// Which file is to be read or written.

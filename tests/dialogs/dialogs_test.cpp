@@ -39,13 +39,15 @@ TEST(QtPrompts, ABoxShowsWhatIsSaidAndGivesTheButton) {
     QtPrompts prompts;
     struct Row {
         Buttons buttons;
-        QMessageBox::StandardButton pressed;  // NoButton: the Escape key
+        QMessageBox::StandardButton pressed;  // NoButton: the Escape key, Default: Return
         Answer answer;
     };
     const Row rows[] = {{Buttons::Ok, QMessageBox::Ok, Answer::Ok},
                         {Buttons::Ok, QMessageBox::NoButton, Answer::Ok},
                         {Buttons::YesNo, QMessageBox::Yes, Answer::Yes},
                         {Buttons::YesNo, QMessageBox::No, Answer::No},
+                        {Buttons::YesNo, QMessageBox::Default, Answer::No},
+                        {Buttons::YesNoCancel, QMessageBox::Default, Answer::Yes},
                         {Buttons::YesNoCancel, QMessageBox::Yes, Answer::Yes},
                         {Buttons::YesNoCancel, QMessageBox::No, Answer::No},
                         {Buttons::YesNoCancel, QMessageBox::Cancel, Answer::Cancel},
@@ -56,9 +58,34 @@ TEST(QtPrompts, ABoxShowsWhatIsSaidAndGivesTheButton) {
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
             EXPECT_EQ(box.icon(), QMessageBox::Question);
             if (row.pressed == QMessageBox::NoButton) return QTest::keyClick(&box, Qt::Key_Escape);
+            if (row.pressed == QMessageBox::Default) return QTest::keyClick(&box, Qt::Key_Return);
             box.button(row.pressed)->click();
         });
         EXPECT_EQ(prompts.Message("<b>not bold</b>", "Title", Icon::Question, row.buttons), row.answer);
+    }
+}
+
+TEST(QtPrompts, TheKeyboardGoesBackToTheWindowThatAsked) {
+    QtPrompts prompts;
+    QWidget main;
+    QWidget panel(&main, Qt::Tool);
+    QLineEdit name(&panel), other(&panel);
+    for (QWidget* window : {&main, &panel}) window->show();
+    panel.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    other.setFocus();
+    for (const bool twice : {false, true}) {
+        InNext<QMessageBox>([](QMessageBox& box) { box.accept(); });
+        prompts.Message("Why not", "Title", Icon::Question, Buttons::Ok);
+        if (twice) {
+            InNext<QInputDialog>([&](QInputDialog& box) {
+                EXPECT_EQ(box.parentWidget(), &panel);
+                box.reject();
+            });
+            prompts.Input("Enter a name", "Title", "");
+        }
+        QCoreApplication::processEvents();
+        EXPECT_EQ(QApplication::focusWidget(), &other) << twice;
     }
 }
 
@@ -83,6 +110,7 @@ TEST(QtPrompts, AFileIsChosenFromTheNearestFolderThatIsThere) {
                                    folder.filePath("gone/for good").toStdString(), "", false};
     InNext<QFileDialog>([&](QFileDialog& box) {
         EXPECT_EQ(box.directory(), QDir(folder.path()));
+        EXPECT_TRUE(box.testOption(QFileDialog::ReadOnly)) << "it neither deletes nor renames";
         EXPECT_EQ(box.nameFilters(), QStringList{"Skin Settings (SkinSettings.xml)"});
         box.findChild<QLineEdit*>("fileNameEdit")->setText(path);
         static_cast<QDialog&>(box).accept();
