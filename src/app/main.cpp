@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Start and stop of the editor.
 #include <QIcon>
-#include <QStandardPaths>
 #include <cstdio>
 #include <string_view>
 
 #include "app/program.h"
 #include "base/failure.h"
 #include "base/paths.h"
+#include "platform/prompts.h"
 #include "platform/startup.h"
 #include "project/own_folder.h"
 
@@ -36,11 +36,7 @@ std::filesystem::path PathOf(const QString& path) {
     return std::filesystem::path(path.toStdString());
 }
 
-std::filesystem::path DataFolder() {
-    return PathOf(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "ornavo";
-}
-
-std::string FolderWithSamples(const std::filesystem::path& data) {
+std::string FolderWithSamples(const std::string& data) {
     const std::filesystem::path executable = PathOf(QCoreApplication::applicationDirPath());
     const std::filesystem::path own = ornavo::OwnFolder(executable, data);
     try {
@@ -58,6 +54,43 @@ QIcon ProgramIcon() {
     return icon;
 }
 
+/// What goes wrong on the way of an event is told, and the program lives on.
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::exception& failure) {
+            Tell(failure.what());
+            return true;
+        }
+    }
+
+private:
+    void Tell(const char* reason) {
+        std::fprintf(stderr, "ornavo: %s\n", reason);
+        if (isTelling_) return;
+        const ornavo::Raised telling(isTelling_);
+        ornavo::Attempt([&] {
+            ornavo::prompts().Message(reason, "Ornavo", ornavo::Icon::Critical, ornavo::Buttons::Ok);
+        });
+    }
+    bool isTelling_ = false;
+};
+
+int Run(int argc, char** argv) {
+    ornavo::PrepareProcess();
+    Application application(argc, argv);
+    QApplication::setWindowIcon(ProgramIcon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("ornavo"));
+    ornavo::InitCommonControls(application);
+    const std::string data = ornavo::DataFolder();
+    ornavo::Program program(MajorMinor(), FolderWithSamples(data), data);
+    program.Start(CommandLine(QCoreApplication::arguments()));
+    return QApplication::exec();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -66,13 +99,10 @@ int main(int argc, char** argv) {
         if (argument == "--help") return std::fputs(Usage, stdout) < 0;
         if (argument == "--version") return std::puts("ornavo " ORNAVO_VERSION) < 0;
     }
-    ornavo::PrepareProcess();
-    QApplication application(argc, argv);
-    QApplication::setWindowIcon(ProgramIcon());
-    QGuiApplication::setDesktopFileName(QStringLiteral("ornavo"));
-    ornavo::InitCommonControls(application);
-    const std::filesystem::path data = DataFolder();
-    ornavo::Program program(MajorMinor(), FolderWithSamples(data), ornavo::ToText(data));
-    program.Start(CommandLine(QCoreApplication::arguments()));
-    return QApplication::exec();
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "ornavo: %s\n", failure.what());
+        return 1;
+    }
 }

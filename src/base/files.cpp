@@ -6,13 +6,17 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
+#include <chrono>
 #include <random>
 #include <system_error>
 #include <vector>
 
 #ifdef _WIN32
 #include <io.h>
+#include <process.h>
 #else
+#include <signal.h>
 #include <unistd.h>
 #endif
 
@@ -52,6 +56,12 @@ int Close(int file) {
 int FlushFolder(const fs::path&) {
     return 0;
 }  // a rename is flushed by itself
+int ProcessId() {
+    return _getpid();
+}
+bool IsRunning(int) {
+    return true;
+}  // nothing is removed that may be in use
 #else
 int Create(const fs::path& path) {
     return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -80,6 +90,12 @@ int FlushFolder(const fs::path& path) {
     ::close(folder);
     errno = reason;
     return result;
+}
+int ProcessId() {
+    return ::getpid();
+}
+bool IsRunning(int process) {
+    return ::kill(process, 0) == 0 || errno != ESRCH;
 }
 #endif
 }  // namespace disk
@@ -152,13 +168,17 @@ fs::path BehindLinks(fs::path path) {
     return path;
 }
 
+// Between them stand the process that writes the file, "-" and a number of its own.
+constexpr std::string_view ScratchStart = ".ornavo-", ScratchEnd = ".tmp";
+
 /// A file beside the target that takes its place at the end, or disappears.
 class Scratch {
 public:
     explicit Scratch(const fs::path& target) : target_(target) {
         std::random_device dice;
         for (int tries = 0;; ++tries) {
-            path_ = target.parent_path() / (".ornavo-" + std::to_string(dice()) + ".tmp");
+            path_ = target.parent_path() / (std::string(ScratchStart) + std::to_string(disk::ProcessId()) +
+                                            "-" + std::to_string(dice()) + std::string(ScratchEnd));
             try {
                 file_ = fileLayer().Create(path_);
                 break;
@@ -229,6 +249,17 @@ fs::path ReplaceableBehindLinks(const fs::path& path) {
     std::error_code ignored;
     if (fs::is_symlink(fs::symlink_status(target, ignored))) throw NotAFile();
     return Replaceable(target);
+}
+
+/// Whether nobody writes this scratch file any more.
+bool IsLeft(const fs::path& file, std::string_view name) {
+    name.remove_prefix(ScratchStart.size());
+    int process = 0;
+    const auto [end, failure] = std::from_chars(name.data(), name.data() + name.size(), process);
+    if (failure == std::errc() && *end == '-') return !disk::IsRunning(process);
+    std::error_code error;
+    const auto written = fs::last_write_time(file, error);
+    return !error && written < fs::file_time_type::clock::now() - std::chrono::hours(24);
 }
 
 void PutInPlace(const fs::path& target, std::string_view bytes) {
@@ -338,6 +369,17 @@ void ReplaceFile(const fs::path& path, std::string_view bytes) {
 
 void ReplaceFileItself(const fs::path& path, std::string_view bytes) {
     Named(path, "written", [&] { PutInPlace(Replaceable(path), bytes); });
+}
+
+void RemoveLeftScratchFiles(const fs::path& folder) {
+    std::vector<fs::path> left;
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+        const std::string name = ToText(at->path().filename());
+        if (name.starts_with(ScratchStart) && name.ends_with(ScratchEnd) && IsLeft(at->path(), name))
+            left.push_back(at->path());
+    }
+    for (const fs::path& file : left) Attempt([&] { fileLayer().Remove(file); });
 }
 
 void CopyFileWhole(const fs::path& source, const fs::path& target) {

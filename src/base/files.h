@@ -47,6 +47,9 @@ void ReplaceFileItself(const std::filesystem::path& path, std::string_view bytes
 /// A copy that is whole or not there; an existing target is replaced. A link in the target's place is
 /// replaced itself: pictures come from strangers, and a copy of one must not land where their link leads.
 void CopyFileWhole(const std::filesystem::path& source, const std::filesystem::path& target);
+/// Removes the scratch files in the folder that a broken off process has left. Those of a running one stay;
+/// one that doesn't tell whose it is goes when it is older than a day. Never fails.
+void RemoveLeftScratchFiles(const std::filesystem::path& folder);
 /// One level; true if the folder exists afterwards. Never throws.
 bool CreateFolderOnce(std::string_view path);
 /// Every missing folder of the path; true if the last exists afterwards. Never throws.

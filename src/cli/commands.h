@@ -24,6 +24,9 @@ struct Arguments {
     std::string Need(const std::string& name) const;  // UsageError if it is not there
 };
 
+/// A line on the error stream.
+void Tell(const std::string& text);
+
 /// Each returns the exit code and throws a Failure when it can't do its work.
 int Dump(const Arguments&);
 int Save(const Arguments&);

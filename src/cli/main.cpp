@@ -76,9 +76,6 @@ int RunCommand(const Command& command, const QStringList& words) {
         return command.run(arguments);
     } catch (const UsageError& error) {
         return Misused(QString::fromStdString(error.description()));
-    } catch (const std::exception& failure) {  // the system's own too, such as a current folder that is gone
-        std::fprintf(stderr, "ornavo-cli: %s\n", failure.what());
-        return 1;
     }
 }
 
@@ -93,8 +90,7 @@ int Run(const QStringList& words) {
 
 /// The error stream is for reasons; what Qt thinks of the environment is none.
 void OnQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    if (type == QtCriticalMsg || type == QtFatalMsg)
-        std::fprintf(stderr, "ornavo-cli: %s\n", qPrintable(text));
+    if (type == QtCriticalMsg || type == QtFatalMsg) Tell(text.toStdString());
 }
 
 }  // namespace
@@ -104,8 +100,13 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(ornavo::OnQtMessage);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "1");
-    ornavo::PrepareProcess();
-    QApplication application(argc, argv);
-    ornavo::InitCommonControls(application);
-    return ornavo::Run(QCoreApplication::arguments());
+    try {
+        ornavo::PrepareProcess();
+        QApplication application(argc, argv);
+        ornavo::InitCommonControls(application);
+        return ornavo::Run(QCoreApplication::arguments());
+    } catch (const std::exception& failure) {
+        ornavo::Tell(failure.what());
+        return 1;
+    }
 }

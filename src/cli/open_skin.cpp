@@ -2,6 +2,7 @@
 #include "cli/open_skin.h"
 
 #include <charconv>
+#include <cstdio>
 
 #include "base/files.h"
 #include "base/paths.h"
@@ -32,6 +33,10 @@ std::string Arguments::Get(const std::string& name, std::string standard) const 
     return found == options.end() ? standard : found->second;
 }
 
+void Tell(const std::string& text) {
+    std::fprintf(stderr, "ornavo-cli: %s\n", text.c_str());
+}
+
 std::string Arguments::Need(const std::string& name) const {
     if (!Has(name)) throw UsageError("--" + name + " is missing");
     return Get(name);
@@ -45,7 +50,8 @@ void OpenNamedSkin(const Arguments& arguments, bool upgraded) {
     objCurrentLayout = std::make_shared<dbLayout>();
     objSkin->SetBasePath(GetParentFolderName(bare));
     objSkin->SkinName = GetFileName(bare);
-    if (!objSkin->LoadSkin().found) throw Failure(53, "Skin", folder + SettingsFile + " not found!");
+    if (!objSkin->LoadSkin()) throw Failure(53, "Skin", folder + SettingsFile + " not found!");
+    for (const std::string& line : objSkin->Damage) Tell(folder + SettingsFile + " is damaged: " + line);
     if (upgraded) objSkin->SetupSkinPrefs();
 }
 

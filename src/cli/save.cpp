@@ -6,18 +6,32 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "cli/open_skin.h"
+#include "document/recovered.h"
+#include "document/skin_packaging.h"
+#include "platform/clock.h"
+#include "platform/startup.h"
 
 namespace ornavo {
 namespace {
 
-/// A folder other than the one that was opened keeps its skin. Failure 58 if it has one.
-void RefuseOtherSkin() {
+bool IsSavedWhereItWas() {
     const std::string opened = objSkin->BasePath() + objSkin->OldSkinName;
-    const std::string file = objSkin->SkinFile();
     std::error_code ignored;
-    if (!NothingStandsAt(file) &&
-        !std::filesystem::equivalent(OnDisk(opened), OnDisk(objSkin->SkinFolder()), ignored))
-        throw Failure(58, "Save", ToText(OnDisk(file)) + " is there already; --replace takes its place.");
+    return std::filesystem::equivalent(OnDisk(opened), OnDisk(objSkin->SkinFolder()), ignored);
+}
+
+/// What the save replaces is a file that had lost something.
+bool IsDamaged() {
+    return !objSkin->Damage.empty() && IsSavedWhereItWas();
+}
+
+/// A damaged file stays, and so does the skin in a folder other than the one that was opened. Failure 58
+/// where one is.
+void RefuseToReplace() {
+    const std::string file = ToText(OnDisk(objSkin->SkinFile()));
+    if (IsDamaged()) throw Failure(58, "Save", file + " is damaged; --replace takes its place.");
+    if (!NothingStandsAt(file) && !IsSavedWhereItWas())
+        throw Failure(58, "Save", file + " is there already; --replace takes its place.");
 }
 
 }  // namespace
@@ -29,9 +43,15 @@ int Save(const Arguments& arguments) {
         if (!IsPlainName(name)) throw UsageError("--as takes the name of a folder");
         objSkin->SkinName = name;
     }
-    if (!arguments.Has("replace")) RefuseOtherSkin();
-    objSkin->SaveSkin(arguments.Has("keep-existing"));
-    return std::puts(ToText(OnDisk(objSkin->SkinFile())).c_str()) < 0 ? 1 : 0;
+    const bool keepExisting = arguments.Has("keep-existing");
+    if (!arguments.Has("replace")) RefuseToReplace();
+    for (const std::string& loss : PlanSave(*objSkin, keepExisting).losses) Tell(loss);
+    if (IsDamaged())
+        KeepRecovered(DataFolder(), objSkin->SkinName, TimeStamp(), ReadFile(objSkin->SkinFile()));
+    const std::vector<std::string> uncopied = objSkin->SaveSkin(keepExisting);
+    for (const std::string& reason : uncopied) Tell(reason);
+    const bool told = std::puts(ToText(OnDisk(objSkin->SkinFile())).c_str()) >= 0;
+    return told && uncopied.empty() ? 0 : 1;
 }
 
 }  // namespace ornavo

@@ -12,19 +12,31 @@ namespace ornavo {
 dbSkinRef objSkin = std::make_shared<dbSkin>();
 dbLayoutRef objCurrentLayout = std::make_shared<dbLayout>();
 
-std::string GetSkinPicturePath(std::string_view name) {
+namespace {
+
+std::string PathIn(const dbSkin& skin, std::string_view name) {
     if (name.empty() || ContainsSeparator(name)) return std::string(name);
-    return objSkin->SkinFolder().append(name);
+    return skin.SkinFolder().append(name);
+}
+
+}  // namespace
+
+std::string GetSkinPicturePath(std::string_view name) {
+    return PathIn(*objSkin, name);
+}
+
+std::vector<std::string> PicturePlaces(std::string_view name, const dbSkin& current) {
+    const std::string file = GetFileName(name);
+    std::vector<std::string> places = {PathIn(current, name)};
+    if (!current.OldSkinName.empty())
+        places.push_back(WithSeparator(current.BasePath() + current.OldSkinName) + file);
+    places.push_back(current.SkinFolder() + file);
+    return places;
 }
 
 std::filesystem::path FindSkinPicture(std::string_view name) {
     if (TrimBlanks(name).empty()) return {};
-    const std::string file = GetFileName(name);
-    std::vector<std::string> places = {GetSkinPicturePath(name)};
-    if (!objSkin->OldSkinName.empty())
-        places.push_back(WithSeparator(objSkin->BasePath() + objSkin->OldSkinName) + file);
-    places.push_back(objSkin->SkinFolder() + file);
-    for (const std::string& place : places)
+    for (const std::string& place : PicturePlaces(name, *objSkin))
         if (FileExists(place)) return OnDisk(place);
     return {};
 }

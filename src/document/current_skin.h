@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "document/dbskin.h"
 
@@ -15,6 +16,8 @@ extern dbLayoutRef objCurrentLayout;  // an empty one until a skin is opened
 
 /// "" for ""; a bare name lies in the current skin's folder; a name with a separator is taken as it stands.
 std::string GetSkinPicturePath(std::string_view name);
+/// The places where the picture may lie while a skin is the current one, the best first.
+std::vector<std::string> PicturePlaces(std::string_view name, const dbSkin& current);
 /// Where the picture really lies: its path, for a path that leads nowhere its bare name in the skin's folder,
 /// then in the folder of the name that the skin had when it was loaded. Empty if it is nowhere.
 std::filesystem::path FindSkinPicture(std::string_view name);

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "document/dblayouts.h"
 #include "document/dbskinprefs.h"
@@ -14,16 +15,12 @@ namespace ornavo {
 
 inline constexpr std::string_view SettingsFileName = "SkinSettings.xml";
 
-/// What reading a skin's file came to.
-struct LoadReport {
-    bool found = false;  // there is a file
-};
-
 class dbSkin {
 public:
     dbSkin();  // the whole catalogue with its defaults, no layout
 
     bool Dirty = false;
+    std::vector<std::string> Damage;  // what its file had lost when it was read, in words; none after a save
     std::string OldSkinName;
     std::int32_t SkinHeight = 0, SkinWidth = 0;  // pixels
     std::string SkinName;
@@ -43,11 +40,12 @@ public:
 
     /// Fills the skin from its file, by BasePath and SkinName. A file that is not there changes nothing but
     /// OldSkinName; a line that says nothing is skipped. SkinName is afterwards a plain folder name. Failure
-    /// where a file is that can't be read whole; the skin is then as it was.
-    LoadReport LoadSkin();
+    /// where a file is that can't be read whole; the skin is then as it was. True if there is a file.
+    bool LoadSkin();
     /// Gathers the pictures into the skin's folder and writes the file, whole or not at all; a link in its
-    /// place is replaced itself. Failure when it can't; the model is then as it was.
-    void SaveSkin(bool keepExisting);
+    /// place is replaced itself. Failure when it can't; the model is then as it was. The pictures that could
+    /// not be copied, a line with the reason each: they keep their full paths.
+    std::vector<std::string> SaveSkin(bool keepExisting);
     /// The bytes of the settings file as the skin stands now, pictures where they are.
     std::string FileBytes() const;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <array>
 #include <cstring>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -55,6 +56,7 @@ public:
     void PopObject() {
         if (!objects_.empty()) objects_.pop_back();
     }
+    bool IsEmpty() const { return objects_.empty(); }
     Object& Current() { return objects_.empty() ? nothing_ : objects_.back(); }
     Object& ParentObject() { return objects_.size() < 2 ? nothing_ : objects_[objects_.size() - 2]; }
 
@@ -63,10 +65,27 @@ private:
     Object nothing_;
 };
 
+/// What an open object is called; "" for the skin and for a collection, which are never lost themselves.
+std::string NameOf(const Object& object) {
+    const auto named = [](const char* kind, const std::string& key) {
+        return std::string(kind).append(" \"").append(key).append("\"");
+    };
+    if (const auto* layout = std::get_if<dbLayoutRef>(&object))
+        return named("layout", (*layout)->Key) + " with " +
+               std::to_string((*layout)->dbLayoutElements->Count()) + " elements";
+    if (const auto* element = std::get_if<dbLayoutElementRef>(&object))
+        return named("element", (*element)->Key);
+    if (const auto* pref = std::get_if<dbSkinPrefRef>(&object)) return named("preference", (*pref)->Key);
+    if (std::holds_alternative<dbPointRef>(object)) return "corner of a shape";
+    return std::holds_alternative<FontRef>(object) ? "font" : "";
+}
+
 class Loader {
 public:
     explicit Loader(dbSkin& skin) : skin_(skin) {}
     void Load(std::string_view bytes);
+    /// What the file had lost, in words; none if it is whole.
+    std::vector<std::string> Damage(std::string_view bytes) const;
 
 private:
     struct Structure {
@@ -82,7 +101,10 @@ private:
     template <class T>
     void Assign(FieldFinder<T>& finder, T& object, const TagLine& line);
 
-    void OpenSkin() { stack_.PushObject(&skin_); }
+    void OpenSkin() {
+        ++skins_;
+        stack_.PushObject(&skin_);
+    }
     void OpenPrefs() {
         skin_.dbSkinPrefs = std::make_shared<dbSkinPrefs>();
         stack_.PushObject(skin_.dbLayouts);  // nothing is ever assigned to it
@@ -108,7 +130,8 @@ private:
     void OpenElements();
     void OpenElement();
 
-    void Close() { stack_.PopObject(); }
+    void Close() { Pop(false); }
+    void Pop(bool kept);
     void ClosePref();
     void CloseLayout();
     void CloseIntoParent();
@@ -116,6 +139,9 @@ private:
 
     dbSkin& skin_;
     LoadStack stack_;
+    int skins_ = 0;                    // tags <Skin>
+    bool endsEarly_ = false;           // something was open at the end
+    std::map<std::string, int> lost_;  // objects that found no place, by their names
     FieldFinder<dbSkin> skinFields_;
     FieldFinder<dbSkinPref> prefFields_;
     FieldFinder<Font> fontFields_;
@@ -147,6 +173,30 @@ void Loader::Load(std::string_view bytes) {
         ReadLine(std::string_view(at, static_cast<std::size_t>(stop - at)));
         at = stop + 1;
     }
+    endsEarly_ = !stack_.IsEmpty();
+    while (!stack_.IsEmpty()) Pop(false);
+}
+
+std::vector<std::string> Loader::Damage(std::string_view bytes) const {
+    const bool wide = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
+                      bytes.substr(0, 2).find('\0') != std::string_view::npos;
+    if (wide) return {"It is UTF-16 text, of which nothing can be read."};
+    if (skins_ == 0 && bytes.find_first_not_of(" \t\r\n") != std::string_view::npos)
+        return {"It has no <Skin>."};
+    std::vector<std::string> damage;
+    if (skins_ > 1) damage.emplace_back("It has more than one <Skin>, and the last one counts.");
+    if (bytes.find('\0') != std::string_view::npos) damage.emplace_back("It has bytes that are no text.");
+    if (endsEarly_) damage.emplace_back("It ends early: a tag is not closed.");
+    for (const auto& [name, count] : lost_)
+        damage.push_back("Lost: " + (count > 1 ? std::to_string(count) + " x " : "") + name);
+    return damage;
+}
+
+/// What was pushed once more stays with the object below, and is not lost.
+void Loader::Pop(bool kept) {
+    if (!kept && stack_.Current() != stack_.ParentObject())
+        if (const std::string name = NameOf(stack_.Current()); !name.empty()) ++lost_[name];
+    stack_.PopObject();
 }
 
 void Loader::ReadLine(std::string_view line) {
@@ -216,41 +266,38 @@ void Loader::OpenElement() {
 }
 
 void Loader::ClosePref() {
-    if (auto* pref = std::get_if<dbSkinPrefRef>(&stack_.Current()))
-        Attempt([&] { skin_.dbSkinPrefs->AddObject(*pref); });
-    Close();
+    auto* pref = std::get_if<dbSkinPrefRef>(&stack_.Current());
+    Pop(pref && Attempt([&] { skin_.dbSkinPrefs->AddObject(*pref); }));
 }
 
 void Loader::CloseLayout() {
-    if (auto* layout = std::get_if<dbLayoutRef>(&stack_.Current()))
-        Attempt([&] { skin_.dbLayouts->AddObject(*layout); });
-    Close();
+    auto* layout = std::get_if<dbLayoutRef>(&stack_.Current());
+    Pop(layout && Attempt([&] { skin_.dbLayouts->AddObject(*layout); }));
 }
 
-/// Adds the item to the collection when they are of a kind.
+/// Adds the item to the collection when they are of a kind; whether it has its place there.
 template <class Collection, class Item>
-void AddTo(Object& parent, Object& current) {
+bool AddTo(Object& parent, Object& current) {
     auto* collection = std::get_if<Collection>(&parent);
     auto* item = std::get_if<Item>(&current);
-    if (collection && item) Attempt([&] { (*collection)->AddObject(*item); });
+    return collection && item && Attempt([&] { (*collection)->AddObject(*item); });
 }
 
 void Loader::CloseIntoParent() {
     Object& parent = stack_.ParentObject();
     Object& current = stack_.Current();
-    AddTo<ElementsRef, dbLayoutElementRef>(parent, current);
-    AddTo<PointsRef, dbPointRef>(parent, current);
-    AddTo<LayoutsRef, dbLayoutRef>(parent, current);
-    Close();
+    Pop(AddTo<ElementsRef, dbLayoutElementRef>(parent, current) ||
+        AddTo<PointsRef, dbPointRef>(parent, current) || AddTo<LayoutsRef, dbLayoutRef>(parent, current));
 }
 
 void Loader::CloseFont() {
-    if (auto* font = std::get_if<FontRef>(&stack_.Current())) {
-        Object& parent = stack_.ParentObject();
-        if (auto* element = std::get_if<dbLayoutElementRef>(&parent)) (*element)->Font = *font;
-        if (auto* pref = std::get_if<dbSkinPrefRef>(&parent)) (*pref)->Font = *font;
-    }
-    Close();
+    auto* font = std::get_if<FontRef>(&stack_.Current());
+    Object& parent = stack_.ParentObject();
+    auto* element = std::get_if<dbLayoutElementRef>(&parent);
+    auto* pref = std::get_if<dbSkinPrefRef>(&parent);
+    if (font && element) (*element)->Font = *font;
+    if (font && pref) (*pref)->Font = *font;
+    Pop(font && (element || pref));
 }
 
 /// Whether a file in the folder that has this name for the skin names the folder itself: a folder's name that
@@ -261,16 +308,17 @@ bool NamesFolder(const std::string& name, const std::string& folder) {
 
 }  // namespace
 
-LoadReport dbSkin::LoadSkin() {
+bool dbSkin::LoadSkin() {
     const std::string file = SkinFile();
-    LoadReport report;
-    report.found = !NothingStandsAt(file);
-    const std::string bytes = report.found ? ReadFile(file) : "";
+    const bool found = !NothingStandsAt(file);
+    const std::string bytes = found ? ReadFile(file) : "";
     OldSkinName = SkinName;
-    Loader(*this).Load(bytes);
+    Loader loader(*this);
+    loader.Load(bytes);
+    Damage = loader.Damage(bytes);
     if (SkinName != OldSkinName) SkinName = CleanFileName(SkinName);
     if (!IsPlainName(SkinName) || NamesFolder(SkinName, OldSkinName)) SkinName = OldSkinName;
-    return report;
+    return found;
 }
 
 }  // namespace ornavo

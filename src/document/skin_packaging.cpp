@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "document/skin_packaging.h"
 
-#include <filesystem>
+#include <algorithm>
+#include <map>
 #include <system_error>
 
 #include "base/failure.h"
@@ -47,27 +48,157 @@ bool IsTaken(const fs::path& path) {
     return fs::exists(fs::symlink_status(path, ignored));
 }
 
-/// The name under which the picture is stored: its own, or a substitute that no other picture has. One that
-/// the file would give back as a number is none.
-std::string StoredName(const std::string& folder, const std::string& name, const fs::path& source) {
-    if (CanBeNamed(name) && ReadBack(name) == name) return name;
-    for (int number = 1;; ++number) {
-        std::string candidate = Substitute(name, number);
-        if (ReadBack(candidate) != candidate) candidate.insert(0, "_");
-        const fs::path target = OnDisk(folder + candidate);
-        if (!IsTaken(target) || SameBytes(target, source)) return candidate;
+bool SameFile(const fs::path& one, const fs::path& two) {
+    return one == two || SameBytes(one, two);
+}
+
+/// Goes through the references in the order of the file, and knows what the steps before will have made.
+class Planner {
+public:
+    Planner(const dbSkin& skin, bool keepExisting)
+        : skin_(skin), current_(*objSkin), keepExisting_(keepExisting) {
+        skin_.SkinName = StorableSkinName(skin);
+        if (&skin == objSkin.get()) current_.SkinName = skin_.SkinName;
+        folder_ = skin_.SkinFolder();
     }
+    PictureStep Plan(const std::string& given);
+    /// The picture that the reference means, and the one that it shows after the save, when those differ.
+    std::string Merged(const PictureStep& step) const;
+
+private:
+    struct Made {
+        fs::path target, source;
+    };
+    const Made* MadeBefore(std::string_view path) const;
+    bool IsThere(const std::string& path) const { return FileExists(path) || MadeBefore(path); }
+    fs::path Place(const std::string& path) const;
+    std::string InOldFolder(std::string_view path) const;
+    fs::path FindSource(std::string_view path) const;
+    std::string StoredName(const std::string& name, const fs::path& source) const;
+    void Settle(const PictureStep& step);
+
+    dbSkin skin_;     // under the name by which it is saved
+    dbSkin current_;  // whose folder a bare name means
+    bool keepExisting_;
+    std::string folder_;
+    std::map<std::string, Made> made_;      // by name in lower case
+    std::map<fs::path, fs::path> winners_;  // whose picture each file of the folder shows in the end
+};
+
+const Planner::Made* Planner::MadeBefore(std::string_view path) const {
+    if (!path.starts_with(folder_)) return nullptr;
+    const auto made = made_.find(LowerText(path.substr(folder_.size())));
+    return made == made_.end() ? nullptr : &made->second;
+}
+
+fs::path Planner::Place(const std::string& path) const {
+    const Made* made = FileExists(path) ? nullptr : MadeBefore(path);
+    return made ? made->target : OnDisk(path);
+}
+
+/// "" for a skin that was never read.
+std::string Planner::InOldFolder(std::string_view path) const {
+    if (skin_.OldSkinName.empty()) return "";
+    return WithSeparator(skin_.BasePath() + skin_.OldSkinName) + GetFileName(path);
 }
 
 /// Where the path leads; otherwise the file of that name in the folder that the saved skin had before, and
 /// only then in those of the current skin.
-fs::path FindSource(const dbSkin& skin, std::string_view path) {
-    std::vector<std::string> places = {GetSkinPicturePath(path)};
-    if (!skin.OldSkinName.empty())
-        places.push_back(WithSeparator(skin.BasePath() + skin.OldSkinName) + GetFileName(path));
+fs::path Planner::FindSource(std::string_view path) const {
+    std::vector<std::string> places = PicturePlaces(path, current_);
+    places.insert(places.begin() + 1, InOldFolder(path));
     for (const std::string& place : places)
-        if (FileExists(place)) return OnDisk(place);
-    return FindSkinPicture(path);
+        if (!place.empty() && IsThere(place)) return Place(place);
+    return {};
+}
+
+/// The name under which the picture is stored: its own, or a substitute that no other picture has. One that
+/// the file would give back as a number is none.
+std::string Planner::StoredName(const std::string& name, const fs::path& source) const {
+    if (CanBeNamed(name) && ReadBack(name) == name) return name;
+    for (int number = 1;; ++number) {
+        std::string candidate = Substitute(name, number);
+        if (ReadBack(candidate) != candidate) candidate.insert(0, "_");
+        const fs::path target = OnDisk(folder_ + candidate);
+        const Made* made = MadeBefore(folder_ + candidate);
+        const bool free =
+            made ? SameFile(made->source, source) : !IsTaken(target) || SameBytes(target, source);
+        if (free) return candidate;
+    }
+}
+
+PictureStep Planner::Plan(const std::string& given) {
+    PictureStep step;
+    step.given = given;
+    step.isBlank = TrimBlanks(given).empty();
+    if (!step.isBlank) step.source = FindSource(given);
+    if (step.source.empty()) return step;
+    step.stored = StoredName(GetFileName(given), step.source);
+    step.isRefused = EqualText(step.stored, SettingsFileName);
+    if (step.isRefused) return step;
+    step.target = Place(folder_ + step.stored);
+    std::error_code ignored;
+    const bool isInPlace = step.source == step.target || fs::equivalent(step.source, step.target, ignored);
+    step.isCopied = !isInPlace && !(keepExisting_ && IsThere(folder_ + step.stored));
+    Settle(step);
+    return step;
+}
+
+void Planner::Settle(const PictureStep& step) {
+    const bool stays = !step.isCopied && FileExists(ToText(step.target));
+    if (step.isCopied) {
+        made_.insert_or_assign(LowerText(step.stored), Made{step.target, step.source});
+        winners_.insert_or_assign(step.target, step.source);
+    } else if (stays) {
+        winners_.try_emplace(step.target, step.target);
+    }
+}
+
+std::string Planner::Merged(const PictureStep& step) const {
+    const auto winner = winners_.find(step.target);
+    if (step.target.empty() || winner == winners_.end()) return "";
+    // A bare name means the file of the folder that the skin was read from.
+    const std::string old = ContainsSeparator(step.given) ? "" : InOldFolder(step.given);
+    const fs::path meant = FileExists(old) ? OnDisk(old) : step.source;
+    if (!FileExists(ToText(meant)) || SameFile(meant, winner->second)) return "";
+    return ToText(meant) + " gives way to " + ToText(winner->second);
+}
+
+/// One line for all places that lose the same.
+class LossList {
+public:
+    void Add(const std::string& what, const std::string& where) {
+        const auto [place, isNew] = places_.try_emplace(what, lines_.size());
+        if (isNew) lines_.push_back({what, where, 0});
+        ++lines_[place->second].times;
+    }
+    std::vector<std::string> Lines() const {
+        std::vector<std::string> texts;
+        for (const Line& line : lines_) {
+            const std::string more =
+                line.times > 1 ? ", and " + std::to_string(line.times - 1) + " more" : std::string();
+            texts.push_back(line.what + " (" + line.where + more + ")");
+        }
+        return texts;
+    }
+
+private:
+    struct Line {
+        std::string what, where;
+        int times;
+    };
+    std::vector<Line> lines_;
+    std::map<std::string, std::size_t> places_;
+};
+
+/// Copies the picture. "" if that went well, otherwise why not.
+std::string ReasonAgainst(const PictureStep& step) {
+    try {
+        CopyFileWhole(step.source, step.target);
+        return "";
+    } catch (const Failure& failure) {
+        return failure.description();
+    }
 }
 
 }  // namespace
@@ -81,22 +212,35 @@ std::string StorableSkinName(const dbSkin& skin) {
     }
 }
 
-std::string SaveSkinPicture(const dbSkin& skin, std::string_view path, bool keepExisting) {
-    const std::string given(path);
-    if (TrimBlanks(path).empty()) return "";
-    const fs::path source = FindSource(skin, path);
-    if (source.empty()) return "";
+SavePlan PlanSave(const dbSkin& skin, bool keepExisting) {
+    SavePlan plan;
+    Planner planner(skin, keepExisting);
+    std::vector<std::string> holders;
+    VisitPictures(skin, [&](const std::string& picture, const auto& holder, const auto&) {
+        plan.pictures.push_back(planner.Plan(picture));
+        holders.push_back(holder());
+    });
+    LossList losses;
+    for (std::size_t i = 0; i < holders.size(); ++i) {
+        const PictureStep& step = plan.pictures[i];
+        if (!step.isBlank && step.stored.empty()) losses.Add(step.given + " is not there", holders[i]);
+        if (const std::string merged = planner.Merged(step); !merged.empty()) losses.Add(merged, holders[i]);
+    }
+    plan.losses = losses.Lines();
+    return plan;
+}
 
-    const std::string folder = skin.SkinFolder();
-    const std::string name = StoredName(folder, GetFileName(path), source);
-    if (EqualText(name, SettingsFileName)) return given;
-    const fs::path target = OnDisk(folder + name);
-    std::error_code ignored;
-    if (fs::equivalent(source, target, ignored)) return name;
-    if (keepExisting && FileExists(folder + name)) return name;
-    if (Attempt([&] { CopyFileWhole(source, target); })) return name;
+std::string CarryOut(const PictureStep& step, std::vector<std::string>& failures) {
+    std::string reason;
+    if (step.isRefused)
+        reason = "\"" + step.given + "\" is called like the skin's settings and can't be copied";
+    if (step.isCopied) reason = ReasonAgainst(step);
+    const bool isThere = step.isCopied || step.target.empty() || FileExists(ToText(step.target));
+    if (reason.empty()) return isThere ? step.stored : step.given;
+    if (std::find(failures.begin(), failures.end(), reason) == failures.end()) failures.push_back(reason);
     // A bare name found in the folder that the skin had before would lead nowhere from now on.
-    return ContainsSeparator(path) && OnDisk(path) == source ? given : ToText(source);
+    const bool leads = ContainsSeparator(step.given) && OnDisk(step.given) == step.source;
+    return leads || step.isRefused ? step.given : ToText(step.source);
 }
 
 }  // namespace ornavo

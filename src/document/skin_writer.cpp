@@ -180,20 +180,15 @@ void AppendLayouts(std::string& file, const dbLayouts& layouts) {
     file += Line(1, "/Layouts");
 }
 
-void PackagePictures(dbSkin& skin, bool keepExisting, Probation& probation) {
-    for (const dbSkinPrefRef& pref : *skin.dbSkinPrefs)
-        if (pref->PrefType == KindPicture)
-            Attempt([&] {
-                const std::string now = SaveSkinPicture(skin, pref->value.ToText(), keepExisting);
-                probation.Set(pref->value, Value(now));
-            });
-    static constexpr std::string dbLayoutElement::*Pictures[] = {
-        &dbLayoutElement::PicNormal, &dbLayoutElement::PicOn, &dbLayoutElement::PicOver,
-        &dbLayoutElement::PicDown, &dbLayoutElement::PicDisabled};
-    for (const dbLayoutRef& layout : *skin.dbLayouts)
-        for (const dbLayoutElementRef& element : InOrder(*layout->dbLayoutElements))
-            for (const auto picture : Pictures)
-                probation.Set((*element).*picture, SaveSkinPicture(skin, (*element).*picture, keepExisting));
+/// The pictures that could not be copied, each with its reason.
+std::vector<std::string> PackagePictures(const dbSkin& skin, bool keepExisting, Probation& probation) {
+    const SavePlan plan = PlanSave(skin, keepExisting);
+    std::vector<std::string> failures;
+    auto step = plan.pictures.begin();
+    VisitPictures(skin, [&](const std::string&, const auto&, const auto& store) {
+        store(probation, CarryOut(*step++, failures));
+    });
+    return failures;
 }
 
 }  // namespace
@@ -211,7 +206,7 @@ std::string dbSkin::FileBytes() const {
     return file;
 }
 
-void dbSkin::SaveSkin(bool keepExisting) {
+std::vector<std::string> dbSkin::SaveSkin(bool keepExisting) {
     if (SkinName.empty() || SkinName == "." || SkinName == ".." || ContainsSeparator(SkinName))
         throw Failure(75, "SaveSkin", "A skin's folder can't be called \"" + SkinName + "\"");
     Probation probation;
@@ -219,11 +214,14 @@ void dbSkin::SaveSkin(bool keepExisting) {
     const std::string folder = SkinFolder();
     if (!CreateFolderOnce(folder) && !MakePath(folder))
         throw Failure(75, "SaveSkin", "The folder \"" + folder + "\" could not be made");
-    PackagePictures(*this, keepExisting, probation);
+    RemoveLeftScratchFiles(OnDisk(folder));
+    std::vector<std::string> failures = PackagePictures(*this, keepExisting, probation);
     ReplaceFileItself(OnDisk(SkinFile()), FileBytes());
     OldSkinName = SkinName;
     Dirty = false;
+    Damage.clear();
     probation.Keep();
+    return failures;
 }
 
 }  // namespace ornavo

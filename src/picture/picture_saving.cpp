@@ -46,6 +46,7 @@ fs::path FolderForSources() {
     std::error_code ignored;
     if (!fs::is_directory(fs::symlink_status(folder, ignored)))
         throw Failure(75, "KeepSource", "The folder " + ToText(folder) + " could not be made.");
+    RemoveLeftScratchFiles(folder);
     return folder;
 }
 

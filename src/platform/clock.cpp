@@ -33,4 +33,8 @@ std::string TimeOfDay() {
     return current->Now().toString("HH:mm:ss").toStdString();
 }
 
+std::string TimeStamp() {
+    return clock().Now().toString(QStringLiteral("yyyy-MM-dd HH-mm-ss-zzz")).toStdString();
+}
+
 }  // namespace ornavo

@@ -19,5 +19,7 @@ void UseClock(const Clock* other);  // null: the real one again
 
 /// The clock's time as "HH:mm:ss".
 std::string TimeOfDay();
+/// Date and time as they can stand in the name of a file: "2026-01-31 23-59-59-999".
+std::string TimeStamp();
 
 }  // namespace ornavo

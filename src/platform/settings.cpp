@@ -3,6 +3,10 @@
 
 #include <QCoreApplication>
 #include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <filesystem>
 #include <memory>
 
 #include "base/numbers.h"
@@ -13,22 +17,35 @@ namespace {
 
 std::unique_ptr<QSettings> store;
 
+std::unique_ptr<QTemporaryDir> standIn;  // where the settings of this run are when their file is none
+
 void CloseStore() {
     store.reset();
+    standIn.reset();
 }
 
-void Keep(std::unique_ptr<QSettings> settings) {
-    // Written out while the application still lives.
-    static const bool once = (qAddPostRoutine(CloseStore), true);
-    static_cast<void>(once);
-    store = std::move(settings);
-    store->setFallbacksEnabled(false);
+/// The file behind links; a stand-in for what is no file, which is neither waited for nor replaced.
+QString PlainFile(const QString& path) {
+    namespace fs = std::filesystem;
+    const fs::path place = path.toStdString();
+    std::error_code error;
+    if (fs::is_regular_file(place, error))
+        return QString::fromStdString(fs::canonical(place, error).string());
+    if (!fs::exists(fs::symlink_status(place, error))) return path;
+    std::fprintf(stderr,
+                 "ornavo: the settings %s are no plain file; they count as empty and are not written\n",
+                 qPrintable(path));
+    standIn = std::make_unique<QTemporaryDir>();
+    return standIn->filePath("settings.ini");
+}
+
+QString StandardFile() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           "/Ornavo/Ornavo for Quillmar's Jukebox 3.2.ini";
 }
 
 QSettings& Store() {
-    if (!store)
-        Keep(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, "Ornavo",
-                                         "Ornavo for Quillmar's Jukebox 3.2"));
+    if (!store) UseSettingsFile(StandardFile());
     return *store;
 }
 
@@ -73,7 +90,12 @@ void DeleteSetting(std::string_view section, std::string_view key) {
 }
 
 void UseSettingsFile(const QString& path) {
-    Keep(std::make_unique<QSettings>(path, QSettings::IniFormat));
+    // Written out while the application still lives.
+    static const bool once = (qAddPostRoutine(CloseStore), true);
+    static_cast<void>(once);
+    CloseStore();
+    store = std::make_unique<QSettings>(PlainFile(path), QSettings::IniFormat);
+    store->setFallbacksEnabled(false);
 }
 
 template <>

@@ -14,7 +14,9 @@ namespace ornavo {
 std::string GetSetting(std::string_view section, std::string_view key, std::string_view standard);
 void SaveSetting(std::string_view section, std::string_view key, std::string_view value);
 void DeleteSetting(std::string_view section, std::string_view key);
-/// The file to use from now on; the default is in the user's configuration folder.
+/// The file to use from now on, or the one that a link leads to; the default is in the user's configuration
+/// folder. Where something else stands the settings are empty and last for this run alone, which is told on
+/// the error stream.
 void UseSettingsFile(const QString& path);
 
 /// One setting with its key and default. Read fails (Failure 13) on a text that is not of the type, so that

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QPalette>
+#include <QStandardPaths>
 #include <QStyleFactory>
 #include <array>
 
@@ -74,6 +75,11 @@ void InitCommonControls(QApplication& application) {
     application.setPalette(LightPalette());
     application.setFont(ScreenFont({}));
     UseTheirNumberSigns();
+}
+
+std::string DataFolder() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return data.toStdString() + "/ornavo";
 }
 
 }  // namespace ornavo

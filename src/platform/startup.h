@@ -2,6 +2,8 @@
 // What stands before the first window: environment, style, palette, fonts, number signs.
 #pragma once
 
+#include <string>
+
 class QApplication;
 
 namespace ornavo {
@@ -10,5 +12,7 @@ namespace ornavo {
 void PrepareProcess();
 /// After it: Fusion style, our one light palette, pixel-sized font, font stand-ins, the user's number signs.
 void InitCommonControls(QApplication& application);
+/// Where the program keeps what is the user's: "Skins" and "Recovered" lie in it.
+std::string DataFolder();
 
 }  // namespace ornavo

@@ -2,6 +2,7 @@
 #include "project/frm_skinproject.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -79,6 +80,11 @@ void frm_SkinProject::MakeControls() {
     lst_Layouts->setObjectName("lst_Layouts");
     lst_Layouts->setAccessibleName("Layouts");
     lst_Layouts->setMinimumHeight(40);
+    lbl_Damage = new QLabel(this);
+    lbl_Damage->setObjectName("lbl_Damage");
+    lbl_Damage->setTextFormat(Qt::PlainText);
+    lbl_Damage->setWordWrap(true);
+    lbl_Damage->hide();
     btn_SkinProperties = CaptionButton(this, "btn_SkinProperties", "General Skin Properties",
                                        "Show the preferences of the whole skin");
     btn_CloneLayout =
@@ -96,6 +102,7 @@ void frm_SkinProject::LayOut() {
     column->addLayout(pictures);
     column->addWidget(tbx_SkinName);
     column->addWidget(lst_Layouts, 1);
+    column->addWidget(lbl_Damage);
     for (TileCommand* button : {btn_SkinProperties, btn_CloneLayout, btn_SaveToSkin})
         column->addWidget(button);
     QWidget* const order[] = {btn_OpenSkin, btn_CreateNewSkin,  btn_SaveSkin,    tbx_SkinName,
@@ -135,7 +142,21 @@ void frm_SkinProject::ShowSkinProject(std::string_view key) {
     if (!shown && objSkin->dbLayouts->Count() > 0) shown = objSkin->dbLayouts->Item(1);
     if (shown) objCurrentLayout = shown;
     lst_Layouts->Fill(*objSkin->dbLayouts, shown ? shown->Key : "");
+    ShowDamage();
     if (shown) windows_.ShowToolbox();
+}
+
+/// What the skin's file had lost; the first of it fits the panel, all of it stands in the tool tip.
+void frm_SkinProject::ShowDamage() {
+    const std::vector<std::string>& damage = objSkin->Damage;
+    lbl_Damage->setVisible(!damage.empty());
+    if (damage.empty()) return;
+    QStringList lines;
+    for (const std::string& line : damage) lines += QString::fromStdString(line);
+    const QString more =
+        lines.size() > 1 ? QStringLiteral(" (and %1 more)").arg(lines.size() - 1) : QString();
+    lbl_Damage->setText("The skin's file is damaged. " + lines.first() + more);
+    lbl_Damage->setToolTip(lines.join('\n'));
 }
 
 void frm_SkinProject::ShowReplacedSkin() {
@@ -201,6 +222,7 @@ bool frm_SkinProject::SaveSkin() {
         return false;
     }
     tbx_SkinName->setText(QString::fromStdString(objSkin->SkinName));
+    ShowDamage();
     canvas_.UpdateCurrentLayout();
     return true;
 }
@@ -271,7 +293,10 @@ void frm_SkinProject::lst_Layouts_AfterLabelEdit(const QString& key, const QStri
 
 frm_SkinProject::Unload frm_SkinProject::AskToSave() {
     FinishEdits();
-    if (!objSkin || !objSkin->Dirty) return Unload::Done;
+    if (!objSkin || !objSkin->Dirty) {
+        files_.KeepDropped();
+        return Unload::Done;
+    }
     const Answer answer = prompts().Message("Save changes of current Skin before closing Ornavo?", SaveTitle,
                                             Icon::Question, Buttons::YesNoCancel);
     if (answer == Answer::Cancel) return Unload::Cancelled;

@@ -12,6 +12,7 @@
 #include "project/layout_list.h"
 #include "project/skin_files.h"
 
+class QLabel;
 class QLineEdit;
 
 namespace ornavo {
@@ -24,6 +25,7 @@ public:
 
     QLineEdit* tbx_SkinName;
     LayoutList* lst_Layouts;
+    QLabel* lbl_Damage;  // what the skin's file had lost, if anything
     TileCommand *btn_OpenSkin, *btn_CreateNewSkin, *btn_SaveSkin;
     TileCommand *btn_SkinProperties, *btn_CloneLayout, *btn_SaveToSkin;
     QPointer<frm_AddNewSkin> AddNewSkin;  // while it is open
@@ -51,6 +53,7 @@ private:
     void LayOut();
     void EnableSkinControls(bool enabled);
     void EnableLayoutButtons(bool enabled);
+    void ShowDamage();
     void ShowReplacedSkin();
     void ShowCurrentLayout();
     void FinishEdits();

@@ -5,6 +5,7 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "document/skin_packaging.h"
 #include "platform/prompts.h"
 #include "project/layout_steps.h"
 
@@ -39,12 +40,21 @@ dbLayoutRef AddCopy(dbSkin& skin, std::string_view name, const dbLayout& source)
     return copy;
 }
 
+/// The pictures by their places in the current skin: another one means its own by a bare name.
+void NamePlaces(const dbLayout& layout) {
+    for (const dbLayoutElementRef& element : *layout.dbLayoutElements)
+        for (const PictureField& picture : PictureFields) {
+            const std::filesystem::path place = FindSkinPicture((*element).*picture.field);
+            if (!place.empty()) (*element).*picture.field = ToText(place);
+        }
+}
+
 constexpr const char* InsertTitle = "Insert Layout to Skin";
 
 /// False where the file can't be read, which is told.
 bool Read(dbSkin& skin, const char* title) {
     try {
-        if (skin.LoadSkin().found) return true;
+        if (skin.LoadSkin()) return true;
         throw Failure(53, title, skin.SkinFile() + " not found!");
     } catch (const Failure& failure) {
         prompts().Message(failure.description(), title, Icon::Critical, Buttons::Ok);
@@ -52,8 +62,10 @@ bool Read(dbSkin& skin, const char* title) {
     }
 }
 
-void ReadAgain(const char* title) {
-    if (Read(*objSkin, title)) objSkin->SetupSkinPrefs();
+void ReadAgain(SkinFiles& files, const char* title) {
+    if (!Read(*objSkin, title)) return;
+    objSkin->SetupSkinPrefs();
+    files.RememberText();
 }
 
 }  // namespace
@@ -79,7 +91,7 @@ std::string CloneLayout(std::string_view key, SkinFiles& files) {
         objSkin->dbLayouts->Remove(copyKey);
         return "";
     }
-    ReadAgain("Clone Layout");
+    ReadAgain(files, "Clone Layout");
     return copyKey;
 }
 
@@ -96,9 +108,10 @@ bool InsertLayoutToSkin(std::string_view key, SkinFiles& files) {
     const bool same = EqualText(target.SkinName, objSkin->SkinName);
     if (same && files.Save() != SkinFiles::Saved::Yes) return false;
     if (!Read(target, InsertTitle)) return same;  // what can't be read must not be replaced
-    AddCopy(target, GetFreeClonedText(target, answer), *source);
+    const dbLayoutRef copy = AddCopy(target, GetFreeClonedText(target, answer), *source);
+    if (!same) NamePlaces(*copy);
     files.SaveInto(target, home);
-    if (same) ReadAgain(InsertTitle);
+    if (same) ReadAgain(files, InsertTitle);
     return same;
 }
 

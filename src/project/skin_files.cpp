@@ -9,6 +9,8 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "dialogs/ccommondialog.h"
+#include "document/recovered.h"
+#include "document/skin_packaging.h"
 #include "platform/clock.h"
 #include "platform/screen.h"
 
@@ -16,9 +18,6 @@ namespace ornavo {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::size_t KeptSkins = 10;
-constexpr std::size_t StampLength = 23;  // of "2026-01-31 23-59-59-999"
 
 /// One form for each folder, whatever its case, links and separators.
 fs::path FolderOf(const dbSkin& skin) {
@@ -28,19 +27,16 @@ fs::path FolderOf(const dbSkin& skin) {
     return ignored ? folder : plain;
 }
 
-std::string StampOf(const fs::path& file) {
-    const std::string name = file.stem().string();
-    return name.size() < StampLength ? name : name.substr(name.size() - StampLength);
+std::string Listed(const std::vector<std::string>& lines) {
+    constexpr std::size_t most = 15;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(lines.size(), most); ++i) text += lines[i] + "\n";
+    if (lines.size() > most) text += "and " + std::to_string(lines.size() - most) + " more\n";
+    return text;
 }
 
-void KeepLast(const fs::path& folder) {
-    std::vector<fs::path> files;
-    std::error_code ignored;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored))
-        if (entry.path().extension() == ".xml") files.push_back(entry.path());
-    std::sort(files.begin(), files.end(),
-              [](const fs::path& one, const fs::path& two) { return StampOf(one) > StampOf(two); });
-    for (std::size_t i = KeptSkins; i < files.size(); ++i) Attempt([&] { fileLayer().Remove(files[i]); });
+bool Agreed(const std::string& question) {
+    return prompts().Message(question, SaveTitle, Icon::Question, Buttons::YesNo) == Answer::Yes;
 }
 
 }  // namespace
@@ -48,7 +44,11 @@ void KeepLast(const fs::path& folder) {
 SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder) {
     if (!ContainsSeparator(text))
         return {WithSeparator(WithSeparator(ownFolder) + "Skins"), std::string(text)};
-    std::string folder = WithSeparator(fs::absolute(OnDisk(text)).lexically_normal().string());
+    std::error_code error;
+    const fs::path whole = fs::absolute(OnDisk(text), error);
+    if (error)
+        throw Failure(75, "PlaceOfSkin", "\"" + std::string(text) + "\" can't be found: " + error.message());
+    std::string folder = WithSeparator(whole.lexically_normal().string());
     if (EqualText(GetFileName(folder), SettingsFileName))
         folder = GetParentFolderName(folder.substr(0, folder.size() - 1));
     folder.pop_back();
@@ -58,7 +58,9 @@ SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder) {
 SkinFiles::SkinFiles(std::string ownFolder, std::string dataFolder)
     : ownFolder_(std::move(ownFolder)),
       dataFolder_(std::move(dataFolder)),
-      lastParent_(WithSeparator(ownFolder_) + "Skins") {}
+      lastParent_(WithSeparator(ownFolder_) + "Skins") {
+    RememberText();
+}
 
 std::optional<SkinPlace> SkinFiles::AskForSkin() {
     const FileOptions options = {"Skin Settings|SkinSettings.xml", lastParent_, "Open Skin", ""};
@@ -73,6 +75,8 @@ void SkinFiles::Replace(dbSkinRef skin) {
     KeepDropped();
     objSkin = std::move(skin);
     objCurrentLayout = std::make_shared<dbLayout>();
+    acceptedLosses_.clear();
+    RememberText();
 }
 
 void SkinFiles::Open(const SkinPlace& place, const std::function<void()>& beforeIt) {
@@ -98,46 +102,69 @@ void SkinFiles::Create(std::string_view name, std::int32_t width, std::int32_t h
     Replace(std::move(skin));
 }
 
-SkinFiles::Saved SkinFiles::SaveTo(dbSkin& skin, const fs::path& home, bool keepExisting) const {
+bool SkinFiles::MaySave(const dbSkin& skin, const fs::path& home, bool keepExisting) {
     const fs::path folder = FolderOf(skin);
-    const std::string file = ToText(folder / SettingsFileName);
-    if (folder != home && !NothingStandsAt(file)) {
-        const std::string question = "There is a skin in\n" + ToText(folder) + "\nalready. Replace it?";
-        if (prompts().Message(question, SaveTitle, Icon::Question, Buttons::YesNo) != Answer::Yes)
-            return Saved::No;
-    }
+    const bool isOther = folder != home && !NothingStandsAt(ToText(folder / SettingsFileName));
+    if (isOther && !Agreed("There is a skin in\n" + ToText(folder) + "\nalready. Replace it?")) return false;
+    if (IsDamaged(skin, home) &&
+        !Agreed("The file of this skin is damaged:\n\n" + Listed(skin.Damage) +
+                "\nA save writes what could be read; the damaged file is put into \"Recovered\" first. Save "
+                "anyway?"))
+        return false;
+    const std::vector<std::string> losses = PlanSave(skin, keepExisting).losses;
+    if (losses.empty() || losses == acceptedLosses_) return true;
+    if (!Agreed("The skin would lose these pictures:\n\n" + Listed(losses) + "\nSave anyway?")) return false;
+    acceptedLosses_ = losses;
+    return true;
+}
+
+bool SkinFiles::IsDamaged(const dbSkin& skin, const fs::path& home) {
+    return !skin.Damage.empty() && FolderOf(skin) == home;
+}
+
+SkinFiles::Saved SkinFiles::SaveTo(dbSkin& skin, const fs::path& home, bool keepExisting) {
+    if (!MaySave(skin, home, keepExisting)) return Saved::No;
+    const std::string file = ToText(FolderOf(skin) / SettingsFileName);
+    std::vector<std::string> uncopied;
     try {
         const WaitPointer wait;
-        skin.SaveSkin(keepExisting);
-        return Saved::Yes;
+        if (IsDamaged(skin, home)) KeepRecovered(dataFolder_, skin.SkinName, TimeStamp(), ReadFile(file));
+        uncopied = skin.SaveSkin(keepExisting);
     } catch (const Failure& failure) {
         prompts().Message("The skin could not be saved to\n" + file + "\n\n" + failure.description(),
                           SaveTitle, Icon::Critical, Buttons::Ok);
         return Saved::Failed;
     }
+    if (!uncopied.empty())
+        prompts().Message("The skin is saved, but these pictures stay where they are:\n\n" + Listed(uncopied),
+                          SaveTitle, Icon::Exclamation, Buttons::Ok);
+    return Saved::Yes;
 }
 
 SkinFiles::Saved SkinFiles::Save() {
     const Saved saved = SaveTo(*objSkin, home_, false);
-    if (saved == Saved::Yes) home_ = FolderOf(*objSkin);
+    if (saved == Saved::Yes) {
+        home_ = FolderOf(*objSkin);
+        RememberText();
+    }
     return saved;
 }
 
-SkinFiles::Saved SkinFiles::SaveInto(dbSkin& skin, const fs::path& home) const {
+SkinFiles::Saved SkinFiles::SaveInto(dbSkin& skin, const fs::path& home) {
     std::error_code ignored;
     return SaveTo(skin, fs::weakly_canonical(home, ignored), true);
 }
 
-void SkinFiles::KeepDropped() const {
-    if (!objSkin || !objSkin->Dirty) return;
-    Attempt([&] {
-        const std::string folder = WithSeparator(WithSeparator(dataFolder_) + "Recovered");
-        MakePath(folder);
-        const std::string stamp = clock().Now().toString("yyyy-MM-dd HH-mm-ss-zzz").toStdString();
-        ReplaceFile(OnDisk(folder) / (CleanFileName(objSkin->SkinName) + ' ' + stamp + ".xml"),
-                    objSkin->FileBytes());
-        KeepLast(OnDisk(folder));
-    });
+void SkinFiles::RememberText() {
+    knownText_ = objSkin->FileBytes();
+}
+
+void SkinFiles::KeepDropped() {
+    if (!objSkin) return;
+    const std::string text = objSkin->FileBytes();
+    if (text == knownText_) return;
+    if (!objSkin->Dirty && WithoutDrawnParts(text) == WithoutDrawnParts(knownText_)) return;
+    if (Attempt([&] { KeepRecovered(dataFolder_, objSkin->SkinName, TimeStamp(), text); })) knownText_ = text;
 }
 
 }  // namespace ornavo

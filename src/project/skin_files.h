@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "document/current_skin.h"
 
@@ -20,7 +21,8 @@ struct SkinPlace {
 };
 
 /// A text with a separator, or one that names a folder or file here by a path, is a skin's folder or its
-/// settings file; any other text is the name of a folder under `ownFolder` + "Skins".
+/// settings file; any other text is the name of a folder under `ownFolder` + "Skins". Failure 75 for a path
+/// from a working folder that is gone.
 SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder);
 
 inline constexpr const char* SaveTitle = "Save current Skin";
@@ -42,22 +44,32 @@ public:
     void Create(std::string_view name, std::int32_t width, std::int32_t height);
 
     enum class Saved { Yes, No, Failed };
-    /// Saves the current skin. Before it writes into a folder that is not the skin's own and has a settings
-    /// file, it asks. A failure is told with path and reason; the model is then as it was.
+    /// Saves the current skin. It asks before it writes into a folder that is not the skin's own and has a
+    /// settings file, before it replaces a damaged file, which is put into "Recovered" then, and before
+    /// pictures are lost; about the same ones only once. A failure is told with path and reason; the model is
+    /// then as it was.
     Saved Save();
     /// The same for any skin that was read from `home`; it keeps pictures that are there.
-    Saved SaveInto(dbSkin& skin, const std::filesystem::path& home) const;
-    /// Puts the text of a changed current skin into "Recovered", where the last ten are kept. Never fails.
-    void KeepDropped() const;
+    Saved SaveInto(dbSkin& skin, const std::filesystem::path& home);
+    /// The current skin's text, as it stands, needs no keeping: it has just been read.
+    void RememberText();
+    /// Puts the text of the current skin into "Recovered" when it differs from the one that was read or saved
+    /// last. What a composition writes by itself is no difference. Never fails.
+    void KeepDropped();
 
 private:
     void Replace(dbSkinRef skin);
-    Saved SaveTo(dbSkin& skin, const std::filesystem::path& home, bool keepExisting) const;
+    Saved SaveTo(dbSkin& skin, const std::filesystem::path& home, bool keepExisting);
+    /// Asks about what a save would replace or lose.
+    bool MaySave(const dbSkin& skin, const std::filesystem::path& home, bool keepExisting);
+    static bool IsDamaged(const dbSkin& skin, const std::filesystem::path& home);  // the file to replace
 
     std::string ownFolder_;
     std::string dataFolder_;
-    std::string lastParent_;      // of the skin that was last chosen by the dialog
-    std::filesystem::path home_;  // folder of the current skin's file; empty for one never saved
+    std::string lastParent_;                   // of the skin that was last chosen by the dialog
+    std::filesystem::path home_;               // folder of the current skin's file; empty for one never saved
+    std::string knownText_;                    // of the current skin, when it was read or saved last
+    std::vector<std::string> acceptedLosses_;  // that the user agreed to for the current skin
 };
 
 }  // namespace ornavo

@@ -65,6 +65,24 @@ TEST_F(ShutdownTest, AnUnchangedSkinAsksNothing) {
     EXPECT_EQ(settings::OrnavoTop.Read(), 1350);
 }
 
+TEST_F(ShutdownTest, LookingAtEveryLayoutLeavesNothing) {
+    objSkin->Dirty = false;
+    std::filesystem::copy(ORNAVO_SOURCE_DIR "/skins", Folder() + "/Skins",
+                          std::filesystem::copy_options::recursive);
+    for (const char* skin : {"Aurora", "Classic"}) {
+        program_->LoadDebug(skin);
+        for (int row = 0; row + 1 < Panel().lst_Layouts->topLevelItemCount(); ++row)
+            Panel().lst_Layouts->setCurrentItem(Panel().lst_Layouts->topLevelItem(row));
+        std::filesystem::remove_all(Folder() + "/Recovered");
+        EXPECT_TRUE(Panel().close());
+        EXPECT_FALSE(FolderExists(Folder() + "/Recovered")) << skin;
+        Panel().show();
+    }
+    objSkin->dbLayouts->Item(1)->LayoutName = "Renamed";
+    EXPECT_TRUE(Main().close());
+    EXPECT_TRUE(FolderExists(Folder() + "/Recovered"));
+}
+
 TEST_F(ShutdownTest, YesSavesAndNoDoesNot) {
     for (const Answer answer : {Answer::No, Answer::Yes}) {
         prompts_.answers = {answer};

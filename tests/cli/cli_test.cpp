@@ -132,6 +132,37 @@ TEST_F(ToolTest, SaveTakesNoOtherSkinsPlaceUnasked) {
     EXPECT_EQ(RunTool({"save", red}).code, 0) << "the folder that was opened";
 }
 
+TEST_F(ToolTest, SaveTellsWhatIsLost) {
+    qputenv("XDG_DATA_HOME", folder_.path().toUtf8());
+    const auto write = [&](const QByteArray& text) {
+        QFile file(skin_ + "/SkinSettings.xml");
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    };
+    const auto withPicture = [](const QString& path) {
+        return QByteArray(SkinText).replace(
+            "<Value>G", "<PrefType>5</PrefType>\n<Value>" + path.toUtf8() + "</Value>\n<Caption>G");
+    };
+    write(withPicture("gone.png"));
+    const Outcome dropped = RunTool({"save", skin_});
+    EXPECT_EQ(dropped.code, 0);
+    EXPECT_TRUE(dropped.err.contains("gone.png is not there")) << dropped.err.toStdString();
+    QFile::copy(skin_ + "/SkinSettings.xml", folder_.filePath("a.png"));
+    QDir(skin_).mkdir("a.png");
+    write(withPicture(folder_.filePath("a.png")));
+    const Outcome uncopied = RunTool({"save", skin_});
+    EXPECT_EQ(uncopied.code, 1);
+    EXPECT_TRUE(uncopied.err.contains("could not be copied")) << uncopied.err.toStdString();
+    const QByteArray torn = QByteArray(SkinText).left(700);
+    write(torn);
+    EXPECT_TRUE(RunTool({"dump", skin_}).err.contains("damaged"));
+    EXPECT_EQ(RunTool({"save", skin_}).code, 1);
+    EXPECT_EQ(Bytes(skin_ + "/SkinSettings.xml"), torn);
+    EXPECT_EQ(RunTool({"save", skin_, "--replace"}).code, 0);
+    const QDir recovered(folder_.filePath("ornavo/Recovered"));
+    ASSERT_EQ(recovered.entryList(QDir::Files).size(), 1);
+    EXPECT_EQ(Bytes(recovered.filePath(recovered.entryList(QDir::Files).first())), torn);
+}
+
 TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
     const QString out = folder_.filePath("out.png");
     ASSERT_EQ(RunTool({"render", skin_, "--layout", "Standard", "--out", out, "--edge", "hard"}).code, 0);

@@ -138,6 +138,38 @@ TEST_F(WholeSave, KilledAtEachStep) {
     EXPECT_EQ(scratch.Files().at("Blue/SkinSettings.xml"), after.at("Blue/SkinSettings.xml"));
 }
 
+TEST_F(WholeSave, TheNextSaveClearsAway) {
+    const auto left = [&] {
+        std::size_t count = 0;
+        for (const auto& [name, bytes] : scratch.Files("Blue")) count += name.ends_with(".tmp");
+        return count;
+    };
+    for (const int last : {SIGKILL, SIGSTOP}) {
+        Prepare("Blue");
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            const StepLayer layer([last](int step) {
+                if (step == 5) raise(last);
+            });
+            objSkin->SaveSkin(false);
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, WUNTRACED), child);
+        EXPECT_EQ(left(), 1u);
+        const fs::path old = folder / "Blue/.ornavo-1234567.tmp";
+        Put(old, "of nobody known");
+        fs::last_write_time(old, fs::file_time_type::clock::now() - std::chrono::hours(25));
+        objSkin->SaveSkin(false);
+        EXPECT_EQ(left(), last == SIGSTOP ? 1u : 0u) << "a running one's stays";
+        if (last == SIGKILL) continue;
+        kill(child, SIGCONT);
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0 && left() == 0);
+    }
+}
+
 /// The system itself refuses to write beyond a size; unlike a right, this stops every user.
 TEST_F(WholeSave, TheSystemTakesNoMore) {
     Prepare("Blue");

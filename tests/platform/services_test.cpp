@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QFontMetrics>
 #include <QLineEdit>
@@ -17,6 +18,7 @@
 #include "platform/symbol_fonts.h"
 #include "platform/text_controls.h"
 #include "support/failure_number.h"
+#include "support/temporary_folder.h"
 
 namespace ornavo {
 namespace {
@@ -75,6 +77,31 @@ TEST_F(Settings, TypedOnes) {
     EXPECT_EQ(FailureNumber([&] { number.Read(); }), 13);
     SaveSetting("S", "Number", "99999999999");
     EXPECT_EQ(FailureNumber([&] { number.Read(); }), 6);
+}
+
+TEST(SettingsFile, OnlyAPlainOneIsWritten) {
+    const TemporaryFolder folder;
+    const std::filesystem::path link = folder / "link.ini", real = folder / "real.ini",
+                                pipe = folder / "pipe.ini";
+    const auto writeTo = [](const std::filesystem::path& file) {
+        ::testing::internal::CaptureStderr();
+        UseSettingsFile(QString::fromStdString(file.string()));
+        SaveSetting("S", "Key", "value");
+        EXPECT_EQ(GetSetting("S", "Key", ""), "value");
+        UseSettingsFile(QString::fromStdString(file.string() + ".other"));
+        return ::testing::internal::GetCapturedStderr();
+    };
+    std::filesystem::create_symlink("real.ini", link);
+    const std::string told = writeTo(link);
+    ASSERT_FALSE(std::filesystem::exists(real)) << "a link that leads nowhere";
+    EXPECT_NE(told.find(link.string()), std::string::npos) << told;
+    folder.Write("real.ini", "");
+    EXPECT_EQ(writeTo(link), "");
+    EXPECT_NE(TemporaryFolder::Read(real).find("Key=value"), std::string::npos);
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_NE(writeTo(pipe), "");
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
 }
 
 TEST(Fonts, PointsAndAttributes) {

@@ -97,7 +97,10 @@ TEST_F(PanelTest, InsertingIntoAnotherSkin) {
     objSkin->Dirty = true;
     prompts_.inputs = {"Big Party"};
     prompts_.files = {Settings("Green").string()};
+    prompts_.answers = {Answer::Yes};
     Click(panel_->btn_SaveToSkin);
+    ASSERT_EQ(prompts_.asked.size(), 2u) << "one name, two pictures";
+    EXPECT_NE(prompts_.asked[1].find((blue / "b.bmp").string() + " gives way"), std::string::npos);
     const dbSkin stored = Stored("Green");
     ASSERT_EQ(stored.dbLayouts->Count(), 2);
     const dbLayoutRef inserted = stored.dbLayouts->Item("Big_Party_(cloned2)");

@@ -34,6 +34,12 @@ TEST_F(FilesTest, WhereASkinLies) {
         EXPECT_EQ(place.basePath, row.base) << row.text;
         EXPECT_EQ(place.skinName, row.name) << row.text;
     }
+    const fs::path before = fs::current_path();
+    fs::create_directory(Root() / "gone");
+    fs::current_path(Root() / "gone");
+    fs::remove(Root() / "gone");
+    EXPECT_THROW(PlaceOfSkin("./Party", "/own"), Failure);
+    fs::current_path(before);
 }
 
 TEST_F(FilesTest, ASkinIsOpened) {
@@ -113,6 +119,85 @@ TEST_F(FilesTest, AFailedSaveIsToldAndLosesNothing) {
     EXPECT_FALSE(objSkin->Dirty);
 }
 
+TEST_F(FilesTest, ADamagedFileIsAskedAboutAndKept) {
+    const std::string open =
+        "<Skin>\n<Layouts>\n<Layout>\n<Key>A</Key>\n<Elements>\n<Element>\n<Key>b</Key>\n";
+    const std::string end = "</Elements>\n</Layout>\n</Layouts>\n</Skin>\n", element = "</Element>\n";
+    const std::pair<std::string, const char*> rows[] = {
+        {"", nullptr},
+        {open + element + end, nullptr},
+        {"no tag in sight\n", "no <Skin>"},
+        {std::string("\xFF\xFE<\0S\0k\0i\0n\0>\0", 14), "UTF-16"},
+        {open + element, "layout \"A\" with 1 elements"},
+        {open + end, "element \"b\""},
+        {open + element + "<Element>\n<Key>B</Key>\n" + element + end, "element \"B\""},
+        {"<Skin>\n</Skin>\n<Skin>\n</Skin>\n", "more than one <Skin>"},
+    };
+    const fs::path recovered = Root() / "data" / "Recovered", file = Root() / "Skins/Torn/SkinSettings.xml";
+    for (const auto& [bytes, words] : rows) {
+        ScriptedPrompts prompts;
+        fs::remove_all(recovered);
+        folder_.Write("Skins/Torn/SkinSettings.xml", bytes);
+        SkinFiles files(Root().string(), (Root() / "data").string());
+        files.Open(PlaceOfSkin("Torn", Root().string()));
+        prompts.answers = {Answer::No};
+        EXPECT_EQ(files.Save(), words ? SkinFiles::Saved::No : SkinFiles::Saved::Yes) << bytes;
+        if (!words) continue;
+        ASSERT_EQ(prompts.asked.size(), 1u) << bytes;
+        EXPECT_NE(prompts.asked[0].find(words), std::string::npos) << prompts.asked[0];
+        EXPECT_EQ(TemporaryFolder::Read(file), bytes);
+        prompts.answers = {Answer::Yes};
+        EXPECT_EQ(files.Save(), SkinFiles::Saved::Yes);
+        ASSERT_TRUE(fs::exists(recovered)) << bytes;
+        EXPECT_EQ(folder_.Files("data/Recovered").begin()->second, bytes);
+        EXPECT_EQ(files.Save(), SkinFiles::Saved::Yes);
+        EXPECT_EQ(prompts.asked.size(), 2u) << "the file is whole now";
+    }
+}
+
+TEST_F(FilesTest, PicturesThatASaveWouldLose) {
+    ScriptedPrompts prompts;
+    SkinFiles files(Root().string(), (Root() / "data").string());
+    files.Create("New", 800, 600);
+    const std::string a = folder_.Write("a/x.png", "A"), b = folder_.Write("b/x.png", "B");
+    dbLayoutElement& main = *objSkin->dbLayouts->Item(1)->dbLayoutElements->Item("Main");
+    const auto change = [&] { main.PicNormal = "gone.png", main.PicOn = a, main.PicOver = b; };
+    change();
+    prompts.answers = {Answer::No, Answer::Yes};
+    EXPECT_EQ(files.Save(), SkinFiles::Saved::No);
+    ASSERT_EQ(prompts.asked.size(), 1u);
+    EXPECT_NE(prompts.asked[0].find("gone.png is not there (Admin-Mode, Main, Normal)\n" + a +
+                                    " gives way to " + b + " (Admin-Mode, Main, On)"),
+              std::string::npos)
+        << prompts.asked[0];
+    EXPECT_EQ(main.PicNormal + main.PicOn + main.PicOver, "gone.png" + a + b);
+    EXPECT_FALSE(fs::exists(Root() / "Skins"));
+    EXPECT_EQ(files.Save(), SkinFiles::Saved::Yes);
+    EXPECT_EQ(main.PicNormal + main.PicOn + main.PicOver, "x.pngx.png");
+    EXPECT_EQ(folder_.Files("Skins/New")["x.png"], "B");
+    change();
+    EXPECT_EQ(files.Save(), SkinFiles::Saved::Yes);
+    EXPECT_EQ(prompts.asked.size(), 2u) << "not again about the same";
+    main.PicDown = "b.png";
+    EXPECT_EQ(files.Save(), SkinFiles::Saved::No) << "but about another";
+}
+
+TEST_F(FilesTest, APictureThatCannotBeCopiedIsNamed) {
+    ScriptedPrompts prompts;
+    SkinFiles files(Root().string(), (Root() / "data").string());
+    files.Create("New", 800, 600);
+    const std::string real = folder_.Write("a/x.png", "A");
+    fs::create_directories(Root() / "Skins/New/x.png");
+    dbLayoutElement& main = *objSkin->dbLayouts->Item(1)->dbLayoutElements->Item("Main");
+    main.PicNormal = main.PicOn = real;
+    objSkin->Dirty = true;
+    EXPECT_EQ(files.Save(), SkinFiles::Saved::Yes);
+    EXPECT_FALSE(objSkin->Dirty);
+    ASSERT_EQ(prompts.asked.size(), 1u) << "one box";
+    EXPECT_NE(prompts.asked[0].find(real + "\" could not be copied: "), std::string::npos)
+        << prompts.asked[0];
+}
+
 class TickingClock : public Clock {
 public:
     TickingClock() { UseClock(this); }
@@ -143,8 +228,25 @@ TEST_F(FilesTest, DroppedChangesAreRecoverable) {
     EXPECT_NE(fileLayer().Read(last).find("<SkinWidth>1011</SkinWidth>"), std::string::npos);
     EXPECT_TRUE(prompts.asked.empty()) << "silently";
     folder_.Write("blocked", "");
-    SkinFiles(Root().string(), (Root() / "blocked").string()).KeepDropped();
+    SkinFiles blocked(Root().string(), (Root() / "blocked").string());
+    objSkin->SkinWidth = 5, objSkin->Dirty = true;
+    blocked.KeepDropped();
     EXPECT_TRUE(prompts.asked.empty());
+}
+
+TEST_F(FilesTest, WhatSetsNoMarkIsRecoverableToo) {
+    SkinFiles files(Root().string(), (Root() / "data").string());
+    const auto kept = [&] { return fs::exists(Root() / "data") ? folder_.Files("data").size() : 0; };
+    files.Create("New", 800, 600);
+    dbLayoutElement& main = *objSkin->dbLayouts->Item(1)->dbLayoutElements->Item("Main");
+    main.Font = objSkin->dbSkinPrefs->Item("AA_Font")->Font = std::make_shared<Font>();
+    main.TransparentColor = 77;
+    objSkin->dbSkinPrefs->Item("KB_TransparentColor")->value = 77;
+    files.KeepDropped();
+    EXPECT_EQ(kept(), 0u) << "what a composition writes by itself";
+    objSkin->dbLayouts->Item(1)->LayoutName = "Renamed";
+    files.Create("Other", 800, 600);
+    EXPECT_EQ(kept(), 1u);
 }
 
 TEST_F(FilesTest, TheOwnFolder) {
