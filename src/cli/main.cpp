@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* Usage =
     "Usage: ornavo-cli COMMAND SKIN [OPTIONS]\n"
-    "SKIN is a skin's folder or the SkinSettings.xml in it.\n\n"
+    "SKIN is a skin's folder, the SkinSettings.xml in it, or the name of a skin in your folder \"Skins\".\n\n"
     "  dump SKIN [--raw]                     the skin as JSON; --raw without the preferences that its file "
     "lacks\n"
     "  save SKIN [--as NAME] [--keep-existing] [--replace]\n"

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/open_skin.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStandardPaths>
 #include <charconv>
 #include <cstdio>
 
@@ -11,16 +14,30 @@
 namespace ornavo {
 namespace {
 
-constexpr int MostPixels = 16384;
 constexpr const char* SettingsFile = "SkinSettings.xml";
 
-bool ReadWhole(std::string_view text, int& number) {
+bool ReadWhole(std::string_view text, int most, int& number) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() && number >= 1 && number <= MostPixels;
+    return error == std::errc() && end == text.data() + text.size() && number >= 1 && number <= most;
+}
+
+/// Where the editor keeps the user's skins: beside the program in a portable copy, else with the user's data.
+/// Nothing is made there.
+std::string UserSkins() {
+    const QFileInfo beside(QCoreApplication::applicationDirPath() + "/Skins");
+    if (beside.isDir() && beside.isWritable()) return WithSeparator(beside.filePath().toStdString());
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return data.toStdString() + "/ornavo/Skins/";
 }
 
 /// The skin's folder with a separator at its end, whichever way it was named.
 std::string FolderOf(const std::string& skin) {
+    if (!ContainsSeparator(skin) && NothingStandsAt(skin)) {
+        const std::string skins = UserSkins();
+        if (!FolderExists(skins + skin))
+            throw Failure(53, "Skin", "There is no skin \"" + skin + "\" here, and none in " + skins);
+        return WithSeparator(ToText(OnDisk(skins + skin)));
+    }
     std::string path = ToText(std::filesystem::absolute(OnDisk(skin)).lexically_normal());
     return EqualText(GetFileName(path), SettingsFile) && !FolderExists(path) ? GetParentFolderName(path)
                                                                              : WithSeparator(path);
@@ -62,14 +79,14 @@ dbLayoutRef NamedLayout(const Arguments& arguments) {
     return layout;
 }
 
-Size NamedSize(const Arguments& arguments) {
+Size NamedSize(const Arguments& arguments, int most) {
     if (!arguments.Has("size")) return {objSkin->SkinWidth, objSkin->SkinHeight};
     const std::string text = arguments.Get("size");
     const std::size_t times = text.find('x');
     Size size;
-    if (times == std::string::npos || !ReadWhole(std::string_view(text).substr(0, times), size.width) ||
-        !ReadWhole(std::string_view(text).substr(times + 1), size.height))
-        throw UsageError("--size takes WIDTHxHEIGHT, 1 to 16384 pixels each");
+    if (times == std::string::npos || !ReadWhole(std::string_view(text).substr(0, times), most, size.width) ||
+        !ReadWhole(std::string_view(text).substr(times + 1), most, size.height))
+        throw UsageError("--size takes WIDTHxHEIGHT, 1 to " + std::to_string(most) + " pixels each");
     return size;
 }
 

@@ -8,7 +8,7 @@
 
 #include "cli/open_skin.h"
 #include "platform/clock.h"
-#include "platform/pictures.h"
+#include "platform/form.h"
 #include "platform/prompts.h"
 #include "playback/info_show.h"
 #include "render/compose.h"
@@ -104,6 +104,18 @@ bool OneOf(const Arguments& arguments, const std::string& name, const std::strin
     return value == first;
 }
 
+/// A skin that is larger than a window can be is drawn as large as that, and it is told.
+Size SizeToDraw(const Arguments& arguments) {
+    const Size whole = NamedSize(arguments, MostWindowPixels);
+    if (whole.width < 1 || whole.height < 1)
+        throw Failure(5, "Render", "The skin has no size; give one with --size.");
+    const Size size = {std::min(whole.width, MostWindowPixels), std::min(whole.height, MostWindowPixels)};
+    if (size != whole)
+        std::fprintf(stderr, "ornavo-cli: the skin is %d x %d pixels; it is composed at %d x %d\n",
+                     whole.width, whole.height, size.width, size.height);
+    return size;
+}
+
 }  // namespace
 
 int Render(const Arguments& arguments) {
@@ -113,12 +125,7 @@ int Render(const Arguments& arguments) {
     const GivenClock clock(arguments.Get("time", ""));
     OpenNamedSkin(arguments);
     objCurrentLayout = NamedLayout(arguments);
-    const Size size = NamedSize(arguments);
-    const bool tooLarge = std::int64_t{size.width} * size.height > PicturePixelLimit;
-    if (size.width < 1 || size.height < 1 || tooLarge)
-        throw Failure(5, "Render",
-                      tooLarge ? "The picture would be too large; give another size with --size."
-                               : "The skin has no size; give one with --size.");
+    const Size size = SizeToDraw(arguments);
     const ConsolePrompts answers;
     OffscreenTarget target(size);
     (preview ? ComposePreview : ComposeLayout)(target, objCurrentLayout, objSkin->SkinWidth,

@@ -34,8 +34,7 @@ struct Ground {
     std::string name = "white";
 };
 
-Ground GroundOfSelection() {
-    const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(SelKey);
+Ground GroundOf(const dbLayoutElementRef& element) {
     if (!element) return {};
     const QColor colour = ScreenColour(element->BackgroundColor);
     return {colour, "the element's background color, " + colour.name().toStdString()};
@@ -132,7 +131,8 @@ void frm_PictureEditor::Form_Load() {
 
 void frm_PictureEditor::LoadSource() {
     const PictureRef picture = LoadSkinPicture(editPicture_);
-    const Ground ground = GroundOfSelection();
+    const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(SelKey);
+    const Ground ground = GroundOf(element);
     const QImage flat = picture ? Flattened(picture->image, ground.colour) : QImage();
     const bool loaded = !flat.isNull() && source_.CreateFromPicture(flat.constBits(), flat.width(),
                                                                     flat.height(), flat.bytesPerLine());
@@ -141,7 +141,14 @@ void frm_PictureEditor::LoadSource() {
         loss_ = Quoted(GetFileName(editPicture_)) + " can't be opened as a picture.";
     else if (IsAnimatedGIF(picture->path))
         loss_ = "The picture is animated and the saved one can't be: it is the first frame. ";
-    if (loaded && IsSeeThrough(picture->image))
+    if (!loaded) return;
+    kept_ = element ? KeptClear(*element, picture->image, source_) : KeptClear();
+    kept_.Paint(source_);
+    const bool seeThrough = IsSeeThrough(picture->image);
+    if (const std::string kept = kept_.Told(); !kept.empty())
+        loss_ +=
+            kept + (seeThrough ? "; the rest is put on " + ground.name : "") + ". A JPEG can't keep that.";
+    else if (seeThrough)
         loss_ += "The picture is transparent in places and the saved one can't be: they are filled with " +
                  ground.name + ".";
 }
@@ -154,6 +161,7 @@ void frm_PictureEditor::Redraw() {
     lblSaturationValue->setNum(engine_.Saturation);
     hscSaturation->SetColours([this](int saturation) { return PureColour(engine_.Hue, saturation); });
     engine_.Process(source_, result_);
+    kept_.Paint(result_);
     picResult->Refresh();
 }
 

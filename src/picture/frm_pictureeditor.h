@@ -9,6 +9,7 @@
 
 #include "picture/colour_slider.h"
 #include "picture/dib_view.h"
+#include "picture/kept_clear.h"
 #include "pixels/ccolourise.h"
 #include "platform/form.h"
 #include "platform/tile_command.h"
@@ -86,6 +87,7 @@ private:
     bool isLoading_ = false, isCanceled_ = true;
     cDIBSection source_, result_;
     cColourise engine_;
+    KeptClear kept_;
 };
 
 }  // namespace ornavo

@@ -10,7 +10,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int MostPixels = 8192;      // each way, inside
 constexpr QSize Graspable = {64, 8};  // so much of the title must lie on a screen
 ScreenMetrics metrics;
 
@@ -86,7 +85,8 @@ void Form::MoveTwips(const Rect& twips) {
 }
 
 void Form::MoveInside(const Point& corner, const Size& inside) {
-    const QSize kept(std::clamp(inside.width, 1, MostPixels), std::clamp(inside.height, 1, MostPixels));
+    const QSize kept(std::clamp(inside.width, 1, MostWindowPixels),
+                     std::clamp(inside.height, 1, MostWindowPixels));
     resize(kept);
     move(VisibleCorner({Pixels(corner.x), Pixels(corner.y)}, kept + QSize(FrameWidth(), FrameHeight())));
 }

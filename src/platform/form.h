@@ -18,6 +18,8 @@ struct ScreenMetrics {
 const ScreenMetrics& screenMetrics();
 void GetScreenMetrics();
 
+inline constexpr int MostWindowPixels = 8192;  // each way, inside
+
 enum WindowStateCode { StateNormal = 0, StateMinimised = 1, StateMaximised = 2 };
 
 class Form : public QWidget {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pictures.h"
 
+#include <QFile>
 #include <QImageReader>
+#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -98,10 +100,32 @@ void Keep(const PictureRef& picture) {
     DropUntil(KeptBytes);
 }
 
+bool Fits(const QSize& size) {
+    return size.width() <= PictureSideLimit && size.height() <= PictureSideLimit &&
+           PixelsOf(size) <= PicturePixelLimit;
+}
+
+/// The canvas that a GIF's header claims; invalid where the file is too short for one.
+QSize CanvasOfGif(const fs::path& path) {
+    QFile file(FileName(path));
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    const QByteArray head = file.read(10);
+    if (head.size() < 10) return {};
+    const auto at = [&](int byte) { return int{qFromLittleEndian<quint16>(head.constData() + byte)}; };
+    return {at(6), at(8)};
+}
+
+/// The size that decoding takes memory for; invalid where no header tells it. The reader knows but the first
+/// frame of a GIF, which is painted on the whole canvas.
+QSize SizeOf(QImageReader& reader, const fs::path& path) {
+    const QSize size = reader.size();
+    return reader.format() == "gif" ? size.expandedTo(CanvasOfGif(path)) : size;
+}
+
 QImage Decoded(QImageReader& reader) {
     QImage image;
     reader.read(&image);  // of a truncated file it may have a part in spite of a failure
-    if (image.isNull() || PixelsOf(image.size()) > PicturePixelLimit) return {};
+    if (image.isNull() || !Fits(image.size())) return {};
     image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     image.setDevicePixelRatio(1);
     return image;
@@ -110,7 +134,8 @@ QImage Decoded(QImageReader& reader) {
 PictureRef Decode(const fs::path& path) {
     QImageReader reader(FileName(path));
     PrepareReader(reader);
-    const QSize size = reader.size();
+    const QSize size = SizeOf(reader, path);
+    if (!Fits(size)) return nullptr;
     const std::int64_t pixels = size.isValid() ? PixelsOf(size) : PicturePixelLimit;
     PictureMemory memory = PictureMemory::Take(pixels);
     if (!memory) return nullptr;
@@ -169,11 +194,17 @@ bool HasFrames(const fs::path& path) {
     QImageReader reader(FileName(path));
     PrepareReader(reader);
     if (reader.format() != "gif" || !reader.supportsAnimation()) return false;
-    const QSize size = reader.size();
-    return size.isValid() && PixelsOf(size) <= PicturePixelLimit && reader.imageCount() > 1;
+    const QSize size = SizeOf(reader, path);
+    return size.isValid() && Fits(size) && reader.imageCount() > 1;
 }
 
 }  // namespace
+
+std::int64_t PixelsOfGif(const fs::path& path) {
+    QImageReader reader(FileName(path), "gif");
+    const QSize size = SizeOf(reader, path);
+    return size.isValid() && Fits(size) ? PixelsOf(size) : 0;
+}
 
 bool IsAnimatedGIF(const fs::path& path) {
     Remember(path);

@@ -11,6 +11,7 @@
 namespace ornavo {
 
 inline constexpr std::int64_t PicturePixelLimit = 64'000'000;              // of one picture
+inline constexpr int PictureSideLimit = 16'384;                            // pixels
 inline constexpr std::int64_t PictureByteLimit = std::int64_t{512} << 20;  // of all pictures in use together
 
 /// A decoded picture. Two Pictures are the same when they are the same object: LoadPicture gives the same one
@@ -45,6 +46,8 @@ private:
 PictureRef LoadPicture(const std::filesystem::path& path);
 /// Whether the file is a GIF of more than one frame.
 bool IsAnimatedGIF(const std::filesystem::path& path);
+/// Of a GIF's canvas, which each of its frames is painted on; 0 beyond the limits of one picture.
+std::int64_t PixelsOfGif(const std::filesystem::path& path);
 /// Whether a picture that was asked for, or its folder, has been written to since. Then all is to be loaded
 /// anew: what was asked for before is forgotten.
 bool PicturesChanged();

@@ -20,8 +20,7 @@ TileMovie::TileMovie(std::string path, std::function<void()> onFrame)
     if (!IsAnimatedGIF(path_)) return;
     const QString name = QString::fromStdString(path_);
     QImageReader reader(name, "gif");
-    const QSize size = reader.size();
-    memory_ = PictureMemory::Take(std::int64_t{ImagesInUse} * size.width() * size.height());
+    memory_ = PictureMemory::Take(ImagesInUse * PixelsOfGif(path_));
     if (!memory_) return;
     movie_.setCacheMode(QMovie::CacheNone);
     movie_.setFormat("gif");

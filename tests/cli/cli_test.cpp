@@ -4,7 +4,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QImage>
+#include <QImageReader>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -20,8 +20,9 @@ struct Outcome {
     QByteArray out, err;
 };
 
-Outcome RunTool(const QStringList& words) {
+Outcome RunTool(const QStringList& words, const QString& workingFolder = {}) {
     QProcess tool;
+    tool.setWorkingDirectory(workingFolder);
     tool.start(QStringLiteral(ORNAVO_BINARY_DIR "/ornavo-cli"), words);
     tool.waitForFinished(60'000);
     return {tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1, tool.readAllStandardOutput(),
@@ -179,18 +180,29 @@ TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
     EXPECT_EQ(canvas.pixelColor(18, 88), QColor(Qt::green)) << "the element, from the bottom edge";
 }
 
-TEST_F(ToolTest, AHugeSkinIsRefusedBeforeMemoryIsTaken) {
+TEST_F(ToolTest, AHugeSkinIsDrawnAsLargeAsAWindow) {
     QFile file(skin_ + "/SkinSettings.xml");
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(QByteArray(SkinText).replace(">100</SkinWidth", ">900000</SkinWidth"));
     file.close();
-    const QStringList render = {"render",   skin_,   "--layout",
-                                "Standard", "--out", folder_.filePath("out.png")};
-    const Outcome refused = RunTool(render);
-    EXPECT_EQ(refused.code, 1);
-    EXPECT_TRUE(refused.err.contains("too large")) << refused.err.toStdString();
-    EXPECT_EQ(RunTool(render + QStringList{"--size", "90x80"}).code, 0);
-    EXPECT_EQ(RunTool({"place", skin_, "--layout", "Standard"}).code, 0);
+    const QString out = folder_.filePath("out.png");
+    const Outcome drawn = RunTool({"render", skin_, "--layout", "Standard", "--out", out});
+    EXPECT_EQ(drawn.code, 0);
+    EXPECT_TRUE(drawn.err.contains("composed at 8192 x 80")) << drawn.err.toStdString();
+    EXPECT_EQ(QImageReader(out).size(), QSize(8192, 80));
+    EXPECT_EQ(RunTool({"place", skin_, "--layout", "Standard", "--size", "900001x80"}).code, 0);
+}
+
+TEST_F(ToolTest, ANameIsThatOfAUsersSkinUnlessSomethingStandsThere) {
+    const QString own = folder_.filePath("data/ornavo/Skins");
+    qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
+    EXPECT_EQ(RunTool({"dump", "Blue"}).code, 1);
+    EXPECT_FALSE(QFile::exists(folder_.filePath("data"))) << "nothing is made";
+    ASSERT_TRUE(QDir().mkpath(own) && QDir().rename(skin_, own + "/Blue"));
+    EXPECT_EQ(RunTool({"save", "blue"}).out, (own + "/Blue/SkinSettings.xml\n").toUtf8());
+    QDir().mkdir(skin_);
+    EXPECT_TRUE(RunTool({"dump", "Blue"}, folder_.path()).err.contains(skin_.toUtf8()));
+    qunsetenv("XDG_DATA_HOME");
 }
 
 TEST_F(ToolTest, ExitCodes) {
@@ -208,6 +220,7 @@ TEST_F(ToolTest, ExitCodes) {
         {{"place", skin_, "--layout", "Standard", "--size", "0x5"}, 2},
         {{"place", skin_, "--layout", "Standard", "--size", "5"}, 2},
         {{"render", skin_, "--layout", "Standard", "--out", "x.png", "--view", "both"}, 2},
+        {{"render", skin_, "--layout", "Standard", "--out", "x.png", "--size", "8193x80"}, 2},
         {{"dump", folder_.filePath("None")}, 1},
         {{"place", skin_, "--layout", "None"}, 1},
         {{"render", skin_, "--layout", "Standard", "--out", folder_.filePath("no/folder.png")}, 1},

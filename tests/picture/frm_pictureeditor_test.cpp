@@ -188,6 +188,37 @@ TEST_F(PictureEditorTest, TellsWhatIsLost) {
     form_->hscHue->setValue(9);  // nothing to recolour
 }
 
+/// A pixel that is red, one that is clear, one that is half so, one of the key colour.
+TEST_F(PictureEditorTest, WhatIsClearStaysClearForItsElement) {
+    const QRgb key = qRgb(1, 254, 3), red = qRgb(255, 0, 0), half = qRgb(100, 100, 110);
+    dbLayoutElement& element = Add("E1", 1, {0, 0, 10, 10});
+    element.UseTransparency = true;
+    element.TransparentColor = Rgb(1, 254, 3);
+    element.BackgroundColor = Rgb(0, 0, 20);
+    SelKey = "E1";
+    const QRgb colours[] = {red, qRgba(0, 0, 0, 127), qRgba(200, 200, 200, 128), key};
+    const auto open = [&](bool topLeft, const std::vector<int>& order) {
+        QImage picture(4, 1, QImage::Format_ARGB32);
+        for (int x = 0; x < 4; ++x) picture.setPixel(x, 0, colours[order[static_cast<std::size_t>(x)]]);
+        ASSERT_TRUE(picture.save(Path("key.png")));
+        element.UseTopLeftTransparency = topLeft;
+        Open("key.png");
+        form_->hscHue->setValue(0);  // red becomes magenta
+        form_->hscSaturation->setValue(255);
+        EXPECT_TRUE(Notice().contains("A JPEG can't keep that.")) << Notice().toStdString();
+    };
+    const auto result = [&](int x) { return Seen(form_->picResult, x, 0); };
+    open(false, {0, 1, 2, 3});
+    const QRgb expected[] = {qRgb(255, 0, 255), key, Recoloured(half, 0, 255), key};
+    for (int x = 0; x < 4; ++x) EXPECT_EQ(result(x), expected[x]) << x;
+    EXPECT_EQ(Seen(form_->picSource, 1, 0), key);
+    open(true, {0, 1, 2, 3});
+    EXPECT_EQ(result(1), result(0));
+    EXPECT_EQ(result(3), Recoloured(key, 0, 255));
+    open(true, {1, 0, 2, 3});
+    for (int x = 1; x < 4; ++x) EXPECT_NE(result(0), result(x)) << x;
+}
+
 class PresetsTest : public ::testing::Test {
 protected:
     PresetsTest() { UseSettingsFile(folder_.filePath("settings.ini")); }

@@ -8,6 +8,7 @@
 #include <QLoggingCategory>
 #include <chrono>
 
+#include "platform/tile_movie.h"
 #include "support/small_gif.h"
 #include "support/temporary_folder.h"
 
@@ -78,9 +79,26 @@ TEST_F(Pictures, WhatIsTooLargeIsRefused) {
     EXPECT_FALSE(Load(With(Encoded(image, "bmp"), 18, {0xA0, 0x86, 1, 0, 0xA0, 0x86, 1, 0})));
     EXPECT_FALSE(Load(With(Encoded(image, "bmp"), 18, {0, 0, 0, 0x80, 0, 0, 0, 0x80})));
     EXPECT_FALSE(Load(SmallGif(1, 65000, 65000)));
+    EXPECT_FALSE(Load(Encoded(QImage(16385, 1, QImage::Format_Mono), "png")));
+    EXPECT_TRUE(Load(Encoded(QImage(1, 16384, QImage::Format_Mono), "png")));
     EXPECT_FALSE(Load(HugeJpeg()));
     EXPECT_FALSE(Load("P6 2000000000 2000000000 255 x"));
     EXPECT_FALSE(IsAnimatedGIF(folder.Write("large.gif", SmallGif(2, 65000, 65000))));
+}
+
+/// Each frame of a GIF is painted on the whole canvas, which only the header tells.
+TEST_F(Pictures, ACanvasCountsWhereFramesAreSmaller) {
+    const auto canvas = [](int frames, int width, int height) {
+        return With(SmallGif(frames), 6, {width & 0xFF, width >> 8, height & 0xFF, height >> 8});
+    };
+    EXPECT_FALSE(Load(canvas(1, 8192, 8192)));
+    EXPECT_FALSE(IsAnimatedGIF(folder.Write("large.gif", canvas(2, 8192, 8192))));
+    EXPECT_FALSE(IsAnimatedGIF(folder.Write("long.gif", canvas(2, 16385, 1))));
+    EXPECT_TRUE(IsAnimatedGIF(folder.Write("fits.gif", canvas(2, 1000, 1000))));
+    const PictureMemory others = PictureMemory::Take(PicturePixelLimit),
+                        more = PictureMemory::Take(PicturePixelLimit);
+    const TileMovie movie(folder.Write("many.gif", canvas(2, 2500, 2500)), [] {});
+    EXPECT_TRUE(movie.Frame().isNull()) << "beyond what all may have together";
 }
 
 TEST_F(Pictures, BrokenFilesGiveAPartOrNothing) {
