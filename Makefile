@@ -1,5 +1,5 @@
 # The face of the build; what each command does stands in scripts/.
-.PHONY: help run build test bench fuzz format clean
+.PHONY: help run build test bench fuzz pictures format clean
 
 help:
 	@echo "make run     install what is missing, build, open a sample skin"
@@ -7,10 +7,11 @@ help:
 	@echo "make build   install what is missing, build the programs (build/ornavo, build/ornavo-cli) and the tests"
 	@echo "make bench   measure, each figure beside a peer"
 	@echo "make fuzz    feed the readers with garbage for FUZZ_SECONDS (60) each"
+	@echo "make pictures  take the pictures of the guide anew"
 	@echo "make format  lay out the sources"
 	@echo "make clean   remove what was built"
 
-run test bench fuzz format:
+run test bench fuzz pictures format:
 	@scripts/$@
 
 build:

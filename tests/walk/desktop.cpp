@@ -79,8 +79,8 @@ void Desktop::StartScreen() {
     MapScreen();
 }
 
-/// openbox, or what the environment names. xfwm4 asks a session's bus for its settings; without the shadows of
-/// its compositor the screen has the windows' own pixels.
+/// openbox, or what the environment names. xfwm4 asks a session's bus for its settings; without the shadows
+/// of its compositor the screen has the windows' own pixels.
 void Desktop::StartManager() {
     const QString manager = environment_.value("ORNAVO_WALK_MANAGER", "openbox");
     QStringList arguments;

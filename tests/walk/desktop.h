@@ -60,6 +60,7 @@ public:
     void Key(const QStringList& keys) { XDo(QStringList{"key", "--clearmodifiers"} + keys); }
     void Type(const QString& text) { XDo({"type", "--delay", "1", "--", text}); }
 
+    QString Tool(const QString& program, const QStringList& arguments);  // what it says
     QString WindowAt(const QPoint& at);  // the id of what a click there would hit
 
     QRgb Pixel(const QPoint& at) const;  // opaque, as it is on the screen now
@@ -73,7 +74,6 @@ private:
     void MapScreen();
     void StartManager();
     QByteArray FirstLine(QProcess& process, const std::string& what);
-    QString Tool(const QString& program, const QStringList& arguments);
     void XDo(const QStringList& arguments) { Tool("xdotool", arguments); }
 
     QElapsedTimer clock_;

@@ -4,47 +4,13 @@
 #include <QRegularExpression>
 #include <array>
 
+#include "walk/sheet.h"
 #include "walk/walk_test.h"
 
 namespace ornavo::walk {
 namespace {
 
-constexpr int RowHeight = 15, ValueLeft = 120;  // pixels
 constexpr QPoint SheetPlace = {1450, 40}, ProjectPlace = {10, 40}, CanvasPlace = {320, 40};
-
-using Captions = QStringList;
-const Captions Position =
-    QString(
-        "Position;X;Y;Width;Height;Lock Left;Lock Right;Stretch Width;Lock Top;Lock Bottom;Stretch Height")
-        .split(';');
-const Captions Element = {"Element List", "Element", "Name", "Element Type"};
-const Captions Look =
-    QString(
-        "Caption Heading;Caption;Caption X Margin;Caption Y Margin;Font;Text Color;Show Shadow;Shadow "
-        "Distance;Shadow Color;Appearance;Visible;Show Border;Border Color;Normal;On;Over;Down;Disabled;Show "
-        "Smooth;Use Transparency;Use Top-Left Transp.;Transparent Color;Rotation")
-        .split(';');
-const Captions ButtonRows = Element + Captions{"Action Type"} + Position + Look;
-const Captions AmountRows = Element + Captions{"Action Type", "Value"} + Position + Look;
-const Captions PictureRows =
-    Element + Position + Look +
-    Captions{"Misc", "db-Script Name", "Is Jukebox Drager", "Is Jukebox Resizer", "Is Search Graphic"};
-const Captions InfoHead = Element + Position + Captions{"Info Settings", "Info Type"};
-const Captions InfoTail = QString(
-                              "Is Song Seeker;Seeker Color;Offset Left;Offset Right;Offset Top;Offset "
-                              "Bottom;Appearance;Visible;Background Picture;Background Color;Font;Text "
-                              "Color;Caption Y Margin;Scroll Speed (Pixels)")
-                              .split(';');
-const Captions LabelRows = InfoHead + Captions{"Caption", "db-Script Name"} + InfoTail;
-const Captions TitleRows = InfoHead + Captions{"db-Script Name"} + InfoTail;
-const Captions CornerRows = {"Heading", "X", "Y", "Horizontal Align", "Vertical Align"};
-/// Of a family only the first rows are worked; there are `count` in all.
-Captions FirstOf(Captions rows, int count) {
-    while (rows.size() < count) rows += "Another";
-    return rows;
-}
-const Captions SongRows = FirstOf({"Heading", "Height", "Margin"}, 44);
-const Captions LetterRows = FirstOf({"Heading", "Own", "Width"}, 25);
 
 using Facts = QMap<QString, QString>;  // "Owner.Tag" and its value
 
@@ -73,28 +39,8 @@ protected:
     }
     void Select(QPoint onCanvas, const Captions& rows) {
         desktop_.Click(canvas_.topLeft() + onCanvas);
-        const bool isFirst = sheet_.isEmpty();
-        sheet_ = desktop_.Window("^Properties$");
-        if (isFirst) desktop_.Place(sheet_, SheetPlace);
-        Becomes(rows);
-    }
-    void Becomes(const Captions& rows) {
-        rows_ = rows;
-        desktop_.WaitFor("a sheet of " + std::to_string(rows.size()) + " rows", [&] {
-            return desktop_.Inside(sheet_).height() == RowHeight * static_cast<int>(rows.size()) - 1;
-        });
-    }
-    void ClickRow(const char* caption) {
-        const auto row = static_cast<int>(rows_.indexOf(caption));
-        ASSERT_GE(row, 0) << caption;
-        desktop_.Click(desktop_.Inside(sheet_).topLeft() +
-                       QPoint(ValueLeft + 6, RowHeight * row + RowHeight / 2));
-        desktop_.WaitForFocus("Properties");
-    }
-    void Type(const char* caption, const char* text) {
-        ClickRow(caption);
-        Keys({"ctrl+a"});
-        desktop_.Type(text);
+        sheet_.Open(SheetPlace);
+        sheet_.Becomes(rows);
     }
     /// Saves, though what was just typed may not yet be drawn, and tells what the file has now.
     Facts Save() {
@@ -117,58 +63,48 @@ protected:
     }
     void EditButton() {
         Select({760, 130}, ButtonRows);
-        Type("Name", "Go");
+        sheet_.Type("Name", "Go");
         Keys(QStringList(2, "Tab") + QStringList(10, "Down"));
-        Becomes(AmountRows);
-        Type("Value", "12.5");
-        Type("X", "705");
-        ClickRow("Lock Right");
-        Type("Text Color", "255");
-        ClickRow("Font");
+        sheet_.Becomes(AmountRows);
+        sheet_.Type("Value", "12.5");
+        sheet_.Type("X", "705");
+        sheet_.ClickRow("Lock Right");
+        sheet_.Type("Text Color", "255");
+        sheet_.ClickRow("Font");
         Keys({"F4"});
         desktop_.WaitForFocus("Font");
         desktop_.Type("Verdana");
         Keys(QStringList(4, "Tab") + QStringList{"space", "Return"});  // bold
         desktop_.WaitForFocus("Properties");
-        ClickRow("Normal");
-        Keys({"F4"});
-        desktop_.WaitForFocus("Open Picture");
-        desktop_.Type("new.bmp");
-        // The first Return may only close a list of proposals.
-        desktop_.WaitFor("a chosen picture", [&] {
-            Keys({"Return"});
-            return desktop_.FocusTitle() != "Open Picture";
-        });
-        desktop_.WaitForFocus("Properties");
-        ClickRow("Name");
+        sheet_.ChoosePicture("Normal", "new.bmp");
+        sheet_.ClickRow("Name");
         Keys({"Tab", "Down"});
-        Becomes(PictureRows);
-        Type("db-Script Name", "jump");
-        ClickRow("Is Jukebox Resizer");
+        sheet_.Becomes(PictureRows);
+        sheet_.Type("db-Script Name", "jump");
+        sheet_.ClickRow("Is Jukebox Resizer");
     }
     void EditOthers() {
-        ClickRow("Name");
+        sheet_.ClickRow("Name");
         Keys({"shift+Tab", "Down"});
-        Becomes(LabelRows);
-        ClickRow("Height");
+        sheet_.Becomes(LabelRows);
+        sheet_.ClickRow("Height");
         Keys(QStringList(7, "Tab") + QStringList(2, "Down"));
-        Becomes(TitleRows);
-        Type("Scroll Speed (Pixels)", "-4");
+        sheet_.Becomes(TitleRows);
+        sheet_.Type("Scroll Speed (Pixels)", "-4");
         Select({30, 30}, CornerRows);
-        Type("Y", "33");
+        sheet_.Type("Y", "33");
         Keys({"Tab", "Down", "Tab", "Down", "Down"});
         Select({150, 75}, SongRows);
-        ClickRow("Margin");
+        sheet_.ClickRow("Margin");
         Keys({"Tab", "Tab", "Down"});
         Select({70, 200}, LetterRows);
-        ClickRow("Width");
+        sheet_.ClickRow("Width");
         Keys({"shift+Tab", "Down", "Tab", "ctrl+a"});
         desktop_.Type("41");
     }
 
-    QString sheet_;
+    Sheet sheet_{desktop_};
     QRect canvas_;
-    Captions rows_;
 };
 
 std::string Lines(const Facts& facts) {
