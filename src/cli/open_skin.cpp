@@ -3,13 +3,13 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <charconv>
 #include <cstdio>
 
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "platform/startup.h"
 
 namespace ornavo {
 namespace {
@@ -26,8 +26,7 @@ bool ReadWhole(std::string_view text, int most, int& number) {
 std::string UserSkins() {
     const QFileInfo beside(QCoreApplication::applicationDirPath() + "/Skins");
     if (beside.isDir() && beside.isWritable()) return WithSeparator(beside.filePath().toStdString());
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return data.toStdString() + "/ornavo/Skins/";
+    return WithSeparator(DataFolder()) + "Skins/";
 }
 
 /// The skin's folder with a separator at its end, whichever way it was named.
