@@ -20,7 +20,7 @@ constexpr const char* Usage =
     "  save SKIN [--as NAME] [--keep-existing] [--replace]\n"
     "                                        write the skin, also under another name beside it, and tell its "
     "file;\n"
-    "                                        --replace also where another skin lies\n"
+    "                                        --replace also over another skin or a damaged file\n"
     "  place SKIN --layout KEY [--size WxH]  where elements and points stand, as JSON\n"
     "  render SKIN --layout KEY --out FILE.png [--size WxH] [--view preview|canvas] [--edge soft|hard]\n"
     "         [--time HH:MM:SS]              a picture of the layout, its clocks at that time\n"

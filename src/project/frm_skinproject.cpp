@@ -83,7 +83,6 @@ void frm_SkinProject::MakeControls() {
     lbl_Damage = new QLabel(this);
     lbl_Damage->setObjectName("lbl_Damage");
     lbl_Damage->setTextFormat(Qt::PlainText);
-    lbl_Damage->setWordWrap(true);
     lbl_Damage->hide();
     btn_SkinProperties = CaptionButton(this, "btn_SkinProperties", "General Skin Properties",
                                        "Show the preferences of the whole skin");
@@ -146,17 +145,14 @@ void frm_SkinProject::ShowSkinProject(std::string_view key) {
     if (shown) windows_.ShowToolbox();
 }
 
-/// What the skin's file had lost; the first of it fits the panel, all of it stands in the tool tip.
+/// What the skin's file had lost: the beginning fits the panel, all of it stands in the tool tip.
 void frm_SkinProject::ShowDamage() {
-    const std::vector<std::string>& damage = objSkin->Damage;
-    lbl_Damage->setVisible(!damage.empty());
-    if (damage.empty()) return;
+    lbl_Damage->setVisible(!objSkin->Damage.empty());
     QStringList lines;
-    for (const std::string& line : damage) lines += QString::fromStdString(line);
-    const QString more =
-        lines.size() > 1 ? QStringLiteral(" (and %1 more)").arg(lines.size() - 1) : QString();
-    lbl_Damage->setText("The skin's file is damaged. " + lines.first() + more);
-    lbl_Damage->setToolTip(lines.join('\n'));
+    for (const std::string& line : objSkin->Damage) lines += QString::fromStdString(line);
+    const QString text = "Damaged file. " + lines.join(' ');
+    lbl_Damage->setText(lbl_Damage->fontMetrics().elidedText(text, Qt::ElideRight, width() - 2 * Margin));
+    lbl_Damage->setToolTip("The skin's file is damaged.\n" + lines.join('\n'));
 }
 
 void frm_SkinProject::ShowReplacedSkin() {

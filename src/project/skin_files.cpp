@@ -112,9 +112,9 @@ bool SkinFiles::MaySave(const dbSkin& skin, const fs::path& home, bool keepExist
                 "anyway?"))
         return false;
     const std::vector<std::string> losses = PlanSave(skin, keepExisting).losses;
-    if (losses.empty() || losses == acceptedLosses_) return true;
+    if (losses.empty() || acceptedLosses_.contains(losses)) return true;
     if (!Agreed("The skin would lose these pictures:\n\n" + Listed(losses) + "\nSave anyway?")) return false;
-    acceptedLosses_ = losses;
+    acceptedLosses_.insert(losses);
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,10 +67,10 @@ private:
 
     std::string ownFolder_;
     std::string dataFolder_;
-    std::string lastParent_;                   // of the skin that was last chosen by the dialog
-    std::filesystem::path home_;               // folder of the current skin's file; empty for one never saved
-    std::string knownText_;                    // of the current skin, when it was read or saved last
-    std::vector<std::string> acceptedLosses_;  // that the user agreed to for the current skin
+    std::string lastParent_;      // of the skin that was last chosen by the dialog
+    std::filesystem::path home_;  // folder of the current skin's file; empty for one never saved
+    std::string knownText_;       // of the current skin, when it was read or saved last
+    std::set<std::vector<std::string>> acceptedLosses_;  // that the user agreed to while this skin is open
 };
 
 }  // namespace ornavo
