@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/anchors.h"
 
+#include <QPainter>
+
 #include "canvas/gesture_math.h"
 #include "canvas/shape_points.h"
 #include "editor/selection.h"
@@ -8,6 +10,8 @@
 
 namespace ornavo {
 namespace {
+
+constexpr QRgb FrameColour = qRgb(40, 36, 32);
 
 struct HandleLook {
     int pointer;  // of SetMousePointer
@@ -23,6 +27,19 @@ constexpr std::array<HandleLook, 8> Looks = {{
     {6, "Drag to move the bottom left corner"},
     {9, "Drag to move the left edge"},
 }};
+
+/// Framed in dark, so that it is seen on any ground.
+class Handle : public PictureBox {
+public:
+    using PictureBox::PictureBox;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), FrameColour);
+        painter.fillRect(rect().adjusted(1, 1, -1, -1), ScreenColour(BackColor()));
+    }
+};
 
 void PutCornerColour(Control* control) {
     if (control && control->Name == "cPointMover") control->SetBackColor(PointColor);
@@ -48,7 +65,7 @@ Control* ElementControl(LayoutHost& host, const std::string& key) {
 Anchors::Anchors(QWidget& window, ControlEvents* listener, DragState& drag, Windows& windows)
     : Mover(*new Control(&window, "Mover")), drag_(drag), windows_(windows) {
     for (std::size_t i = 0; i < Anchor.size(); ++i) {
-        PictureBox* handle = new PictureBox(&window, "Anchor", static_cast<int>(i));
+        PictureBox* handle = new Handle(&window, "Anchor", static_cast<int>(i));
         handle->SetBackColor(PointColor);
         handle->SetMousePointer(Looks[i].pointer);
         handle->setToolTip(Looks[i].tip);

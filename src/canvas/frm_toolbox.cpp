@@ -63,12 +63,12 @@ frm_Toolbox::frm_Toolbox(CanvasParts& parts) : Form(&parts.form, "frm_Toolbox", 
     chk_ShowElements = Check("chk_ShowElements", "Show Elements", "Show Jukebox Elements");
     chk_ShowPoints = Check("chk_ShowPoints", "Show Points", "Show Shape Points");
     chk_ShowLines = Check("chk_ShowLines", "Show Lines", "Show Shape Lines");
-    chk_ShowGrid = Check("chk_ShowGrid", "Show Grid", "");
-    chk_SnapGrid = Check("chk_SnapGrid", "Snap To Grid", "");
-    tbx_GridX = Spacing("tbx_GridX", "Horizontal grid spacing in pixels");
-    tbx_GridY = Spacing("tbx_GridY", "Vertical grid spacing in pixels");
+    chk_ShowGrid = Check("chk_ShowGrid", "Show Grid", "Show the grid's dots");
+    chk_SnapGrid = Check("chk_SnapGrid", "Snap To Grid", "Let drags and handles keep to the grid");
+    tbx_GridX = Spacing("tbx_GridX", "Grid spacing in pixels, across");
+    tbx_GridY = Spacing("tbx_GridY", "Grid spacing in pixels, down");
     btn_Preview = Command("btn_Preview", "&Preview (F5)", "preview", SmallPictureSize,
-                          "Show the layout as the jukebox does");
+                          "Show the layout as the jukebox does (F5)");
     btn_ResetView = Command("btn_ResetView", "&Reset View", "reset_view", SmallPictureSize,
                             "Give the window the skin's own size");
     btn_Magnifier = Command("btn_Magnifier", "&Magnifier", "magnifier", SmallPictureSize,
@@ -105,6 +105,7 @@ QLineEdit* frm_Toolbox::Spacing(const char* name, const char* says) {
     auto* box = new QLineEdit(this);
     box->setObjectName(QLatin1String(name));
     box->setAccessibleName(QLatin1String(says));
+    box->setToolTip(QLatin1String(says));
     box->setFont(ScreenFont({}));
     box->setFixedSize(SpacingWidth, SpacingHeight);
     box->setAlignment(Qt::AlignRight);

@@ -46,10 +46,11 @@ frm_Magnifier::frm_Magnifier(QWidget* owner, PixelSource& desktop, PixelSource& 
     : Form(owner, "frm_Magnifier", Qt::Tool | Qt::WindowStaysOnTopHint),
       Magnify1(this, desktop, own),
       Picture1(this) {
-    setWindowTitle(QStringLiteral("Magnifier"));
     Magnify1.setObjectName(QStringLiteral("Magnify1"));
     Magnify1.setAccessibleName(QStringLiteral("The screen about the pointer, enlarged"));
-    Magnify1.setToolTip(QStringLiteral("The wheel changes the zoom, the blank key freezes the picture"));
+    Magnify1.setToolTip(QStringLiteral(
+        "The wheel changes the zoom, the space bar freezes the picture, Escape closes the window"));
+    connect(&Magnify1, &Magnify::StateChanged, this, &frm_Magnifier::ShowState);
     Magnify1.SetBorderStyle(0);
     Magnify1.SetZoom(FirstZoom);
     Picture1.setObjectName(QStringLiteral("Picture1"));
@@ -70,7 +71,17 @@ void frm_Magnifier::Open() {
     activateWindow();
 }
 
+void frm_Magnifier::ShowState() {
+    setWindowTitle(QStringLiteral("Magnifier %1x%2")
+                       .arg(Magnify1.Zoom())
+                       .arg(QLatin1String(Magnify1.Frozen() ? " frozen" : "")));
+}
+
 void frm_Magnifier::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
     if (event->key() != Qt::Key_Space) return Form::keyPressEvent(event);
     if (!event->isAutoRepeat()) Magnify1.SetFrozen(!Magnify1.Frozen());
 }

@@ -25,6 +25,8 @@ public:
     void Open();
 
 private:
+    void ShowState();  // in the title
+
     DesktopPixels desktopPixels_;
     OwnWindowPixels ownPixels_;
 

@@ -28,12 +28,13 @@ void Magnify::SetZoom(int zoom) {
     if (std::find(std::begin(Zooms), std::end(Zooms), zoom) == std::end(Zooms))
         throw Failure(380, "Magnify", "Invalid property value");
     zoom_ = zoom;
+    emit StateChanged();
 }
 
 void Magnify::StepZoom(int by) {
     const int last = static_cast<int>(std::size(Zooms)) - 1;
     const auto now = std::find(std::begin(Zooms), std::end(Zooms), zoom_) - std::begin(Zooms);
-    zoom_ = Zooms[std::clamp(static_cast<int>(now) + by, 0, last)];
+    SetZoom(Zooms[std::clamp(static_cast<int>(now) + by, 0, last)]);
 }
 
 void Magnify::SetFrozen(bool frozen) {
@@ -43,6 +44,7 @@ void Magnify::SetFrozen(bool frozen) {
     else
         tmr.start();
     Capture();
+    emit StateChanged();
 }
 
 void Magnify::SetBorderStyle(int style) {

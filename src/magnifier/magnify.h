@@ -46,6 +46,7 @@ signals:
     void MouseUp(QMouseEvent* event);
     void Resize();
     void Tick();
+    void StateChanged();  // the zoom, or whether it is frozen
 
 protected:
     void mousePressEvent(QMouseEvent*) override;

@@ -2,6 +2,7 @@
 #include "platform/control.h"
 
 #include <QMouseEvent>
+#include <QTextDocument>
 #include <algorithm>
 #include <array>
 
@@ -97,6 +98,10 @@ void Control::mouseReleaseEvent(QMouseEvent* event) {
 void Control::mouseDoubleClickEvent(QMouseEvent* event) {
     event->accept();
     if (events_) events_->DblClick(*this);
+}
+
+QString PlainTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? "<pre>" + text.toHtmlEscaped() + "</pre>" : text;
 }
 
 QColor ScreenColour(Colour colour) {

@@ -65,6 +65,8 @@ private:
     int pointer_ = 0;
 };
 
+/// The text for a tool tip, which shows it as it is, also where it looks like markup.
+QString PlainTip(const QString& text);
 QColor ScreenColour(Colour colour);  // translated; black for what is no colour
 
 }  // namespace ornavo

@@ -57,9 +57,10 @@ frm_AddNewSkin::frm_AddNewSkin(QWidget* owner, SkinFiles& files)
         const char* name;
         const char* caption;
         QLineEdit* box;
-    } rows[] = {{"SkinName", "Skin Name", tbx_SkinName},
-                {"Width", "Base Width", tbx_Width},
-                {"Height", "Base Height", tbx_Height}};
+        const char* tip;
+    } rows[] = {{"SkinName", "Skin Name", tbx_SkinName, "Name of the skin and of its folder"},
+                {"Width", "Base Width", tbx_Width, "Width of the skin in pixels, at least 600"},
+                {"Height", "Base Height", tbx_Height, "Height of the skin in pixels, at least 600"}};
     int row = 0;
     for (const auto& each : rows) {
         auto* label = new QLabel(each.caption);
@@ -67,6 +68,7 @@ frm_AddNewSkin::frm_AddNewSkin(QWidget* owner, SkinFiles& files)
         label->setBuddy(each.box);
         each.box->setObjectName(QString("tbx_") + each.name);
         each.box->setAccessibleName(each.caption);
+        each.box->setToolTip(each.tip);
         grid->addWidget(label, row, 0);
         grid->addWidget(each.box, row++, 1, 1, 2);
     }

@@ -71,6 +71,7 @@ void frm_SkinProject::MakeControls() {
     btn_OpenSkin = PictureButton(this, "btn_OpenSkin", "Open Skin", "open_skin");
     btn_CreateNewSkin = PictureButton(this, "btn_CreateNewSkin", "Create new Skin", "new_skin");
     btn_SaveSkin = PictureButton(this, "btn_SaveSkin", "Save Skin", "save_skin");
+    btn_SaveSkin->setToolTip("Save Skin (Ctrl+S)");
     tbx_SkinName = new QLineEdit(this);
     tbx_SkinName->setObjectName("tbx_SkinName");
     tbx_SkinName->setAccessibleName("Skin Name");

@@ -17,7 +17,9 @@ namespace {
 
 constexpr const char* PictureTitle = "Open Picture";
 constexpr const char* PictureFilter =
-    "All Pictures|*.jpg;*.jpeg;*.bmp;*.gif|JPEG (*.jpg)|*.jpg;*.jpeg|Bitmap (*.bmp)|*.bmp|GIF (*.gif)|*.gif";
+    "All Pictures|*.jpg;*.jpeg;*.bmp;*.gif;*.png|JPEG (*.jpg)|*.jpg;*.jpeg|Bitmap (*.bmp)|*.bmp|GIF "
+    "(*.gif)|*.gif|"
+    "PNG (*.png)|*.png";
 
 void ChooseColour(RowText& box) {
     Colour colour = 0;
@@ -52,10 +54,12 @@ void ChooseFont(PanelParts& parts, RowText& box) {
     parts.tmrUpdate.start();
 }
 
-void ChoosePicture(RowText& box) {
+void ChoosePicture(PanelParts& parts, RowText& box) {
     std::string path, title;
-    const FileOptions options = {PictureFilter, objSkin->SkinFolder(), PictureTitle, {}};
-    if (cCommonDialog().VBGetOpenFileName(path, title, options)) box.SetText(MakeSkinRelative(path));
+    const std::string& folder = parts.lastPictures.empty() ? objSkin->SkinFolder() : parts.lastPictures;
+    if (!cCommonDialog().VBGetOpenFileName(path, title, {PictureFilter, folder, PictureTitle, {}})) return;
+    parts.lastPictures = GetParentFolderName(path);
+    box.SetText(MakeSkinRelative(path));
 }
 
 /// A desktop that doesn't count a tool window among its windows gives the focus to the main one instead.
@@ -76,7 +80,7 @@ void btn_Prop_Click(PanelParts& parts, int index) {
     RowText& box = BoxOf(parts, tag);
     if (tag.kind == KindColour) ChooseColour(box);
     if (tag.kind == KindFont) ChooseFont(parts, box);
-    if (tag.kind == KindPicture) ChoosePicture(box);
+    if (tag.kind == KindPicture) ChoosePicture(parts, box);
     TakeFocusBack(box);
 }
 

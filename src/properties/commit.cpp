@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "properties/commit.h"
 
+#include <QColor>
 #include <algorithm>
 #include <array>
 
@@ -44,6 +45,19 @@ void TakeKeyColour(std::string_view key) {
     if (key == "TransparentColor") TakeTransparentColor("");
     if (preference.ends_with(KeyColourSuffix))
         TakeTransparentColor(preference.substr(0, preference.size() - KeyColourSuffix.size()));
+}
+
+bool IsColourRow(std::string_view key) {
+    return LowerText(key).find("color") != std::string::npos;
+}
+
+/// A colour as pictures and pages have it, "#RRGGBB", becomes its number.
+void TakeWebColour(RowText& box) {
+    constexpr int length = 7;
+    const QString text = box.text();
+    if (!IsColourRow(box.Tag) || !text.startsWith('#') || text.size() != length) return;
+    const QColor colour(text);
+    if (colour.isValid()) box.SetText(Value(Rgb(colour.red(), colour.green(), colour.blue())).ToText());
 }
 
 /// False: the box was empty, and its new text has been committed instead.
@@ -95,7 +109,7 @@ void tbx_Prop_Change(PanelParts& parts, int index) {
     if (parts.IsBuilding) return;
     RowText& box = parts.pools.tbx_Prop[index];
     const std::string key = box.Tag;
-    if (LowerText(key).find("color") != std::string::npos && !ShowColour(box)) return;
+    if (IsColourRow(key) && !ShowColour(box)) return;
     if (!GetClass(key).empty() && GetMethod(key) == "Font") return;
     Write(parts, key, box.Text());
     TakeKeyColour(key);
@@ -103,11 +117,13 @@ void tbx_Prop_Change(PanelParts& parts, int index) {
 }
 
 void tbx_Prop_KeyPress(PanelParts& parts, int index) {
+    TakeWebColour(parts.pools.tbx_Prop[index]);
     tbx_Prop_Change(parts, index);
 }
 
 void tbx_Prop_LostFocus(PanelParts& parts, int index) {
     RowText& box = parts.pools.tbx_Prop[index];
+    TakeWebColour(box);
     const std::string_view preference = GetClass(box.Tag);
     if (preference.empty()) return;
     const dbSkinPrefRef pref = objSkin->dbSkinPrefs->Find(preference);

@@ -18,6 +18,7 @@ struct PanelParts {
     QTimer& tmrUpdate;        // 100 ms after the last edit, one shot
     bool IsBuilding = false;  // code fills the rows; nothing that changes in them is an edit
     BoundObjectRef BoundObject = {};
+    std::string lastPictures = {};  // the folder of the picture last chosen in this run; "" for none
 };
 
 }  // namespace ornavo

@@ -52,6 +52,8 @@ void RowLabel::Show(const QString& caption, bool heading, int width) {
         face.setStretch(std::max((face.stretch() ? face.stretch() : 100) * width / wanted, LeastStretch));
     setFont(face);
     setText(caption);
+    const bool cut = QFontMetrics(face).horizontalAdvance(caption) > width;
+    setToolTip(cut ? PlainTip(caption.trimmed()) : QString());
     setBackgroundRole(heading ? QPalette::Mid : QPalette::Window);
 }
 
@@ -78,6 +80,11 @@ void RowText::SetBackColor(Colour colour) {
     colours.setColor(QPalette::Base, ground);
     colours.setColor(QPalette::Text, IsDark(ground) ? Qt::white : Qt::black);
     setPalette(colours);
+}
+
+bool RowText::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) setToolTip(Tip ? PlainTip(Tip(Text())) : QString());
+    return QLineEdit::event(event);
 }
 
 RowCheck::RowCheck(QWidget* sheet, int index) : QCheckBox(sheet), Index(index) {

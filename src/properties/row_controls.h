@@ -16,7 +16,8 @@ inline constexpr Colour WindowBackground = ColourOf(0x80000005);
 class RowLabel : public QLabel {
 public:
     RowLabel(QWidget* sheet, int index);
-    /// A heading is bold on a ground of its own; a caption that is too long for `width` pixels is narrowed.
+    /// A heading is bold on a ground of its own; a caption that is too long for `width` pixels is narrowed,
+    /// and its tool tip has what is cut all the same.
     void Show(const QString& caption, bool heading, int width);
 
     std::string Tag;
@@ -35,8 +36,13 @@ public:
     /// The text is black or white, whichever can be read. Failure 380 for what is no colour.
     void SetBackColor(Colour colour);
 
+    /// The tool tip when it is wanted, made from the text as it then is; null for none.
+    std::function<QString(std::string_view text)> Tip;
     std::string Tag;
     const int Index;
+
+protected:
+    bool event(QEvent*) override;
 
 private:
     Colour backColor_ = WindowBackground;

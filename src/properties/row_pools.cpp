@@ -75,7 +75,7 @@ RowPools::RowPools(QWidget& sheet, RowEvents& events)
       cboPic([&sheet, &events](int index) { return MakeCombo(sheet, events, index); }),
       chk_Boolean([&sheet, &events](int index) { return MakeCheck(sheet, events, index); }),
       btn_Prop([&sheet, &events](int index) {
-          TileCommand* button = MakeButton(sheet, "btn_Prop", index, "Select");
+          TileCommand* button = MakeButton(sheet, "btn_Prop", index, "Select (F4)");
           button->SetCaption(QStringLiteral("..."));
           QObject::connect(button, &TileCommand::Click, button,
                            [&events, index] { events.ButtonClicked(index); });
@@ -92,6 +92,7 @@ RowPools::RowPools(QWidget& sheet, RowEvents& events)
 int RowPools::LoadTextbox() {
     const int index = tbx_Prop.GetFree();
     tbx_Prop[index].SetLocked(false);
+    tbx_Prop[index].Tip = nullptr;
     tbx_Prop[index].SetBackColor(WindowBackground);
     return index;
 }

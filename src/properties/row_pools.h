@@ -38,7 +38,7 @@ public:
 
     // The index of a free one.
     int LoadLabel() { return lbl_Prop.GetFree(); }
-    int LoadTextbox();  // unlocked and white
+    int LoadTextbox();  // unlocked, white and without a tool tip
     int LoadCombo() { return cboPic.GetFree(); }
     int LoadCheckBox() { return chk_Boolean.GetFree(); }
     int LoadButton() { return btn_Prop.GetFree(); }

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "base/failure.h"
+#include "base/paths.h"
 #include "document/current_skin.h"
 #include "properties/row_binding.h"
 
@@ -15,8 +16,16 @@ constexpr QSize CheckSize = {12, 12};
 constexpr QRect ComboPlace = {-2, -5, -16, 24};  // in its frame; the width is added to that of a value
 constexpr const char* Undefined = "<undefined>";
 
-QString Shown(const std::string& text) {
-    return QString::fromStdString(text);
+QString Shown(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// Where the picture of that name lies.
+QString PicturePath(std::string_view name) {
+    const std::filesystem::path file = FindSkinPicture(name);
+    if (!file.empty()) return Shown(ToText(file));
+    return name.empty() ? QString()
+                        : Shown(GetSkinPicturePath(name)) + QStringLiteral("\nThere is no such file.");
 }
 
 struct List {
@@ -135,6 +144,7 @@ void Rows::AddColour(const SheetRow& row) {
     RowText& box = Box(row, valueWidth_);
     SelectButton(row, box);
     box.SetText(row.value.ToText());
+    box.Tip = [](std::string_view) { return QStringLiteral("A colour: its number, or #RRGGBB"); };
     box.SetBackColor(row.value.ToLong());
 }
 
@@ -160,6 +170,7 @@ void Rows::AddPicture(const SheetRow& row) {
     TileCommand& edit = pools_.btn_PicEdit[pools_.LoadPicEdit()];
     Button(edit, row, box, scaleWidth_ - edit.width() - buttonWidth);
     box.SetText(row.value.ToText());
+    box.Tip = PicturePath;
 }
 
 void Rows::AddList(const SheetRow& row) {

@@ -96,6 +96,10 @@ TEST_F(DraggingTest, HandlesStandAroundTheSelectionAndWinThePress) {
         EXPECT_TRUE(anchors().Anchor[i]->isVisible());
         EXPECT_EQ(anchors().Anchor[i]->cursor().shape(), pointers[i]) << i;
         EXPECT_FALSE(anchors().Anchor[i]->toolTip().isEmpty());
+        const QImage look = anchors().Anchor[i]->grab().toImage();
+        for (const QPoint edge : {QPoint(0, 0), QPoint(6, 3), QPoint(3, 6)})
+            EXPECT_LT(qGray(look.pixel(edge)), 64) << i;
+        EXPECT_EQ(look.pixel(1, 5), qRgb(0xFF, 0xFF, 0x80)) << i;
     }
     const QPoint corner = anchors().Anchor[4]->geometry().center();
     Drag(corner, {-5, -3});

@@ -148,6 +148,7 @@ TEST_F(ToolboxTest, ItComesBackWhereItWas) {
     EXPECT_EQ(toolbox.TwipBounds().left, 3000);
     EXPECT_EQ(toolbox.TwipBounds().top, 765);
     EXPECT_EQ(toolbox.tbx_GridX->text(), "33");
+    EXPECT_EQ(toolbox.tbx_GridX->toolTip(), "Grid spacing in pixels, across");
     EXPECT_TRUE(toolbox.chk_SnapGrid->isChecked());
 }
 

@@ -207,11 +207,16 @@ TEST(FrmMagnifier, StandsWhereItWasAndMarksTheMiddle) {
         EXPECT_EQ(form.Picture1.pos(), mark) << size.width();
         EXPECT_EQ(form.Magnify1.geometry(), QRect({}, size));
     }
+    form.Magnify1.StepZoom(1);
     QTest::keyClick(&form, Qt::Key_Space);
     EXPECT_TRUE(form.Magnify1.Frozen());
+    EXPECT_EQ(form.windowTitle(), "Magnifier 8x frozen");
     QTest::keyClick(&form, Qt::Key_Space);
     EXPECT_FALSE(form.Magnify1.Frozen());
+    EXPECT_EQ(form.windowTitle(), "Magnifier 8x");
     form.move(300, 200);
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_FALSE(form.isVisible());
     form.close();
     EXPECT_EQ(settings::MagnifierLeft.Read(), 4500);
     EXPECT_EQ(settings::MagnifierTop.Read(), 3000);

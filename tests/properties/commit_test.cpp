@@ -216,6 +216,27 @@ TEST_F(CommitTest, Choosing) {
     prompts_.files = {"/elsewhere/new.bmp"};
     click("PicOver");
     EXPECT_EQ(Element("Button1").PicOver, "/elsewhere/new.bmp");
+    click("PicOver");
+    EXPECT_EQ(prompts_.questions.front().folder, objSkin->SkinFolder());
+    EXPECT_EQ(prompts_.questions.back().folder, "/elsewhere/") << "where the last picture was found";
+    EXPECT_TRUE(prompts_.questions.back().filter.ends_with("|PNG (*.png)|*.png"));
+    EXPECT_NE(prompts_.questions.back().filter.find("*.gif;*.png|JPEG"), std::string::npos);
+}
+
+TEST_F(CommitTest, AColourAsPagesHaveItBecomesItsNumberWhenTheBoxIsLeft) {
+    SelectSong();
+    const std::pair<const char*, const char*> typed[] = {
+        {"#FF8001", "98559"}, {"#ff8001", "98559"}, {"#FF80", "#FF80"}, {"#GG8001", "#GG8001"}};
+    for (const auto& [text, left] : typed) {
+        Type(*Box("SO_BorderColor.Value"), text);
+        EXPECT_EQ(Box("SO_BorderColor.Value")->Text(), text) << "nothing jumps under the user's hands";
+        Press(*Box("SO_BorderColor.Value"), Qt::Key_Tab);
+        EXPECT_EQ(Box("SO_BorderColor.Value")->Text(), left);
+        EXPECT_EQ(Preference("SO_BorderColor"), left);
+    }
+    Type(*Box("SO_Picture.Value"), "#FF8001");
+    panel_->DrawPendingEdits();
+    EXPECT_EQ(Preference("SO_Picture"), "#FF8001") << "no colour";
 }
 
 // What a row can't hold leaves the model as it was, and no value keeps the file from being read again.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Which rows a selection shows, what stands in them, and how the keyboard walks them.
+#include <QHelpEvent>
 #include <QWheelEvent>
 
 #include "editor/settings_keys.h"
@@ -197,7 +198,7 @@ TEST_F(SheetTest, ARowsControlsShowItsValueAndStandInItsPlace) {
             if (button.Tag != ButtonTag{KindPicture, over.Index, "PicOver"}.Text()) continue;
             ++found;
             const bool edits = pool == &pools().btn_PicEdit;
-            EXPECT_EQ(button.toolTip(), edits ? "Edit Picture" : "Select");
+            EXPECT_EQ(button.toolTip(), edits ? "Edit Picture" : "Select (F4)");
             EXPECT_EQ(button.y(), over.y() - 1);
             EXPECT_EQ(button.x() + button.width(), edits ? right - button.width() : right);
         }
@@ -205,6 +206,27 @@ TEST_F(SheetTest, ARowsControlsShowItsValueAndStandInItsPlace) {
     element().TextColor = ColourOf(0x7F000000);  // no colour: the box stays white
     Select("Element");
     EXPECT_EQ(Box("TextColor")->BackColor(), WindowBackground);
+}
+
+TEST_F(SheetTest, TipsTellWhatIsNotSeen) {
+    element().PicOver = "old.png";
+    element().PicDown = "lost.png";
+    Select("Element");
+    const std::pair<const char*, QString> tips[] = {
+        {"PicOver", Path("old.png")},
+        {"PicDown", Path("lost.png") + "\nThere is no such file."},
+        {"TextColor", "A colour: its number, or #RRGGBB"},
+        {"LeftX", ""}};
+    for (const auto& [key, tip] : tips) {
+        QHelpEvent event(QEvent::ToolTip, {}, {});
+        QCoreApplication::sendEvent(Box(key), &event);
+        EXPECT_EQ(Box(key)->toolTip(), tip) << key;
+    }
+    RowLabel label(panel_.get(), 1);
+    label.Show(" A <b>caption</b> that is cut", false, 40);
+    EXPECT_EQ(label.toolTip(), "<pre>A &lt;b&gt;caption&lt;/b&gt; that is cut</pre>");
+    label.Show(" A", false, 40);
+    EXPECT_EQ(label.toolTip(), "");
 }
 
 TEST_F(SheetTest, ListsAreTheCodeTables) {

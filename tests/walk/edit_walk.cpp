@@ -238,6 +238,9 @@ protected:
 
     QPoint OnScreen(Place at) const { return canvas_.topLeft() + QPoint(at.x, at.y); }
     /// What of the box lies on the canvas has the colour.
+    static Box Inside(const Box& frame) {
+        return {frame.left + 1, frame.top + 1, frame.width - 2, frame.height - 2};
+    }
     bool Shows(const Box& box, QRgb colour) const {
         const QRect seen = QRect(OnScreen({box.left, box.top}), QSize(box.width, box.height)) & canvas_;
         for (int y = seen.top(); y <= seen.bottom(); ++y)
@@ -252,7 +255,7 @@ protected:
                          [&] { return desktop_.Title(main_).toStdString() == caption; });
         for (int i = 0; model_.handles && i < 8; ++i)
             desktop_.WaitFor("handle " + std::to_string(i) + " of " + model_.SelectedKey(),
-                             [&] { return Shows(model_.Handle(i), HandleColour); });
+                             [&] { return Shows(Inside(model_.Handle(i)), HandleColour); });
         for (int i = 0; i < static_cast<int>(model_.current().corners.size()); ++i) {
             const Place at = model_.CornerPlace(i);
             const Box box = {at.x - 2, at.y - 2, 5, 5};
