@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
+#include "base/paths.h"
 #include "picture/frm_pictureeditor.h"
 
 namespace ornavo {
@@ -28,6 +29,10 @@ void Program::ShowSkinProject() {
 void Program::LoadDebug(std::string_view skinName) {
     project_.LoadDebug(PlaceOfSkin(skinName, ownFolder_));
     if (main_.isVisible()) ShowSkinProject();
+}
+
+std::string Program::SkinsFolder() const {
+    return WithSeparator(ownFolder_) + "Skins";
 }
 
 void Program::SaveSkin() {

@@ -26,6 +26,7 @@ public:
 
     void ShowSkinProject() override;
     void LoadDebug(std::string_view skinName) override;
+    std::string SkinsFolder() const override;
     void SaveSkin() override;
     bool MayClose() override;
     void UnloadOthers() override;

@@ -12,7 +12,6 @@
 #include "canvas/element_families.h"
 #include "canvas/keys.h"
 #include "canvas/view_settings.h"
-#include "canvas/welcome.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
@@ -47,7 +46,8 @@ frm_Ornavo::frm_Ornavo(Windows& windows, std::string version)
       events_(parts_),
       host_(*this, &events_),
       points_(*this, &events_),
-      anchors_(*this, &events_, drag_, windows) {
+      anchors_(*this, &events_, drag_, windows),
+      welcome_(*this, windows) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
@@ -97,6 +97,7 @@ void frm_Ornavo::Form_Load() {
 void frm_Ornavo::Start(std::string commandLine) {
     commandLine_ = std::move(commandLine);
     Form_Activate();
+    ShowWelcome();
     show();
     windows_.ShowSkinProject();
     if (!problem_.empty()) prompts().Message(problem_, LoadingError, Icon::Critical, Buttons::Ok);
@@ -118,6 +119,7 @@ void frm_Ornavo::Form_Activate() {
 }
 
 void frm_Ornavo::Form_Resize() {
+    welcome_.Place();
     if (WindowState() == StateMinimised) return;
     tmrResizer.start();
 }
@@ -144,6 +146,7 @@ void frm_Ornavo::UpdateCurrentLayout() {
         HideSelectionTools();
     ComposeLayout(*this, objCurrentLayout, objSkin->SkinWidth, objSkin->SkinHeight);
     anchors_.FollowSelection(host_, points_);
+    ShowWelcome();
 }
 
 bool frm_Ornavo::BeginPreview() {
@@ -198,6 +201,14 @@ void frm_Ornavo::ResetFormToOriginal() {
     MoveInside({now.left, now.top}, {objSkin->SkinWidth, objSkin->SkinHeight});
 }
 
+void frm_Ornavo::ShowWelcome() {
+    // What has no file has no size either.
+    if (LayoutIsShown())
+        welcome_.Leave();
+    else
+        welcome_.Show(SkinIsOpen() ? objSkin->SkinName : "", objSkin->SkinWidth > 0);
+}
+
 void frm_Ornavo::ShowGrid() {
     surface_.ShowGrid({ScaleWidth(), ScaleHeight(), objSkin->SkinWidth, objSkin->SkinHeight},
                       devicePixelRatioF());
@@ -207,9 +218,6 @@ void frm_Ornavo::ShowGrid() {
 void frm_Ornavo::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     surface_.Paint(painter, event->rect());
-    // What has no file has no size either.
-    if (!LayoutIsShown())
-        PaintWelcome(painter, rect(), SkinIsOpen() ? objSkin->SkinName : "", objSkin->SkinWidth > 0);
 }
 
 void frm_Ornavo::keyPressEvent(QKeyEvent* event) {

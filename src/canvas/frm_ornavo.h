@@ -10,6 +10,7 @@
 #include "canvas/canvas_events.h"
 #include "canvas/canvas_parts.h"
 #include "canvas/shape_points.h"
+#include "canvas/welcome.h"
 #include "editor/windows.h"
 #include "platform/form.h"
 #include "render/layout_host.h"
@@ -72,6 +73,7 @@ private:
     void SetTimers();
     void AddShortcut(const QKeySequence& keys, int keyCode, int shift);
     void SaveSettings() const;
+    void ShowWelcome();
     void ApplicationStateChanged(Qt::ApplicationState state);
 
     Windows& windows_;
@@ -85,6 +87,7 @@ private:
     LayoutHost host_;
     ShapePoints points_;
     Anchors anchors_;
+    WelcomeCard welcome_;
     Surface surface_;
     bool IsLoading = false;
     bool IsFirstActivate = false;

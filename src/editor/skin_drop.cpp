@@ -22,6 +22,14 @@ std::string DroppedPath(const QDropEvent& event) {
 
 }  // namespace
 
+void OpenSkin(Windows& windows, const std::string& path) {
+    try {
+        windows.LoadDebug(path);
+    } catch (const std::exception& failure) {
+        prompts().Message(failure.what(), "Loading Skin Error", Icon::Critical, Buttons::Ok);
+    }
+}
+
 SkinDrop::SkinDrop(QWidget& window, Windows& windows) : QObject(&window), windows_(windows) {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
@@ -34,11 +42,7 @@ bool SkinDrop::eventFilter(QObject*, QEvent* event) {
     if (path.empty()) return false;
     drop.acceptProposedAction();
     if (event->type() == QEvent::DragEnter) return true;
-    try {
-        windows_.LoadDebug(path);
-    } catch (const std::exception& failure) {
-        prompts().Message(failure.what(), "Loading Skin Error", Icon::Critical, Buttons::Ok);
-    }
+    OpenSkin(windows_, path);
     return true;
 }
 

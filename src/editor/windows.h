@@ -41,6 +41,8 @@ public:
     virtual ~Windows() = default;
     /// Opens the skin that a text names: a name in the program's own "Skins", or a path. Failure if it can't.
     virtual void LoadDebug(std::string_view skinName) = 0;
+    /// The folder of the user's skins; "" for none.
+    virtual std::string SkinsFolder() const { return {}; }
     /// The beginning of the end: the project panel asks and closes. False when a save failed: then nothing
     /// else closes.
     virtual bool MayClose() { return true; }

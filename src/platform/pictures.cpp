@@ -188,6 +188,20 @@ PictureRef LoadPicture(const fs::path& path) {
     return picture;
 }
 
+QImage LoadThumbnail(const fs::path& path, const QSize& most) {
+    Stamp stamp;
+    if (!StampOf(path, stamp)) return {};
+    QImageReader reader(FileName(path));
+    PrepareReader(reader);
+    const QSize size = reader.size();
+    if (!size.isValid() || PixelsOf(size) > ThumbnailPixelLimit) return {};
+    const PictureMemory memory = PictureMemory::Take(PixelsOf(size));
+    if (!memory) return {};
+    if (size.width() > most.width() || size.height() > most.height())
+        reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    return Decoded(reader);
+}
+
 namespace {
 
 bool HasFrames(const fs::path& path) {

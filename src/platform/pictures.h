@@ -14,6 +14,8 @@ inline constexpr std::int64_t PicturePixelLimit = 64'000'000;              // of
 inline constexpr int PictureSideLimit = 16'384;                            // pixels
 inline constexpr std::int64_t PictureByteLimit = std::int64_t{512} << 20;  // of all pictures in use together
 
+inline constexpr std::int64_t ThumbnailPixelLimit = 16'000'000;  // of one picture
+
 /// A decoded picture. Two Pictures are the same when they are the same object: LoadPicture gives the same one
 /// again while file, size and time are unchanged and somebody holds it or the cache keeps it.
 struct Picture {
@@ -44,6 +46,9 @@ private:
 
 /// Null for what is no picture, is too large (refused before memory is taken) or can't be read.
 PictureRef LoadPicture(const std::filesystem::path& path);
+/// The first frame of a picture file, shrunk to fit into the size, never enlarged. Null as above, and for
+/// more than ThumbnailPixelLimit pixels, which take too long.
+QImage LoadThumbnail(const std::filesystem::path& path, const QSize& most);
 /// Whether the file is a GIF of more than one frame.
 bool IsAnimatedGIF(const std::filesystem::path& path);
 /// Of a GIF's canvas, which each of its frames is painted on; 0 beyond the limits of one picture.
