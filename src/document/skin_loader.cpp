@@ -11,6 +11,7 @@
 
 #include "base/failure.h"
 #include "base/files.h"
+#include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "document/dbskin.h"
@@ -306,8 +307,11 @@ void Loader::CloseFont() {
 }
 
 /// Whether a file in the folder that has this name for the skin names the folder itself: a folder's name that
-/// looks like a number is read as that number's text.
+/// looks like a number is read as that number's text, and a system with other signs may have written it.
 bool NamesFolder(const std::string& name, const std::string& folder) {
+    static const NumberSigns usual[] = {{".", ","}, {",", "."}};
+    for (const NumberSigns& signs : usual)
+        if (IsNumeric(folder, signs) && name == NumberText(ToNumber(folder, signs))) return true;
     return name == ReadValue(ToFileBytes(folder)).ToText() || name == ReadBack(folder);
 }
 

@@ -108,6 +108,8 @@ TEST_F(LoadSave, AFileNamesNoPlaceButAFolder) {
         again->LoadSkin();
         EXPECT_EQ(objSkin->SkinName + "," + again->SkinName, std::string(name) + "," + name);
     }
+    UseNumberSigns({",", "."});
+    EXPECT_EQ(LoadBytes("<Skin>\n<SkinName>+1.1</SkinName>\n", "1.10")->SkinName, "1.10") << "from elsewhere";
     objSkin->SetBasePath((folder / "Skins").string());
     objSkin->SkinName = "../Out";
     EXPECT_THROW(objSkin->SaveSkin(false), Failure);
