@@ -45,7 +45,9 @@ frm_Magnifier::frm_Magnifier(QWidget* owner, PixelSource& desktop, PixelSource& 
     // Above the preview too, which is not its owner and may fill the screen.
     : Form(owner, "frm_Magnifier", Qt::Tool | Qt::WindowStaysOnTopHint),
       Magnify1(this, desktop, own),
-      Picture1(this) {
+      Picture1(this),
+      lbl_State(this) {
+    setWindowTitle(QStringLiteral("Magnifier"));
     Magnify1.setObjectName(QStringLiteral("Magnify1"));
     Magnify1.setAccessibleName(QStringLiteral("The screen about the pointer, enlarged"));
     Magnify1.setToolTip(QStringLiteral(
@@ -54,6 +56,10 @@ frm_Magnifier::frm_Magnifier(QWidget* owner, PixelSource& desktop, PixelSource& 
     Magnify1.SetBorderStyle(0);
     Magnify1.SetZoom(FirstZoom);
     Picture1.setObjectName(QStringLiteral("Picture1"));
+    lbl_State.setObjectName(QStringLiteral("lbl_State"));
+    lbl_State.setAutoFillBackground(true);
+    lbl_State.setMargin(2);
+    lbl_State.setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 void frm_Magnifier::Open() {
@@ -72,9 +78,9 @@ void frm_Magnifier::Open() {
 }
 
 void frm_Magnifier::ShowState() {
-    setWindowTitle(QStringLiteral("Magnifier %1x%2")
-                       .arg(Magnify1.Zoom())
-                       .arg(QLatin1String(Magnify1.Frozen() ? " frozen" : "")));
+    lbl_State.setText(QString::number(Magnify1.Zoom()) + QLatin1String(Magnify1.Frozen() ? "x frozen" : "x"));
+    lbl_State.adjustSize();
+    lbl_State.move(0, ScaleHeight() - lbl_State.height());
 }
 
 void frm_Magnifier::keyPressEvent(QKeyEvent* event) {
@@ -93,6 +99,7 @@ void frm_Magnifier::Form_Resize() {
     };
     Magnify1.setGeometry(0, 0, ScaleWidth(), ScaleHeight());
     Picture1.setGeometry(middle(ScaleWidth()), middle(ScaleHeight()), MarkGrid, MarkGrid);
+    ShowState();
 }
 
 void frm_Magnifier::Form_Unload() {

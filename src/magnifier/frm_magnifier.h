@@ -2,6 +2,8 @@
 // The floating window with the magnified screen, and a mark on the pixel under the pointer.
 #pragma once
 
+#include <QLabel>
+
 #include "magnifier/magnify.h"
 #include "platform/form.h"
 
@@ -25,7 +27,7 @@ public:
     void Open();
 
 private:
-    void ShowState();  // in the title
+    void ShowState();
 
     DesktopPixels desktopPixels_;
     OwnWindowPixels ownPixels_;
@@ -33,6 +35,7 @@ private:
 public:
     Magnify Magnify1;
     PixelMark Picture1;
+    QLabel lbl_State;  // the zoom, and "frozen"; at the bottom left, since a title is cut
 
 protected:
     void keyPressEvent(QKeyEvent*) override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QTest>
 
 #include "editor/settings_keys.h"
@@ -210,10 +211,13 @@ TEST(FrmMagnifier, StandsWhereItWasAndMarksTheMiddle) {
     form.Magnify1.StepZoom(1);
     QTest::keyClick(&form, Qt::Key_Space);
     EXPECT_TRUE(form.Magnify1.Frozen());
-    EXPECT_EQ(form.windowTitle(), "Magnifier 8x frozen");
+    const auto* state = form.findChild<QLabel*>("lbl_State");
+    ASSERT_NE(state, nullptr);
+    EXPECT_EQ(state->text(), "8x frozen");
+    EXPECT_EQ(state->geometry().bottomLeft(), form.rect().bottomLeft());
     QTest::keyClick(&form, Qt::Key_Space);
     EXPECT_FALSE(form.Magnify1.Frozen());
-    EXPECT_EQ(form.windowTitle(), "Magnifier 8x");
+    EXPECT_EQ(state->text(), "8x");
     form.move(300, 200);
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_FALSE(form.isVisible());
