@@ -62,8 +62,9 @@ public:
         folder_ = skin_.SkinFolder();
     }
     PictureStep Plan(const std::string& given);
-    /// The picture that the reference means, and the one that it shows after the save, when those differ.
-    std::string Merged(const PictureStep& step) const;
+    /// What is lost of the reference when all are planned: it leads nowhere, or to another picture. "" for
+    /// nothing.
+    std::string Loss(const PictureStep& step) const;
 
 private:
     struct Made {
@@ -75,12 +76,17 @@ private:
     std::string InOldFolder(std::string_view path) const;
     fs::path FindSource(std::string_view path) const;
     std::string StoredName(const std::string& name, const fs::path& source) const;
-    void Settle(const PictureStep& step);
+    struct Known {
+        PictureStep step;
+        bool isInPlace = false;
+    };
+    Known Resolve(const std::string& given) const;
 
     dbSkin skin_;     // under the name by which it is saved
     dbSkin current_;  // whose folder a bare name means
     bool keepExisting_;
     std::string folder_;
+    std::map<std::string, Known> known_;    // by the reference, of which many are alike
     std::map<std::string, Made> made_;      // by name in lower case
     std::map<fs::path, fs::path> winners_;  // whose picture each file of the folder shows in the end
 };
@@ -127,34 +133,42 @@ std::string Planner::StoredName(const std::string& name, const fs::path& source)
     }
 }
 
-PictureStep Planner::Plan(const std::string& given) {
-    PictureStep step;
+/// Where the reference leads and what becomes of it, but for whether it is copied.
+Planner::Known Planner::Resolve(const std::string& given) const {
+    Known known;
+    PictureStep& step = known.step;
     step.given = given;
     step.isBlank = TrimBlanks(given).empty();
     if (!step.isBlank) step.source = FindSource(given);
-    if (step.source.empty()) return step;
+    if (step.source.empty()) return known;
     step.stored = StoredName(GetFileName(given), step.source);
     step.isRefused = EqualText(step.stored, SettingsFileName);
-    if (step.isRefused) return step;
+    if (step.isRefused) return known;
     step.target = Place(folder_ + step.stored);
     std::error_code ignored;
-    const bool isInPlace = step.source == step.target || fs::equivalent(step.source, step.target, ignored);
-    step.isCopied = !isInPlace && !(keepExisting_ && IsThere(folder_ + step.stored));
-    Settle(step);
-    return step;
+    known.isInPlace = step.source == step.target || fs::equivalent(step.source, step.target, ignored);
+    return known;
 }
 
-void Planner::Settle(const PictureStep& step) {
-    const bool stays = !step.isCopied && FileExists(ToText(step.target));
+PictureStep Planner::Plan(const std::string& given) {
+    auto known = known_.find(given);
+    if (known == known_.end()) known = known_.emplace(given, Resolve(given)).first;
+    PictureStep step = known->second.step;
+    if (step.source.empty()) known_.erase(known);  // a step to come may make it
+    if (step.target.empty()) return step;
+    step.isCopied = !known->second.isInPlace && !(keepExisting_ && IsThere(folder_ + step.stored));
+    step.isMade = !step.isCopied && MadeBefore(folder_ + step.stored);
     if (step.isCopied) {
         made_.insert_or_assign(LowerText(step.stored), Made{step.target, step.source});
         winners_.insert_or_assign(step.target, step.source);
-    } else if (stays) {
+    } else {
         winners_.try_emplace(step.target, step.target);
     }
+    return step;
 }
 
-std::string Planner::Merged(const PictureStep& step) const {
+std::string Planner::Loss(const PictureStep& step) const {
+    if (!step.isBlank && step.stored.empty()) return step.given + " is not there";
     const auto winner = winners_.find(step.target);
     if (step.target.empty() || winner == winners_.end()) return "";
     // A bare name means the file of the folder that the skin was read from.
@@ -221,10 +235,12 @@ SavePlan PlanSave(const dbSkin& skin, bool keepExisting) {
         holders.push_back(holder());
     });
     LossList losses;
+    std::map<std::string, std::string> known;  // what is lost, by the reference
     for (std::size_t i = 0; i < holders.size(); ++i) {
         const PictureStep& step = plan.pictures[i];
-        if (!step.isBlank && step.stored.empty()) losses.Add(step.given + " is not there", holders[i]);
-        if (const std::string merged = planner.Merged(step); !merged.empty()) losses.Add(merged, holders[i]);
+        const auto [loss, isNew] = known.try_emplace(step.given);
+        if (isNew) loss->second = planner.Loss(step);
+        if (!loss->second.empty()) losses.Add(loss->second, holders[i]);
     }
     plan.losses = losses.Lines();
     return plan;
@@ -235,7 +251,7 @@ std::string CarryOut(const PictureStep& step, std::vector<std::string>& failures
     if (step.isRefused)
         reason = "\"" + step.given + "\" is called like the skin's settings and can't be copied";
     if (step.isCopied) reason = ReasonAgainst(step);
-    const bool isThere = step.isCopied || step.target.empty() || FileExists(ToText(step.target));
+    const bool isThere = !step.isMade || FileExists(ToText(step.target));
     if (reason.empty()) return isThere ? step.stored : step.given;
     if (std::find(failures.begin(), failures.end(), reason) == failures.end()) failures.push_back(reason);
     // A bare name found in the folder that the skin had before would lead nowhere from now on.

@@ -48,6 +48,7 @@ struct PictureStep {
     std::filesystem::path source, target;  // empty where there is none
     bool isBlank = false;
     bool isCopied = false;   // source to target; otherwise no file is touched
+    bool isMade = false;     // the target is there only once an earlier step has made it
     bool isRefused = false;  // it would take the place of the settings
 };
 
