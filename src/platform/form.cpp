@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 
@@ -32,12 +33,6 @@ bool CanBeGrasped(const QRect& title) {
         return seen.width() >= std::min(Graspable.width(), title.width()) &&
                seen.height() >= Graspable.height();
     });
-}
-
-/// The desktop may tell a window's frame only some time after it was shown.
-bool TellsFrame(QEvent::Type type) {
-    return type == QEvent::Move || type == QEvent::Show || type == QEvent::Paint ||
-           type == QEvent::WindowActivate;
 }
 
 /// The corner of a window of that outer size, moved onto the first screen if its title can't be grasped.
@@ -72,9 +67,8 @@ Form::Form(QWidget* owner, std::string name, Qt::WindowFlags flags)
 
 Rect Form::TwipBounds() const {
     const bool normal = !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen));
-    const QRect inside = normal ? geometry() : normalGeometry();
-    const QPoint corner = normal ? pos() : inside.topLeft() - frame_;
-    return {corner.x() * TwipsPerPixel, corner.y() * TwipsPerPixel,
+    const QSize inside = normal ? size() : normalGeometry().size();
+    return {corner_.x() * TwipsPerPixel, corner_.y() * TwipsPerPixel,
             (inside.width() + FrameWidth()) * TwipsPerPixel,
             (inside.height() + FrameHeight()) * TwipsPerPixel};
 }
@@ -88,7 +82,17 @@ void Form::MoveInside(const Point& corner, const Size& inside) {
     const QSize kept(std::clamp(inside.width, 1, MostWindowPixels),
                      std::clamp(inside.height, 1, MostWindowPixels));
     resize(kept);
-    move(VisibleCorner({Pixels(corner.x), Pixels(corner.y)}, kept + QSize(FrameWidth(), FrameHeight())));
+    MoveFrame(
+        VisibleCorner({Pixels(corner.x), Pixels(corner.y)}, kept + QSize(FrameWidth(), FrameHeight())));
+}
+
+void Form::MoveFrame(const QPoint& corner) {
+    corner_ = corner;
+    if (isVisible() || !windowHandle()) move(corner);
+    if (!windowHandle()) return;
+    // A hidden window's new size would come at the next show, and with it a place that knows no frame.
+    windowHandle()->resize(size());
+    windowHandle()->setFramePosition(corner);
 }
 
 int Form::WindowState() const {
@@ -108,8 +112,15 @@ void Form::SetWindowState(int state) {
 bool Form::event(QEvent* event) {
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate) Form_Activate();
-    if (TellsFrame(event->type()) && WindowState() == StateNormal) frame_ = geometry().topLeft() - pos();
+    if (event->type() == QEvent::Move) TakeCorner(event->spontaneous());
+    const bool placed = testAttribute(Qt::WA_Moved) && WindowState() == StateNormal;
+    if (event->type() == QEvent::Show && !event->spontaneous() && placed) MoveFrame(corner_);
     return taken;
+}
+
+/// The desktop moves a hidden window too, when it takes the frame off.
+void Form::TakeCorner(bool byDesktop) {
+    if (WindowState() == StateNormal && (isVisible() || !byDesktop)) corner_ = pos();
 }
 
 void Form::resizeEvent(QResizeEvent*) {

@@ -35,6 +35,9 @@ public:
     void MoveTwips(const Rect& twips);
     /// The same with the corner in twips and the inner size in pixels, cut to what a window can have.
     void MoveInside(const Point& corner, const Size& inside);
+    /// The frame's corner in pixels; of a maximised window that of the normal one.
+    QPoint Corner() const { return corner_; }
+    void MoveFrame(const QPoint& corner);
     int WindowState() const;
     void SetWindowState(int state);  // of a window not yet shown: the state it comes up in
 
@@ -48,7 +51,8 @@ protected:
     void closeEvent(QCloseEvent*) override;
 
 private:
-    QPoint frame_;  // from the frame's corner to the inside, when last seen in the normal state
+    void TakeCorner(bool byDesktop);
+    QPoint corner_;  // of the frame in the normal state, as it was last seen or asked for
 };
 
 }  // namespace ornavo

@@ -58,14 +58,15 @@ void frm_Properties::Form_Load() {
     const Raised building(parts_.IsBuilding);
     MoveTwips({settings::PropertiesLeft.ReadOrStandard(), settings::PropertiesTop.ReadOrStandard(),
                settings::PropertiesWidth.ReadOrStandard(), settings::PropertiesWidth.standard});
+    home_ = shown_ = Corner();
 }
 
 void frm_Properties::Form_Unload() {
     DrawPendingEdits();
-    const Rect place = TwipBounds();
-    settings::PropertiesLeft.Write(place.left);
-    settings::PropertiesTop.Write(place.top);
-    settings::PropertiesWidth.Write(place.width);
+    const QPoint corner = Corner() == shown_ ? home_ : Corner();
+    settings::PropertiesLeft.Write(corner.x() * TwipsPerPixel);
+    settings::PropertiesTop.Write(corner.y() * TwipsPerPixel);
+    settings::PropertiesWidth.Write(TwipBounds().width);
 }
 
 void frm_Properties::Form_Activate() {
@@ -145,14 +146,17 @@ int frm_Properties::MostHeight() const {
     return screen()->availableGeometry().height() - FrameHeight(*this);
 }
 
-/// The height follows from the rows; a panel that would leave the screen below moves up.
+/// The height follows from the rows; while it would leave the screen below, the panel stands higher than its
+/// own place.
 void frm_Properties::FitHeight(int rows) {
+    if (Corner() != shown_) home_ = Corner();  // moved by the user
     // The line below the last row is the window's edge.
     const int wanted = std::clamp(rows * RowPitch - 1, RowPitch, std::max(MostHeight(), RowPitch));
     if (wanted != height() || wanted != minimumHeight()) setFixedHeight(wanted);
     const QRect room = screen()->availableGeometry();
-    const int tooLow = y() + wanted + FrameHeight(*this) - 1 - room.bottom();
-    if (tooLow > 0) move(x(), std::max(y() - tooLow, room.top()));
+    const int lowest = room.bottom() + 1 - wanted - FrameHeight(*this);
+    shown_ = {home_.x(), std::min(home_.y(), std::max(lowest, room.top()))};
+    if (shown_ != Corner()) MoveFrame(shown_);
 }
 
 void frm_Properties::UnloadProperties() {

@@ -50,6 +50,7 @@ private:
     void ButtonClicked(int index) override;
     void PicEditClicked(int index) override;
 
+    QPoint home_, shown_;  // the corner that the user chose, and where the height of the sheet has put it
     QScrollArea scroll_;
     RowSheet sheet_;
     RowPools pools_;

@@ -110,11 +110,14 @@ TEST_F(CanvasTest, TheWindowGoesBackToTheSkinsSizeAndNotBelowItsLeast) {
     frm_Ornavo form(windows_, "0.1");
     form.Start("");
     form.SetWindowState(StateMaximised);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.pos() != QPoint(68, 9); }));
     objSkin->SkinWidth = 700;
     objSkin->SkinHeight = 620;
     form.ResetFormToOriginal();
     EXPECT_EQ(form.WindowState(), StateNormal);
     EXPECT_EQ(form.size(), QSize(700, 620));
+    EXPECT_EQ(form.TwipBounds().left, 1020) << "not where the maximised window stood";
+    EXPECT_EQ(form.TwipBounds().top, 135);
     objSkin->SkinWidth = -5;
     objSkin->SkinHeight = 100;
     form.ResetFormToOriginal();

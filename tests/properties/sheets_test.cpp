@@ -323,6 +323,7 @@ TEST_F(SheetTest, HeightFollowsTheRowsAndWidthIsKept) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);  // the last row, far below
     EXPECT_FALSE(QApplication::focusWidget()->visibleRegion().isEmpty());
     panel_->close();
+    EXPECT_EQ(settings::PropertiesTop.Read(), 4035) << "the place of a lower sheet is kept";
     EXPECT_EQ(settings::PropertiesWidth.Read(), 408 * TwipsPerPixel);
 }
 
