@@ -29,6 +29,12 @@ QString Shown(const std::string& text) {
     return QString::fromStdString(text);
 }
 
+/// A face that several foundries make is listed once for each, as "P052 [urw]"; a font has the name alone.
+QString WithoutFoundry(const QString& face) {
+    static const QRegularExpression foundry(QStringLiteral("\\s*\\[[^\\[\\]]*\\]$"));
+    return QString(face).remove(foundry);
+}
+
 QString NumberText(double size) {
     return QString::number(size, 'g', 6);
 }
@@ -56,6 +62,7 @@ FontDialog::FontDialog(QWidget* owner, const Font& start, const std::vector<std:
       strikethrough_(new QCheckBox(QStringLiteral("S&trikethrough"))),
       sample_(new QLabel) {
     setWindowTitle(QStringLiteral("Font"));
+    font_.Name = WithoutFoundry(Shown(start.Name)).toStdString();
     ListFaces(offered);
     auto* columns = new QHBoxLayout;
     columns->addLayout(FaceColumn(), 1);
@@ -82,6 +89,7 @@ void FontDialog::ListFaces(const std::vector<std::string>& offered) {
     for (const char* face : UsualFaces) names += QLatin1String(face);
     for (const std::string& face : offered) names += Shown(face);
     names += Shown(font_.Name);
+    for (QString& name : names) name = WithoutFoundry(name);
     names.removeAll({});
     names.sort(Qt::CaseInsensitive);
     names.removeDuplicates();

@@ -82,8 +82,7 @@ void Form::MoveInside(const Point& corner, const Size& inside) {
     const QSize kept(std::clamp(inside.width, 1, MostWindowPixels),
                      std::clamp(inside.height, 1, MostWindowPixels));
     resize(kept);
-    MoveFrame(
-        VisibleCorner({Pixels(corner.x), Pixels(corner.y)}, kept + QSize(FrameWidth(), FrameHeight())));
+    MoveFrame(VisibleCorner({Pixels(corner.x), Pixels(corner.y)}, kept + QSize(FrameWidth(), FrameHeight())));
 }
 
 void Form::MoveFrame(const QPoint& corner) {

@@ -4,8 +4,8 @@
 #include <QApplication>
 #include <QLocale>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <array>
 
 #include "base/numbers.h"
@@ -14,6 +14,16 @@
 
 namespace ornavo {
 namespace {
+
+/// Fusion, but a list opens below its box with a scroll bar, and does not lie over it as high as the screen.
+class PanelStyle : public QProxyStyle {
+public:
+    PanelStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
 
 struct Tone {
     QPalette::ColorRole role;
@@ -71,7 +81,7 @@ void PrepareProcess() {
 
 void InitCommonControls(QApplication& application) {
     InstallFontSubstitutes();
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    application.setStyle(new PanelStyle);
     application.setPalette(LightPalette());
     application.setFont(ScreenFont({}));
     UseTheirNumberSigns();

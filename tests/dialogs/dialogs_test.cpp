@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -154,17 +155,19 @@ TEST(QtPrompts, AColourAndTheCustomOnesComeBack) {
 TEST(QtPrompts, OfAFontOnlyWhatWasPickedChanges) {
     QtPrompts prompts;
     Font start;
-    start.Name = "No Such Face";
+    start.Name = "No Such Face [maker]";
     start.Size = 8.25;
     start.Bold = true;
     InNext<FontDialog>([](FontDialog& box) {
+        for (const QListWidget* list : box.findChildren<QListWidget*>())
+            EXPECT_TRUE(list->findItems("[", Qt::MatchContains).isEmpty()) << "a foundry";
         for (QCheckBox* style : box.findChildren<QCheckBox*>())
             if (style->text() == "&Underline") style->click();
         // A list that the Tab key comes to takes its first line where none is chosen.
         for (int i = 0; i < 12; ++i) QTest::keyClick(box.focusWidget(), Qt::Key_Tab);
         box.accept();
     });
-    std::optional<Font> chosen = prompts.FontOf(start, {});
+    std::optional<Font> chosen = prompts.FontOf(start, {"P052 [urw]"});
     ASSERT_TRUE(chosen);
     EXPECT_EQ(chosen->Name, "No Such Face");
     EXPECT_EQ(chosen->Size, 8.25);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Which rows a selection shows, what stands in them, and how the keyboard walks them.
+#include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QScrollBar>
 #include <QWheelEvent>
 
 #include "editor/settings_keys.h"
@@ -253,6 +255,12 @@ TEST_F(SheetTest, ListsAreTheCodeTables) {
         EXPECT_EQ(combo->ListIndex(), row.chosen) << row.key;
     }
     EXPECT_EQ(Combo("ActionType")->itemText(38), "K/Spec Songs Favorite");
+    Combo("ActionType")->showPopup();
+    const QAbstractItemView* list = Combo("ActionType")->view();
+    EXPECT_EQ(list->viewport()->height() / list->sizeHintForRow(0), 24);
+    EXPECT_TRUE(list->verticalScrollBar()->isVisible());
+    EXPECT_GE(list->window()->y(), Combo("ActionType")->mapToGlobal(QPoint()).y()) << "the row is seen";
+    Combo("ActionType")->hidePopup();
     element().ActionType = 56;
     Select("Element");
     EXPECT_EQ(Combo("ActionType")->ListIndex(), -1);
