@@ -91,12 +91,11 @@ protected:
         Keys(QStringList(7, "Tab") + QStringList(2, "Down"));
         sheet_.Becomes(TitleRows);
         sheet_.Type("Scroll Speed (Pixels)", "-4");
-        const QPoint place = desktop_.Inside(desktop_.Window("^Properties$")).topLeft();
+        const QPoint place = desktop_.Inside(sheet_.window()).topLeft();
         desktop_.Click(canvas_.topLeft() + QPoint(10, 400));
         desktop_.WaitUntilGone("^Properties$");
         Select({30, 30}, CornerRows);
-        EXPECT_TRUE(desktop_.Inside(desktop_.Window("^Properties$")).topLeft() == place)
-            << "of another height";
+        EXPECT_TRUE(desktop_.Inside(sheet_.window()).topLeft() == place) << "of another height";
         sheet_.Type("Y", "33");
         Keys({"Tab", "Down", "Tab", "Down", "Down"});
         Select({150, 75}, SongRows);
