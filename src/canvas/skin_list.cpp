@@ -22,6 +22,11 @@ QString Shown(const std::filesystem::path& path) {
     return QString::fromStdString(ToText(path));
 }
 
+/// Of a tile, pixels.
+QSize SizeOf(const QFontMetrics& font) {
+    return PictureSize + QSize(2 * Margin, 2 * Margin + NameGap + font.height());
+}
+
 /// The picture, or while there is none the name's first letter on a plain ground.
 void PaintPicture(QPainter& painter, const QRect& area, const QPalette& colours, const QModelIndex& index) {
     painter.fillRect(area, colours.color(QPalette::Midlight));
@@ -70,7 +75,7 @@ public:
         painter->restore();
     }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-        return PictureSize + QSize(2 * Margin, 2 * Margin + NameGap + option.fontMetrics.height());
+        return SizeOf(option.fontMetrics);
     }
 };
 
@@ -93,7 +98,7 @@ SkinList::SkinList(QWidget* parent) : QListWidget(parent) {
 }
 
 QSize SkinList::TileSize() const {
-    return PictureSize + QSize(2 * Margin, 2 * Margin + NameGap + fontMetrics().height());
+    return SizeOf(fontMetrics());
 }
 
 void SkinList::AddSkin(const std::filesystem::path& folder) {
