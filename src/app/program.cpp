@@ -2,7 +2,9 @@
 #include "app/program.h"
 
 #include "base/paths.h"
+#include "editor/selection.h"
 #include "picture/frm_pictureeditor.h"
+#include "platform/asker.h"
 
 namespace ornavo {
 
@@ -11,6 +13,12 @@ Program::Program(std::string version, const std::string& ownFolder, const std::s
       main_(*this, std::move(version)),
       project_(&main_, *this, main_, SkinFiles(ownFolder, dataFolder)) {
     UsePrompts(&prompts_);
+    lines_ = {{"Skin Project", [this] { return project_.isVisible(); },
+               [this] { project_.isVisible() ? project_.Hide() : ShowSkinProject(); }},
+              {"Toolbox", [this] { return toolbox_ && toolbox_->isVisible(); }, [this] { ToggleToolbox(); }},
+              {"Properties", [this] { return properties().IsShown(); }, [this] { ToggleProperties(); }},
+              {"Magnifier", [this] { return magnifier_ && magnifier_->isVisible(); },
+               [this] { ToggleMagnifier(); }}};
 }
 
 Program::~Program() {
@@ -27,7 +35,9 @@ void Program::ShowSkinProject() {
 }
 
 void Program::LoadDebug(std::string_view skinName) {
-    project_.LoadDebug(PlaceOfSkin(skinName, ownFolder_));
+    const SkinPlace place = PlaceOfSkin(skinName, ownFolder_);
+    if (!HoldsSkin(place)) return;
+    project_.LoadDebug(place);
     if (main_.isVisible()) ShowSkinProject();
 }
 
@@ -40,7 +50,7 @@ void Program::SaveSkin() {
 }
 
 bool Program::MayClose() {
-    project_.close();
+    project_.AskAtEnd();
     return project_.LastUnload() != frm_SkinProject::Unload::SaveFailed;
 }
 
@@ -64,6 +74,21 @@ void Program::ShowToolbox() {
 PropertiesPanel& Program::properties() {
     if (!properties_) properties_ = std::make_unique<frm_Properties>(&main_, *this, main_);
     return *properties_;
+}
+
+void Program::ToggleToolbox() {
+    if (toolbox_ && toolbox_->isVisible())
+        toolbox_->close();
+    else
+        ShowToolbox();
+}
+
+/// With nothing selected it shows what all of the skin has.
+void Program::ToggleProperties() {
+    if (properties().IsShown()) return properties().Hide();
+    if (!SelControl) project_.btn_SkinProperties->PerformClick();
+    if (!SelControl) properties().UnloadProperties();
+    properties().Open();
 }
 
 void Program::ShowPreview() {
@@ -108,6 +133,7 @@ bool Program::EditPicture(const std::string& finalName, std::string& path) {
     frm_PictureEditor editor(&main_);
     editor.SetFinalName(finalName);
     editor.SetEditPicture(path);
+    const Asker asker(QApplication::activeWindow());
     editor.ShowModal();
     if (editor.IsCanceled()) return false;
     path = editor.EditPicture();

@@ -35,9 +35,13 @@ public:
     void LeavePreview() override;
     void ToggleMagnifier() override;
     bool EditPicture(const std::string& finalName, std::string& path) override;
+    const std::vector<WindowLine>& Lines() override { return lines_; }
     PropertiesPanel& properties() override;
 
 private:
+    void ToggleToolbox();
+    void ToggleProperties();
+
     std::string ownFolder_;
     QtPrompts prompts_;
     frm_Ornavo main_;
@@ -47,6 +51,7 @@ private:
     std::unique_ptr<frm_Magnifier> magnifier_;    // the one last opened
     std::unique_ptr<frm_Preview> preview_;        // null while there is none
     bool toolboxWaits_ = false;                   // for the main window, above which it stays
+    std::vector<WindowLine> lines_;
 };
 
 }  // namespace ornavo

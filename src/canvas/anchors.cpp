@@ -3,10 +3,13 @@
 
 #include <QPainter>
 
+#include "canvas/element_families.h"
 #include "canvas/gesture_math.h"
 #include "canvas/shape_points.h"
+#include "document/current_skin.h"
+#include "document/shape_edits.h"
 #include "editor/selection.h"
-#include "render/layout_host.h"
+#include "render/redraw.h"
 
 namespace ornavo {
 namespace {
@@ -45,19 +48,10 @@ void PutCornerColour(Control* control) {
     if (control && control->Name == "cPointMover") control->SetBackColor(PointColor);
 }
 
-template <class T>
-Control* InPool(const Pool<T>& pool, const std::string& tag) {
-    for (int i = 1; i <= pool.Top(); ++i)
-        if (pool[i].Tag == tag) return &pool[i];
-    return nullptr;
-}
-
-Control* ElementControl(LayoutHost& host, const std::string& key) {
-    for (Control* single : {static_cast<Control*>(&host.pMain), static_cast<Control*>(&host.tbx_Search),
-                            static_cast<Control*>(&host.Scrollframe)})
-        if (!single->isHidden() && single->Tag == key) return single;
-    Control* found = InPool(host.Element, key);
-    return found ? found : InPool(host.pInfo, key);
+/// A control for the selected element, which is kept until elements are shown again.
+Control* Unseen() {
+    const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(SelKey);
+    return element && ElementsAreHidden(*SelControl) ? &ControlOf(*element) : nullptr;
 }
 
 }  // namespace
@@ -133,7 +127,8 @@ void Anchors::HideSelectionTools() {
 void Anchors::FollowSelection(LayoutHost& host, ShapePoints& points) {
     if (!SelControl || SelKey.empty()) return;
     const bool isCorner = SelControl->Name == "cPointMover";
-    Control* found = isCorner ? InPool(points.cPointMover, SelKey) : ElementControl(host, SelKey);
+    Control* found = isCorner ? points.FindCorner(OrderOfTag(SelKey)) : ElementControl(host, SelKey);
+    if (!found) found = Unseen();
     if (!found) return ResetSelection();
     if (found != SelControl) PutCornerColour(SelControl);
     SelControl = found;

@@ -84,8 +84,7 @@ void CanvasEvents::MouseDown(Control& control, const Mouse& mouse) {
 
 void CanvasEvents::MouseMove(Control& control, const Mouse& mouse) {
     if (parts_.form.testAttribute(Qt::WA_SetCursor)) parts_.form.unsetCursor();
-    if (pressedTwice_ == &control && mouse.button & LeftButton)
-        MouseDown(control, {LeftButton, mouse.shift, mouse.x, mouse.y});
+    if (pressedTwice_ == &control && mouse.button & LeftButton) MouseDown(control, secondPress_);
     if (!parts_.drag.MouseIsDown) return;
     if (mouse.button == 0) {  // the release went elsewhere
         lastPlace_ = OnScreen(control, mouse);
@@ -110,16 +109,22 @@ void CanvasEvents::MouseUp(Control& control, const Mouse& mouse) {
     Attempt([&] { GestureOf(control).up(parts_, control, mouse); });
 }
 
-/// It takes the place of the second press, and the drag begins with the first move.
-void CanvasEvents::DblClick(Control& control) {
+/// The drag begins with the first move, from where the second press was.
+void CanvasEvents::DblClick(Control& control, const Mouse& mouse) {
     pressedTwice_ = &control;
+    secondPress_ = mouse;
 }
 
-void CanvasEvents::Form_MouseDown(int x, int y) {
+bool CanvasEvents::Form_MouseDown(int x, int y) {
     const int side = objCurrentLayout ? LineUnderPointer(x, y) : 0;
-    if (side == 0) return parts_.anchors.ResetSelection();
-    Attempt([&] { AddShapePoint(parts_, side, x, y, false); });
-    parts_.showGrid();
+    bool inserted = false;
+    if (side == 0) {
+        parts_.anchors.ResetSelection();
+    } else {
+        Attempt([&] { inserted = AddShapePoint(parts_, side, x, y, false); });
+        parts_.showGrid();
+    }
+    return inserted;
 }
 
 void CanvasEvents::Form_MouseMove(int x, int y) {

@@ -15,10 +15,10 @@ public:
     void MouseDown(Control& control, const Mouse& mouse) override;
     void MouseMove(Control& control, const Mouse& mouse) override;
     void MouseUp(Control& control, const Mouse& mouse) override;
-    void DblClick(Control& control) override;
+    void DblClick(Control& control, const Mouse& mouse) override;
 
-    /// The mouse on the bare canvas, in its pixels.
-    void Form_MouseDown(int x, int y);
+    /// The mouse on the bare canvas, in its pixels. True if the press has inserted a corner.
+    bool Form_MouseDown(int x, int y);
     void Form_MouseMove(int x, int y);
 
 private:
@@ -29,6 +29,7 @@ private:
     int button_ = 0;                   // that began the drag
     QPoint lastPlace_;                 // of the drag, on the screen
     Control* pressedTwice_ = nullptr;  // by a double click, and still held
+    Mouse secondPress_;                // of that control
 };
 
 }  // namespace ornavo

@@ -34,7 +34,8 @@ struct CanvasParts {
     Windows& windows;
     DragState& drag;
     QTimer& tmrShowProperties;
-    std::function<void()> showGrid;  // paints the surface anew
+    std::function<void()> showGrid;                     // paints the surface anew
+    std::function<void(bool isOpen)> layoutShown = {};  // after each composition: whether it had a layout
 };
 
 }  // namespace ornavo

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/element_families.h"
 
+#include <QApplication>
 #include <algorithm>
 #include <array>
 
@@ -12,6 +13,7 @@
 #include "render/search_letters.h"
 #include "render/standard_elements.h"
 #include "render/target.h"
+#include "render/view_switches.h"
 
 namespace ornavo {
 namespace {
@@ -25,12 +27,31 @@ constexpr std::array Families = {
     ElementFamily{"ScrollBar", DragScrollframe, 1, true, true},
 };
 
+template <class T>
+Control* InPool(const Pool<T>& pool, const std::string& tag) {
+    for (int i = 1; i <= pool.Top(); ++i)
+        if (pool[i].Tag == tag) return &pool[i];
+    return nullptr;
+}
+
 }  // namespace
 
 const ElementFamily* FamilyOf(const Control& control) {
     const auto found = std::find_if(Families.begin(), Families.end(),
                                     [&](const ElementFamily& family) { return family.name == control.Name; });
     return found == Families.end() ? nullptr : &*found;
+}
+
+Control* ElementControl(LayoutHost& host, const std::string& key) {
+    for (Control* single : {static_cast<Control*>(&host.pMain), static_cast<Control*>(&host.tbx_Search),
+                            static_cast<Control*>(&host.Scrollframe)})
+        if (!single->isHidden() && single->Tag == key) return single;
+    Control* found = InPool(host.Element, key);
+    return found ? found : InPool(host.pInfo, key);
+}
+
+bool ElementsAreHidden(const Control& control) {
+    return !viewSwitches.ShowElements && FamilyOf(control);
 }
 
 void ScrollBarFollows(CanvasParts& parts) {
@@ -59,7 +80,8 @@ void WriteSelectedBounds(CanvasParts& parts) {
 }
 
 void FocusForm(CanvasParts& parts) {
-    if (!parts.form.isActiveWindow()) parts.form.activateWindow();
+    // To Qt a window is active while one of its tool windows is; the keyboard is that one's then.
+    if (QApplication::activeWindow() != &parts.form) parts.form.activateWindow();
     parts.form.setFocus();
 }
 

@@ -20,6 +20,12 @@ struct ElementFamily {
 /// Null for any other control. The bar belongs to the family of its frame.
 const ElementFamily* FamilyOf(const Control& control);
 
+/// The control in the window that shows the element with the key; null where none does. That of an element
+/// that is not visible is found too.
+Control* ElementControl(LayoutHost& host, const std::string& key);
+/// Whether the control stands for an element while the view shows none.
+bool ElementsAreHidden(const Control& control);
+
 /// What follows the selected control's bounds: the bar of a scroll frame.
 void ScrollBarFollows(CanvasParts& parts);
 /// The panel and the sample on it drawn anew at their size.

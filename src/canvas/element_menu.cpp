@@ -9,6 +9,7 @@
 #include "canvas/keys.h"
 #include "canvas/new_elements.h"
 #include "canvas/picture_items.h"
+#include "canvas/window_menu.h"
 #include "document/current_skin.h"
 #include "document/layout_edits.h"
 #include "editor/selection.h"
@@ -58,6 +59,7 @@ void PopupElementMenu(CanvasParts& parts, const QPoint& at, bool isStandard) {
         item->setData(row.index);
         item->setEnabled(row.forStandard || !isStandard);
     }
+    AddWindowMenu(mnuElement, parts.windows);
     if (const QAction* chosen = mnuElement.exec(at)) mnuElementSub_Click(parts, chosen->data().toInt());
 }
 

@@ -12,6 +12,7 @@
 #include "canvas/element_families.h"
 #include "canvas/keys.h"
 #include "canvas/view_settings.h"
+#include "canvas/window_menu.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
@@ -29,10 +30,6 @@ constexpr const char* LoadingError = "Loading Skin Error";
 
 bool SkinIsOpen() {
     return objSkin && objCurrentLayout && !objSkin->SkinName.empty();
-}
-
-bool LayoutIsShown() {
-    return objCurrentLayout && !objCurrentLayout->Key.empty();
 }
 
 }  // namespace
@@ -109,6 +106,7 @@ void frm_Ornavo::Form_Activate() {
     if (!commandLine_.empty()) {
         try {
             windows_.LoadDebug(commandLine_);
+            if (!SkinIsOpen()) notFound_ = commandLine_;
         } catch (const Failure& failure) {
             problem_ = failure.description();
             return;
@@ -147,10 +145,11 @@ void frm_Ornavo::UpdateCurrentLayout() {
     ComposeLayout(*this, objCurrentLayout, objSkin->SkinWidth, objSkin->SkinHeight);
     anchors_.FollowSelection(host_, points_);
     ShowWelcome();
+    if (parts_.layoutShown) parts_.layoutShown(LayoutIsOpen());
 }
 
 bool frm_Ornavo::BeginPreview() {
-    if (!LayoutIsShown()) return false;
+    if (!LayoutIsOpen()) return false;
     if (QWidget* focus = QApplication::focusWidget()) focus->clearFocus();  // what was typed there counts
     FinishDrag(parts_);
     windows_.properties().DrawPendingEdits();
@@ -186,12 +185,11 @@ Control* frm_Ornavo::PlaceAnchors(Control* control, bool keepSelection) {
 void frm_Ornavo::UpdateCaption() {
     QString caption = QString::fromStdString("Ornavo " + version_ + " (BETA)");
     if (SkinIsOpen())
-        caption = QStringLiteral("Ornavo -> %1 -> %2%3 -> Current Size: %4x%5")
-                      .arg(QString::fromStdString(objSkin->SkinName),
-                           QString::fromStdString(objCurrentLayout->LayoutName),
-                           QLatin1String(objSkin->Dirty ? "*" : ""))
-                      .arg(ScaleWidth())
-                      .arg(ScaleHeight());
+        caption =
+            QStringLiteral("Ornavo -> %1 -> %2%3 -> Current Size: %4x%5")
+                .arg(QString::fromStdString(objSkin->SkinName),
+                     QString::fromStdString(objCurrentLayout->LayoutName), QString(objSkin->Dirty ? "*" : ""),
+                     QString::number(ScaleWidth()), QString::number(ScaleHeight()));
     setWindowTitle(caption);
 }
 
@@ -203,10 +201,10 @@ void frm_Ornavo::ResetFormToOriginal() {
 
 void frm_Ornavo::ShowWelcome() {
     // What has no file has no size either.
-    if (LayoutIsShown())
+    if (LayoutIsOpen())
         welcome_.Leave();
     else
-        welcome_.Show(SkinIsOpen() ? objSkin->SkinName : "", objSkin->SkinWidth > 0);
+        welcome_.Show(SkinIsOpen() ? objSkin->SkinName : notFound_, SkinIsOpen() && objSkin->SkinWidth > 0);
 }
 
 void frm_Ornavo::ShowGrid() {
@@ -227,7 +225,8 @@ void frm_Ornavo::keyPressEvent(QKeyEvent* event) {
 
 void frm_Ornavo::mousePressEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
-    events_.Form_MouseDown(at.x(), at.y());
+    if (!events_.Form_MouseDown(at.x(), at.y()) && event->button() == Qt::RightButton)
+        PopupWindowMenu(parts_, event->globalPosition().toPoint());
 }
 
 void frm_Ornavo::mouseMoveEvent(QMouseEvent* event) {
@@ -239,6 +238,7 @@ void frm_Ornavo::mouseDoubleClickEvent(QMouseEvent*) {}  // the first press has 
 
 void frm_Ornavo::Form_Unload() {
     hasGone_ = true;
+    tmrSelector.stop();
     windows_.UnloadOthers();
     SaveSettings();
 }

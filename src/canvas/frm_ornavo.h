@@ -67,6 +67,7 @@ protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseDoubleClickEvent(QMouseEvent*) override;
+    bool focusNextPrevChild(bool) override { return false; }  // Tab is a key of the canvas like others
 
 private:
     void Form_Load();
@@ -80,7 +81,8 @@ private:
     bool hasGone_ = false;  // closed: what is composed after it is for the project panel that stayed
     std::string version_;
     std::string commandLine_;
-    std::string problem_;  // why the skin of the command line could not be opened
+    std::string problem_;   // why the skin of the command line could not be opened
+    std::string notFound_;  // the command line, when it leads to no skin
     DragState drag_;
     CanvasParts parts_;
     CanvasEvents events_;

@@ -10,9 +10,11 @@
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "canvas/anchors.h"
+#include "canvas/element_families.h"
 #include "canvas/new_elements.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
+#include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "editor/skin_drop.h"
 #include "platform/fonts.h"
@@ -75,11 +77,19 @@ frm_Toolbox::frm_Toolbox(CanvasParts& parts) : Form(&parts.form, "frm_Toolbox", 
                             "Show the screen about the pointer enlarged, or no longer");
     Arrange();
     Connect();
+    EnableAdders(LayoutIsOpen());
+    parts_.layoutShown = [this](bool isOpen) { EnableAdders(isOpen); };
 }
 
 // A box that has the focus is left now, while there is still somebody to hear of it.
 frm_Toolbox::~frm_Toolbox() {
     hide();
+    parts_.layoutShown = nullptr;
+}
+
+void frm_Toolbox::EnableAdders(bool enabled) {
+    for (TileCommand* command : {btn_AddButton, btn_AddGraphic, btn_AddVolume, btn_AddInfo})
+        command->setEnabled(enabled);
 }
 
 TileCommand* frm_Toolbox::Command(const char* name, const char* caption, const char* picture, int size,
@@ -216,8 +226,11 @@ void frm_Toolbox::Switch(QCheckBox* box, bool& viewSwitch, void (frm_Toolbox::*r
 }
 
 void frm_Toolbox::ShowElementsChanged() {
+    if (SelControl && ElementsAreHidden(*SelControl)) parts_.anchors.ResetSelection();
     if (!viewSwitches.ShowElements) parts_.anchors.HideAnchors();
     Recompose();
+    // What was added unseen is shown as the selection now.
+    if (SelControl && FamilyOf(*SelControl)) parts_.anchors.PlaceAnchors(SelControl, false);
 }
 
 void frm_Toolbox::RepaintGrid() {

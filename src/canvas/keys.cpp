@@ -9,9 +9,12 @@
 #include "canvas/corner_math.h"
 #include "canvas/dragging.h"
 #include "canvas/element_families.h"
+#include "canvas/element_menu.h"
 #include "canvas/gesture_math.h"
+#include "canvas/selection_steps.h"
 #include "canvas/shape_gestures.h"
 #include "canvas/shape_points.h"
+#include "canvas/window_menu.h"
 #include "document/current_skin.h"
 #include "document/layout_edits.h"
 #include "document/shape_edits.h"
@@ -21,10 +24,10 @@
 namespace ornavo {
 namespace {
 
-constexpr int CtrlOnly = 2, AnyShift = -1;
+constexpr int ShiftKey = 1, CtrlOnly = 2, AnyShift = -1;
 
 void ShowPreview(CanvasParts& parts, const Point&, int) {
-    if (!objCurrentLayout || objCurrentLayout->Key.empty()) return;
+    if (!LayoutIsOpen()) return;
     FinishDrag(parts);
     parts.windows.ShowPreview();
 }
@@ -101,6 +104,21 @@ void Delete(CanvasParts& parts, const Point&, int shift) {
     parts.canvas.UpdateCaption();
 }
 
+void PopupMenu(CanvasParts& parts, const Point&, int) {
+    const ElementFamily* family = SelControl ? FamilyOf(*SelControl) : nullptr;
+    const QWidget& place =
+        SelControl && SelControl->window() == &parts.form ? static_cast<QWidget&>(*SelControl) : parts.form;
+    const QPoint middle = place.mapToGlobal(place.rect().center());
+    if (family && !ElementsAreHidden(*SelControl))
+        PopupElementMenu(parts, middle, family->isStandard);
+    else
+        PopupWindowMenu(parts, middle);
+}
+
+void Step(CanvasParts& parts, const Point&, int shift) {
+    StepSelection(parts, shift & ShiftKey ? -1 : 1);
+}
+
 struct KeyRow {
     int code;
     int shift;
@@ -112,6 +130,10 @@ struct KeyRow {
 constexpr std::array Keys = {
     KeyRow{KeyF5, AnyShift, false, {0, 0}, ShowPreview, Qt::Key_F5},
     KeyRow{KeyS, CtrlOnly, false, {0, 0}, Save, Qt::Key_S},
+    KeyRow{KeyMenu, AnyShift, false, {0, 0}, PopupMenu, Qt::Key_Menu},
+    KeyRow{KeyF10, ShiftKey, false, {0, 0}, PopupMenu, Qt::Key_F10},
+    KeyRow{KeyTab, AnyShift, false, {0, 0}, Step, Qt::Key_Tab},
+    KeyRow{KeyTab, AnyShift, false, {0, 0}, Step, Qt::Key_Backtab},
     KeyRow{KeyUp, AnyShift, true, {0, -1}, Nudge, Qt::Key_Up},
     KeyRow{KeyDown, AnyShift, true, {0, 1}, Nudge, Qt::Key_Down},
     KeyRow{KeyLeft, AnyShift, true, {-1, 0}, Nudge, Qt::Key_Left},
@@ -125,7 +147,7 @@ bool Form_KeyDown(CanvasParts& parts, int keyCode, int shift) {
     const auto row =
         std::find_if(Keys.begin(), Keys.end(), [&](const KeyRow& one) { return one.code == keyCode; });
     if (row == Keys.end() || (row->shift != AnyShift && row->shift != shift)) return false;
-    if (row->needsSelection && !SelControl) return false;
+    if (row->needsSelection && (!SelControl || ElementsAreHidden(*SelControl))) return false;
     row->effect(parts, row->direction, shift);
     return true;
 }

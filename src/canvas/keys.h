@@ -7,13 +7,16 @@
 namespace ornavo {
 
 enum KeyCode {
+    KeyTab = 9,
     KeyLeft = 37,
     KeyUp = 38,
     KeyRight = 39,
     KeyDown = 40,
     KeyDelete = 46,
     KeyS = 83,
-    KeyF5 = 116
+    KeyMenu = 93,
+    KeyF5 = 116,
+    KeyF10 = 121
 };
 
 /// `shift`: 1 Shift, 2 Ctrl, 4 Alt. True if the key has a meaning here.

@@ -4,11 +4,12 @@
 #include <array>
 
 #include "base/failure.h"
+#include "canvas/element_families.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
 #include "document/layout_edits.h"
 #include "editor/selection.h"
-#include "render/layout_host.h"
+#include "render/redraw.h"
 
 namespace ornavo {
 namespace {
@@ -50,29 +51,17 @@ void CopyFields(dbLayoutElement& clone, const dbLayoutElement& source) {
     clone = std::move(copy);
 }
 
-/// The control that shows the element; null where none does.
-template <class T>
-Control* ControlIn(const Pool<T>& pool, int slot, const std::string& key) {
-    return slot >= 1 && slot <= pool.Top() && pool[slot].Tag == key ? &pool[slot] : nullptr;
-}
-
-Control* ControlOf(const LayoutHost& host, const dbLayoutElement& element) {
-    return element.ElementType == TypeInfo
-               ? ControlIn<PictureBox>(host.pInfo, element.ControlIndex, element.Key)
-               : ControlIn<TileButton>(host.Element, element.ControlIndex, element.Key);
-}
-
-/// Composes the layout with the new element and shows it as the selection.
-void SelectNewElement(CanvasParts& parts, const dbLayoutElement& element) {
+/// Composes the layout with the new element and shows it as the selection, which it is unseen too. The
+/// keyboard is then the canvas's.
+void SelectNewElement(CanvasParts& parts, dbLayoutElement& element) {
     objSkin->Dirty = true;
     parts.canvas.UpdateCurrentLayout();
-    parts.canvas.PlaceAnchors(ControlOf(parts.host, element), false);
+    SelControl = &ControlOf(element);
+    SelKey = element.Key;
+    parts.canvas.PlaceAnchors(SelControl, false);
     parts.windows.properties().UnloadProperties();
     parts.windows.properties().Open();
-}
-
-bool LayoutIsOpen() {
-    return objSkin && objCurrentLayout && !objCurrentLayout->Key.empty();
+    FocusForm(parts);
 }
 
 }  // namespace

@@ -92,12 +92,12 @@ int LineUnderPointer(int x, int y) {
     return 0;
 }
 
-void AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToLine) {
+bool AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToLine) {
     if (!TargetLayout || !objCurrentLayout || index < 1 || index > objCurrentLayout->dbPoints->Count())
-        return;
+        return false;
     if (relativeToLine) {
         const dbLine* side = parts.points.FindSide(index);
-        if (!side) return;
+        if (!side) return false;
         x += std::min(side->X1(), side->X2());
         y += std::min(side->Y1(), side->Y2());
     }
@@ -107,11 +107,15 @@ void AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToL
         const dbPoint& neighbour = *objCurrentLayout->dbPoints->Item(index);
         InsertWithFreeKey(points, NewPoint(neighbour, x, y, points.Count() + 1), index);
     });
-    if (!added) return;
+    if (!added) return false;
     RenumberPoints(points);
     MarkDirty(parts);
     parts.points.ShowShapePoints();
-    if (selected) SelectAgain(parts.points, *selected);
+    if (selected) {
+        SelectAgain(parts.points, *selected);
+        parts.windows.properties().ShowProperties();
+    }
+    return true;
 }
 
 void MovePoint(CanvasParts& parts, int order, int x, int y) {

@@ -9,8 +9,9 @@ namespace ornavo {
 
 /// The side on which the pointer rests, by its box and 3 pixels more; 0 for none. Counts from 1.
 int LineUnderPointer(int x, int y);
-/// Inserts a point behind position `index`; pixels of the canvas, or of the side's control.
-void AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToLine);
+/// Inserts a point behind position `index`; pixels of the canvas, or of the side's control. False if it could
+/// not.
+bool AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToLine);
 /// Writes the point of that Order, moves the sides that meet there and paints the surface.
 void MovePoint(CanvasParts& parts, int order, int x, int y);
 

@@ -14,6 +14,11 @@ namespace ornavo {
 extern dbSkinRef objSkin;             // a fresh one at start; replaced on open and on create
 extern dbLayoutRef objCurrentLayout;  // an empty one until a skin is opened
 
+/// Whether the current layout is one of a skin.
+inline bool LayoutIsOpen() {
+    return objSkin && objCurrentLayout && !objCurrentLayout->Key.empty();
+}
+
 /// "" for ""; a bare name lies in the current skin's folder; a name with a separator is taken as it stands.
 std::string GetSkinPicturePath(std::string_view name);
 /// The places where the picture may lie while a skin is the current one, the best first.

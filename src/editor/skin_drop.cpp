@@ -8,16 +8,28 @@
 #include <exception>
 #include <string>
 
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
 #include "editor/windows.h"
 #include "platform/prompts.h"
 
 namespace ornavo {
 namespace {
 
-/// The folder or file that a drag brings; "" if it brings something else.
-std::string DroppedPath(const QDropEvent& event) {
+constexpr const char* SettingsFile = "SkinSettings.xml";  // in any case
+
+bool IsSkin(const std::string& path) {
+    if (FolderExists(path)) return FileExists(WithSeparator(path) + SettingsFile);
+    return EqualText(GetFileName(path), SettingsFile) && FileExists(path);
+}
+
+/// The skin's folder or settings file that a drag brings; "" if it brings something else.
+std::string DroppedSkin(const QDropEvent& event) {
     const QList<QUrl> urls = event.mimeData()->urls();
-    return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile().toStdString() : "";
+    if (urls.size() != 1 || !urls.first().isLocalFile()) return "";
+    const std::string path = urls.first().toLocalFile().toStdString();
+    return IsSkin(path) ? path : "";
 }
 
 }  // namespace
@@ -38,7 +50,7 @@ SkinDrop::SkinDrop(QWidget& window, Windows& windows) : QObject(&window), window
 bool SkinDrop::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop) return false;
     auto& drop = *static_cast<QDropEvent*>(event);  // the base of both
-    const std::string path = DroppedPath(drop);
+    const std::string path = DroppedSkin(drop);
     if (path.empty()) return false;
     drop.acceptProposedAction();
     if (event->type() == QEvent::DragEnter) return true;

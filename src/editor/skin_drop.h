@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A skin's folder or its settings file dropped on a window opens the skin, as other gestures do.
+// A skin's folder or its settings file dropped on a window opens the skin, as other gestures do. Nothing else is
+// taken.
 #pragma once
 
 #include <QObject>

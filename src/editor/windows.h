@@ -2,8 +2,10 @@
 // How one window asks for another. The program ties these to the real windows.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ornavo {
 
@@ -35,11 +37,19 @@ public:
     virtual bool IsShown() const { return false; }
 };
 
+/// One of the windows that the user shows and hides by a menu.
+struct WindowLine {
+    std::string caption;
+    std::function<bool()> isShown;
+    std::function<void()> toggle;
+};
+
 /// By the program.
 class Windows {
 public:
     virtual ~Windows() = default;
-    /// Opens the skin that a text names: a name in the program's own "Skins", or a path. Failure if it can't.
+    /// Opens the skin that a text names: a name in the program's own "Skins", or a path. What leads to no
+    /// skin opens nothing. Failure if the skin can't be opened.
     virtual void LoadDebug(std::string_view skinName) = 0;
     /// The folder of the user's skins; "" for none.
     virtual std::string SkinsFolder() const { return {}; }
@@ -57,6 +67,10 @@ public:
     /// The picture editor on a picture of the skin: `finalName` is the proposed base name, `path` the picture
     /// and then what was saved. False: cancelled.
     virtual bool EditPicture(const std::string& /*finalName*/, std::string& /*path*/) { return false; }
+    virtual const std::vector<WindowLine>& Lines() {
+        static const std::vector<WindowLine> none;
+        return none;
+    }
     virtual PropertiesPanel& properties() {
         static PropertiesPanel none;
         return none;

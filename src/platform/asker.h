@@ -7,14 +7,12 @@
 
 namespace ornavo {
 
-/// While a box is open. The window gets the keyboard back when this goes; a desktop would give it to the main
-/// window.
+/// Lives while a box is open. The window gets the keyboard back when this goes, where a desktop would give it
+/// to the main window.
 class Asker {
 public:
     explicit Asker(QWidget* window) : window_(window) {}
-    ~Asker() {
-        if (window_ && window_->isVisible()) window_->activateWindow();
-    }
+    ~Asker();
     Asker(const Asker&) = delete;
     Asker& operator=(const Asker&) = delete;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/control.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QTextDocument>
 #include <algorithm>
@@ -34,10 +35,32 @@ Mouse MouseOf(const QMouseEvent& event, int button) {
     return {button, shift, at.x(), at.y(), onScreen.x(), onScreen.y()};
 }
 
+class AccessibleControl : public QAccessibleWidget {
+public:
+    explicit AccessibleControl(Control* control) : QAccessibleWidget(control) {}
+    QAccessible::Role role() const override { return Told().AccessibleRole(); }
+    QString text(QAccessible::Text kind) const override {
+        if (kind != QAccessible::Description || role() == QAccessible::Client)
+            return QAccessibleWidget::text(kind);
+        const Rect at = Told().Bounds();
+        return QStringLiteral("%1, %2   %3 \u00D7 %4").arg(at.left).arg(at.top).arg(at.width).arg(at.height);
+    }
+
+private:
+    const Control& Told() const { return *static_cast<Control*>(widget()); }
+};
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
+    auto* control = dynamic_cast<Control*>(object);
+    return control ? new AccessibleControl(control) : nullptr;
+}
+
 }  // namespace
 
 Control::Control(QWidget* parent, std::string name, int index)
     : QWidget(parent), Name(std::move(name)), Index(index) {
+    static const bool told = (QAccessible::installFactory(MakeAccessible), true);
+    static_cast<void>(told);
     setObjectName(QString::fromStdString(Name));
     setMouseTracking(true);
 }
@@ -57,6 +80,11 @@ void Control::Move(const Rect& bounds) {
 
 void Control::ZOrder() {
     raise();
+}
+
+void Control::SetAccessible(QAccessible::Role role, const QString& name) {
+    role_ = role;
+    if (name != accessibleName()) setAccessibleName(name);
 }
 
 void Control::Refresh() {
@@ -97,7 +125,7 @@ void Control::mouseReleaseEvent(QMouseEvent* event) {
 
 void Control::mouseDoubleClickEvent(QMouseEvent* event) {
     event->accept();
-    if (events_) events_->DblClick(*this);
+    if (events_) events_->DblClick(*this, MouseOf(*event, event->button()));
 }
 
 QString PlainTip(const QString& text) {

@@ -2,6 +2,7 @@
 // The base of every control that a layout owns: name, tag, place, and the mouse handed to one listener.
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 #include <string>
 
@@ -26,8 +27,8 @@ public:
     virtual void MouseDown(Control&, const Mouse&) {}
     virtual void MouseMove(Control&, const Mouse&) {}
     virtual void MouseUp(Control&, const Mouse&) {}
-    virtual void DblClick(Control&) {}
-    virtual void Repeat(Control&) {}  // a button is held
+    virtual void DblClick(Control&, const Mouse&) {}  // in place of the second press
+    virtual void Repeat(Control&) {}                  // a button is held
 };
 
 /// Accepts every press, so that nothing falls through to the window behind.
@@ -43,6 +44,9 @@ public:
     void Move(const Rect& bounds);  // pixels; Failure 380 on a negative size
     void ZOrder();                  // to the front
     virtual void Refresh();         // paints again what has changed
+    /// What a screen reader says of it besides its place.
+    void SetAccessible(QAccessible::Role role, const QString& name);
+    QAccessible::Role AccessibleRole() const { return role_; }
     void Listen(ControlEvents* events) { events_ = events; }
 
     Colour BackColor() const { return backColor_; }
@@ -63,6 +67,7 @@ private:
     ControlEvents* events_ = nullptr;
     Colour backColor_ = ButtonFace;
     int pointer_ = 0;
+    QAccessible::Role role_ = QAccessible::Client;
 };
 
 /// The text for a tool tip, which shows it as it is, also where it looks like markup.

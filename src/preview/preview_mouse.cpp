@@ -51,7 +51,7 @@ void PreviewMouse::MouseUp(Control& control, const Mouse&) {
         Attempt([&] { Element_MouseUp(*element); });
 }
 
-void PreviewMouse::DblClick(Control& control) {
+void PreviewMouse::DblClick(Control& control, const Mouse&) {
     const dbLayoutElement* element = ElementOf(control, "Element");
     if (element && element->Dragger) window_.ToggleMaximise();
 }

@@ -42,7 +42,7 @@ public:
     void MouseDown(Control& control, const Mouse& mouse) override;
     void MouseMove(Control& control, const Mouse& mouse) override;
     void MouseUp(Control& control, const Mouse& mouse) override;
-    void DblClick(Control& control) override;
+    void DblClick(Control& control, const Mouse& mouse) override;
     void Repeat(Control& control) override;
 
 private:

@@ -2,6 +2,7 @@
 // The dialog that makes a new, empty skin in memory.
 #pragma once
 
+#include "platform/asker.h"
 #include "platform/form.h"
 #include "platform/tile_command.h"
 #include "project/skin_files.h"
@@ -28,6 +29,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent*) override;
+    void hideEvent(QHideEvent*) override { const Asker asker(parentWidget()); }
 
 private:
     void Form_Load();

@@ -252,6 +252,7 @@ void frm_SkinProject::btn_SaveToSkin_Click() {
 void frm_SkinProject::lst_Layouts_ItemClick() {
     EnableLayoutButtons(lst_Layouts->LayoutIsSelected());
     if (!lst_Layouts->LayoutIsSelected()) return;
+    EnableSkinControls(true);
     objCurrentLayout = objSkin->dbLayouts->Item(lst_Layouts->SelectedKey());
     windows_.ShowToolbox();
     ShowCurrentLayout();
@@ -261,7 +262,9 @@ void frm_SkinProject::lst_Layouts_Delete() {
     const std::string key = lst_Layouts->SelectedKey();
     if (!DeleteLayout(key, lst_Layouts->SelectedText())) return;
     lst_Layouts->Remove(key);
-    canvas_.UpdateCurrentLayout();
+    if (lst_Layouts->LayoutIsSelected()) return lst_Layouts_ItemClick();
+    objCurrentLayout = std::make_shared<dbLayout>();
+    ShowCurrentLayout();
     btn_SkinProperties->setEnabled(false);
     EnableLayoutButtons(false);
 }
@@ -285,7 +288,7 @@ void frm_SkinProject::lst_Layouts_AfterLabelEdit(const QString& key, const QStri
     }
     canvas_.UpdateCurrentLayout();
     lst_Layouts->Add(*objCurrentLayout);
-    EnableLayoutButtons(true);
+    EnableSkinControls(true);
 }
 
 frm_SkinProject::Unload frm_SkinProject::AskToSave() {
@@ -302,13 +305,31 @@ frm_SkinProject::Unload frm_SkinProject::AskToSave() {
     return Unload::Done;
 }
 
+void frm_SkinProject::Hide() {
+    KeepPlace();
+    hide();
+}
+
+void frm_SkinProject::AskAtEnd() {
+    if (isVisible()) {
+        close();
+        return;
+    }
+    lastUnload_ = AskToSave();
+    if (lastUnload_ != Unload::Done) show();
+}
+
 bool frm_SkinProject::Form_QueryUnload() {
     lastUnload_ = AskToSave();
+    KeepPlace();
+    return lastUnload_ == Unload::Done;
+}
+
+void frm_SkinProject::KeepPlace() const {
     const Rect bounds = TwipBounds();
     settings::SkinProjectLeft.Write(bounds.left);
     settings::SkinProjectTop.Write(bounds.top);
     settings::SkinProjectHeight.Write(bounds.height);
-    return lastUnload_ == Unload::Done;
 }
 
 void frm_SkinProject::StandAlone() {

@@ -36,6 +36,11 @@ public:
     /// What the Save button does; nothing while no skin is open. False if nothing was saved.
     bool SaveSkin();
 
+    void Hide();  // without a question; its place is kept
+    /// The program ends: asks about changes whether the panel is shown or not, and closes it. Unless all went
+    /// well it is shown again.
+    void AskAtEnd();
+
     /// How the window took the last request to close.
     enum class Unload { Done, Cancelled, SaveFailed };
     Unload LastUnload() const { return lastUnload_; }
@@ -57,6 +62,7 @@ private:
     void ShowReplacedSkin();
     void ShowCurrentLayout();
     void FinishEdits();
+    void KeepPlace() const;
     Unload AskToSave();
 
     void tbx_SkinName_LostFocus();

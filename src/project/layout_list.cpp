@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "base/failure.h"
 #include "base/text.h"
@@ -39,7 +40,6 @@ private:
 LayoutList::LayoutList(QWidget* parent) : QTreeWidget(parent) {
     setColumnCount(1);
     setHeaderLabel("Layouts");
-    setHeaderHidden(true);  // the panel is low; a screen reader still has the column's name
     header()->setStretchLastSection(true);
     setRootIsDecorated(false);
     setItemsExpandable(false);
@@ -85,9 +85,10 @@ void LayoutList::Add(const dbLayout& layout) {
 
 void LayoutList::Remove(std::string_view key) {
     const ornavo::Raised busy(ListBusy);
-    delete Find(key);
-    setCurrentItem(nullptr);
-    clearSelection();
+    QTreeWidgetItem* gone = Find(key);
+    const int row = indexOfTopLevelItem(gone), last = topLevelItemCount() - 2;  // the last makes a new one
+    delete gone;
+    setCurrentItem(last > 0 ? topLevelItem(std::min(row, last - 1)) : nullptr);
 }
 
 void LayoutList::Rename(std::string_view key, std::string_view name) {

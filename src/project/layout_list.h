@@ -25,7 +25,7 @@ public:
     void Fill(const dbLayouts& layouts, std::string_view selected);
     /// Inserts the layout before the last item and selects it.
     void Add(const dbLayout& layout);
-    /// Takes the item out; none is selected afterwards.
+    /// Takes the item out and selects the next layout, otherwise the one before, if there is one.
     void Remove(std::string_view key);
     void Rename(std::string_view key, std::string_view name);
 

@@ -55,6 +55,10 @@ SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder) {
     return {GetParentFolderName(folder), GetFileName(folder)};
 }
 
+bool HoldsSkin(const SkinPlace& place) {
+    return FileExists(WithSeparator(place.basePath + place.skinName) + std::string(SettingsFileName));
+}
+
 SkinFiles::SkinFiles(std::string ownFolder, std::string dataFolder)
     : ownFolder_(std::move(ownFolder)),
       dataFolder_(std::move(dataFolder)),

@@ -26,6 +26,9 @@ struct SkinPlace {
 /// from a working folder that is gone.
 SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder);
 
+/// Whether there is a settings file, whatever the case of its name.
+bool HoldsSkin(const SkinPlace& place);
+
 inline constexpr const char* SaveTitle = "Save current Skin";
 
 class SkinFiles {

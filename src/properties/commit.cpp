@@ -12,6 +12,8 @@
 #include "editor/selection.h"
 #include "properties/live_update.h"
 #include "properties/panel_parts.h"
+#include "properties/rows.h"
+#include "render/element_roads.h"
 #include "render/redraw.h"
 #include "render/style_builders.h"
 
@@ -103,6 +105,17 @@ void ShowElement(PanelParts& parts, int listIndex) {
     parts.panel.ShowProperties();
 }
 
+/// The list of elements and who reads the canvas aloud know the bound element by its name.
+void TellName(PanelParts& parts) {
+    const dbLayoutElementRef element = BoundElement(parts);
+    if (!element) return;
+    for (int i = 1; i <= parts.pools.cboPic.Top(); ++i) {
+        RowCombo& combo = parts.pools.cboProp(i);
+        if (combo.Tag == "ShowElement") combo.setItemText(combo.ListIndex(), LineOf(*element));
+    }
+    TellElement(ControlOf(*element), *element);
+}
+
 }  // namespace
 
 void tbx_Prop_Change(PanelParts& parts, int index) {
@@ -113,6 +126,7 @@ void tbx_Prop_Change(PanelParts& parts, int index) {
     if (!GetClass(key).empty() && GetMethod(key) == "Font") return;
     Write(parts, key, box.Text());
     TakeKeyColour(key);
+    if (key == "ElementName") TellName(parts);
     if (!IsOneOf(key, UndrawnTexts)) parts.tmrUpdate.start();
 }
 

@@ -57,6 +57,7 @@ constexpr std::array Redraws = {
     Redraw{"Scrollframe", RedrawBoundElement},
     Redraw{"btn_SkinProperties",
            [](PanelParts&) {
+               TargetForm->ShowGrid();  // the background is one of them
                LayoutKioskPanel();
                SetupKioskPanel();
            }},
@@ -73,7 +74,11 @@ constexpr std::array Redraws = {
     Redraw{"lbl_Kiosk", [](PanelParts&) { SetupKioskLabels(); }},
     Redraw{"ScrollBar", RedrawScrollBar},
     Redraw{"but_AddAll", [](PanelParts&) { SetupAddAllButton(TargetForm->host().but_AddAll); }},
-    Redraw{"but_Info", [](PanelParts&) { SetupInfoButton(TargetForm->host().but_Info); }},
+    Redraw{"but_Info",
+           [](PanelParts&) {
+               SetupInfoButton(TargetForm->host().but_Info);
+               LayoutKioskPanel();
+           }},
     Redraw{"but_Song", RedrawSongs},
     Redraw{"but_Song2", RedrawSongs},
     Redraw{"but_Picture", [](PanelParts&) { LayoutKioskPanel(); }},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "properties/row_controls.h"
 
+#include <QAccessibleWidget>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QValidator>
@@ -36,9 +37,34 @@ bool IsDark(const QColor& colour) {
     return qGray(colour.rgb()) < 128;
 }
 
+/// A screen reader has a row's caption as the name of its value, and doesn't read it
+/// twice.
+class AccessibleLabel : public QAccessibleWidget {
+public:
+    explicit AccessibleLabel(RowLabel* label) : QAccessibleWidget(label, QAccessible::StaticText) {}
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? Label().text().trimmed() : QString();
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        if (!Label().IsHeading()) state.invisible = true;
+        return state;
+    }
+
+private:
+    const RowLabel& Label() const { return *static_cast<RowLabel*>(widget()); }
+};
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
+    auto* label = dynamic_cast<RowLabel*>(object);
+    return label ? new AccessibleLabel(label) : nullptr;
+}
+
 }  // namespace
 
 RowLabel::RowLabel(QWidget* sheet, int index) : QLabel(sheet), Index(index) {
+    static const bool told = (QAccessible::installFactory(MakeAccessible), true);
+    static_cast<void>(told);
     setObjectName(QStringLiteral("lbl_Prop"));
     setTextFormat(Qt::PlainText);
     setAutoFillBackground(true);
@@ -46,6 +72,7 @@ RowLabel::RowLabel(QWidget* sheet, int index) : QLabel(sheet), Index(index) {
 }
 
 void RowLabel::Show(const QString& caption, bool heading, int width) {
+    heading_ = heading;
     QFont face = RowFont(heading);
     const int wanted = QFontMetrics(face).horizontalAdvance(caption);
     if (wanted > width)

@@ -20,8 +20,13 @@ public:
     /// and its tool tip has what is cut all the same.
     void Show(const QString& caption, bool heading, int width);
 
+    bool IsHeading() const { return heading_; }
+
     std::string Tag;
     const int Index;
+
+private:
+    bool heading_ = false;
 };
 
 class RowText : public QLineEdit {

@@ -38,12 +38,20 @@ constexpr List Lists[] = {
     {KindVertical, VerticalNames},
 };
 
+}  // namespace
+
+QString LineOf(const dbLayoutElement& element) {
+    return Shown(element.ElementName) + QLatin1String(element.Visible ? "" : " (hidden)");
+}
+
+namespace {
+
 /// The elements of the current layout, and the position of the one with the key.
 int FillElements(QStringList& items, const std::string& key) {
     int chosen = -1;
     for (const dbLayoutElementRef& element : *objCurrentLayout->dbLayoutElements) {
         if (element->Key == key) chosen = static_cast<int>(items.size());
-        items += Shown(element->ElementName) + QLatin1String(element->Visible ? "" : " (hidden)");
+        items += LineOf(*element);
     }
     return chosen;
 }
@@ -105,7 +113,8 @@ RowText& Rows::Box(const SheetRow& row, int width) {
     box.Tag = row.key;
     box.SetText("");
     box.setFocusPolicy(row.kind == KindBoolean ? Qt::NoFocus : Qt::StrongFocus);
-    box.setAccessibleName(Shown(row.caption));
+    // Behind a tick box it is ground alone.
+    box.setAccessibleName(row.kind == KindBoolean ? QString() : Shown(row.caption));
     box.setGeometry(CaptionWidth, NextRowTop, width, RowHeight);
     box.show();
     if (row.kind != KindBoolean) values_.push_back({row.key, &box});
@@ -176,6 +185,7 @@ void Rows::AddPicture(const SheetRow& row) {
 void Rows::AddList(const SheetRow& row) {
     RowFrame& frame = pools_.cboPic[pools_.LoadCombo()];
     frame.Tag = row.key;
+    frame.setAccessibleName(Shown(row.caption));  // a list itself is read as what it shows
     frame.Move({CaptionWidth, NextRowTop, valueWidth_, RowHeight});
     RowCombo& combo = frame.cboProp;
     combo.Tag = row.key;

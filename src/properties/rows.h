@@ -9,6 +9,9 @@
 
 namespace ornavo {
 
+/// An element as the list of elements shows it.
+QString LineOf(const dbLayoutElement& element);
+
 class Rows {
 public:
     /// `scaleWidth` is the width of the sheet, pixels.

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "render/element_roads.h"
 
+#include <QAccessible>
+#include <iterator>
+
 #include "render/standard_elements.h"
 #include "render/target.h"
 
@@ -9,7 +12,17 @@ namespace {
 
 constexpr int OwnControl = -1;  // ControlIndex of an element that has a control of its own
 
+constexpr QAccessible::Role Roles[] = {
+    QAccessible::Pane,       QAccessible::Button,       QAccessible::Graphic,  QAccessible::Dial,
+    QAccessible::StaticText, QAccessible::EditableText, QAccessible::ScrollBar};
+
 }  // namespace
+
+void TellElement(Control& control, const dbLayoutElement& element) {
+    const auto type = static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table
+    if (type < std::size(Roles))
+        control.SetAccessible(Roles[type], QString::fromStdString(element.ElementName));
+}
 
 bool Claim(Control& control, const dbLayoutElement& element) {
     control.Tag.clear();
@@ -17,6 +30,7 @@ bool Claim(Control& control, const dbLayoutElement& element) {
     if (bounds.width < 1 || bounds.height < 1) return false;
     control.Move(bounds);
     control.Tag = element.Key;
+    TellElement(control, element);
     return true;
 }
 

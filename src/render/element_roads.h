@@ -11,6 +11,9 @@ namespace ornavo {
 /// control is then nobody's.
 bool Claim(Control& control, const dbLayoutElement& element);
 
+/// What a screen reader says of the control: the element's name, and what it is.
+void TellElement(Control& control, const dbLayoutElement& element);
+
 /// A control that an element has for itself is shown before its size is known, and stays so when it has none.
 bool ClaimSingle(Control& control, dbLayoutElement& element);
 

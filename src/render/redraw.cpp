@@ -10,6 +10,7 @@
 #include "render/kiosk_panel.h"
 #include "render/standard_elements.h"
 #include "render/target.h"
+#include "render/view_switches.h"
 
 namespace ornavo {
 namespace {
@@ -80,6 +81,7 @@ Control& ControlOf(dbLayoutElement& element) {
 }
 
 void RedrawElement(dbLayoutElement& element) {
+    if (!viewSwitches.ShowElements) return;
     const auto type = static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table
     if (type < Roads.size()) Roads[type](element, TargetForm->host());
 }

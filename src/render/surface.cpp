@@ -65,10 +65,13 @@ void Surface::ShowGrid(const Frame& frame, double devicePixelRatio) {
         next.fill(ScreenColour(CanvasColour));
         QPainter painter(&next);
         if (background) painter.drawImage(0, 0, background->image);
-        if (viewSwitches.ShowShape)
-            DrawShapeOverlay(painter, *objCurrentLayout, frame, viewSwitches.ShapeInverted);
-        if (viewSwitches.ShowGrid)
-            DrawGrid(painter, frame.TargetWidth, frame.TargetHeight, viewSwitches.GridX, viewSwitches.GridY);
+        Attempt([&] {
+            if (viewSwitches.ShowShape)
+                DrawShapeOverlay(painter, *objCurrentLayout, frame, viewSwitches.ShapeInverted);
+            if (viewSwitches.ShowGrid)
+                DrawGrid(painter, frame.TargetWidth, frame.TargetHeight, viewSwitches.GridX,
+                         viewSwitches.GridY);
+        });
         painter.end();
         drawn_ = next;
     });

@@ -12,7 +12,8 @@ namespace ornavo {
 class Surface {
 public:
     /// Draws everything anew for a window of this size, by the current skin, layout and view switches. When
-    /// the skin's background can't be loaded, what was there stays as it is.
+    /// the skin's background can't be loaded, what was there stays as it is; a shape that has no place leaves
+    /// the background alone.
     void ShowGrid(const Frame& frame, double devicePixelRatio);
 
     /// Fills the area (pixels of the window); what ShowGrid has not covered is the plain canvas colour.

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QMenu>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
 
 #include "app/program.h"
 #include "base/files.h"
@@ -26,13 +29,17 @@ class ShutdownTest : public ::testing::Test {
 protected:
     ShutdownTest() {
         UseSettingsFile(folder_.filePath("settings.ini"));
+        dbSkin skin;
+        skin.SetBasePath(Folder() + "/Skins");
+        skin.SkinName = "Blue";
+        skin.AddNewLayout("Standard")->AddDummyPoints();
+        skin.SaveSkin(false);
         objSkin = std::make_shared<dbSkin>();
         objCurrentLayout = std::make_shared<dbLayout>();
         program_ = std::make_unique<Program>("0.1", Folder(), Folder());
         UsePrompts(&prompts_);
         program_->Start("Blue");
-        objSkin->AddNewLayout("Standard")->AddDummyPoints();
-        Panel().ShowSkinProject();
+        std::filesystem::remove(Folder() + "/Skins/Blue/SkinSettings.xml");
         program_->ToggleMagnifier();
         QCoreApplication::processEvents();
         objSkin->Dirty = true;
@@ -96,6 +103,61 @@ TEST_F(ShutdownTest, YesSavesAndNoDoesNot) {
                   "Save current Skin: Save changes of current Skin before closing Ornavo?");
     }
     EXPECT_EQ(prompts_.asked.size(), 2u) << "once each";
+}
+
+TEST_F(ShutdownTest, TheQuestionComesThoughThePanelIsClosed) {
+    prompts_.answers = {Answer::No};
+    EXPECT_TRUE(Panel().close());
+    prompts_.answers = {Answer::Cancel, Answer::Yes};
+    EXPECT_TRUE(Main().close());
+    EXPECT_EQ(prompts_.asked.size(), 3u) << "at the panel, at the exit, and of the panel that came back";
+    EXPECT_TRUE(IsSaved());
+}
+
+TEST_F(ShutdownTest, ACommandLineThatLeadsNowhereOpensNothing) {
+    program_.reset();
+    objSkin = std::make_shared<dbSkin>();
+    objCurrentLayout = std::make_shared<dbLayout>();
+    program_ = std::make_unique<Program>("0.1", Folder(), Folder());
+    UsePrompts(&prompts_);
+    program_->Start("Nowhere");
+    EXPECT_EQ(Main().windowTitle(), "Ornavo 0.1 (BETA)");
+    EXPECT_FALSE(Panel().btn_SaveSkin->isEnabled() || Panel().lst_Layouts->isEnabled());
+}
+
+/// Lines of the menu that opens, a "+" before those that are ticked; the one with the caption is chosen.
+template <class Opening>
+QString Menu(Opening opening, const QString& chosen = {}) {
+    QString lines;
+    QTimer::singleShot(0, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu) return;
+        QAction* last = menu->actions().last();
+        for (QAction* line : last->menu() ? last->menu()->actions() : menu->actions()) {
+            lines += (lines.isEmpty() ? "" : ", ") + QString(line->isChecked() ? "+" : "") + line->text();
+            if (line->text() == chosen) line->trigger();
+        }
+        menu->close();
+    });
+    opening();
+    return lines;
+}
+
+TEST_F(ShutdownTest, AMenuShowsAndHidesTheWindows) {
+    const auto atCanvas = [] { QTest::mousePress(&Main(), Qt::RightButton, {}, {400, 400}); };
+    const auto byKey = [] { QTest::keyClick(&Main(), Qt::Key_F10, Qt::ShiftModifier); };
+    EXPECT_EQ(Menu(atCanvas, "Toolbox"), "+Skin Project, +Toolbox, Properties, +Magnifier");
+    EXPECT_EQ(Menu(byKey, "Skin Project"), "+Skin Project, Toolbox, Properties, +Magnifier");
+    EXPECT_EQ(Shown(), "frm_Ornavo frm_Magnifier ");
+    Menu(atCanvas, "Skin Project");
+    Menu(atCanvas, "Toolbox");
+    EXPECT_EQ(Shown(), "frm_Ornavo frm_SkinProject frm_Toolbox frm_Magnifier ");
+    Window<frm_Toolbox>().btn_AddButton->PerformClick();
+    EXPECT_EQ(Menu(byKey), "+Skin Project, +Toolbox, +Properties, +Magnifier") << "in the element's menu";
+    objSkin->Dirty = false;
+    const int corners = objCurrentLayout->dbPoints->Count();
+    EXPECT_EQ(Menu([] { QTest::mousePress(&Main(), Qt::RightButton, {}, {1, 300}); }), "");
+    EXPECT_EQ(objCurrentLayout->dbPoints->Count(), corners + 1) << "a side gets a corner, and no menu opens";
 }
 
 TEST_F(ShutdownTest, AfterCancelThePanelIsTheLastWindowAndCanSave) {

@@ -57,6 +57,7 @@ TEST_F(CanvasTest, TheEndSavesPlaceAndSwitches) {
         EXPECT_EQ(settings::OrnavoHeight.Read(), 9600);
         EXPECT_EQ(settings::GridX.Read(), 20 + state);
         EXPECT_TRUE(settings::ShowLines.Read());
+        EXPECT_FALSE(form.tmrSelector.isActive());
         SaveSetting("Ornavo", "WindowState", "0");
     }
     EXPECT_EQ(windows_.unloaded, 3);
@@ -77,8 +78,9 @@ TEST_F(CanvasTest, TheCaption) {
     form.UpdateCaption();
     EXPECT_EQ(form.windowTitle(), "Ornavo -> Blue -> Standard -> Current Size: 800x600");
     objSkin->Dirty = true;
+    objSkin->SkinName = "AC%2FDC";
     form.UpdateCaption();
-    EXPECT_EQ(form.windowTitle(), "Ornavo -> Blue -> Standard* -> Current Size: 800x600");
+    EXPECT_EQ(form.windowTitle(), "Ornavo -> AC%2FDC -> Standard* -> Current Size: 800x600");
     objSkin = std::make_shared<dbSkin>();
     objCurrentLayout = std::make_shared<dbLayout>();
     form.UpdateCaption();

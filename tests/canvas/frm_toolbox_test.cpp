@@ -41,10 +41,13 @@ protected:
 TEST_F(ToolboxTest, WhatIsAddedOrClonedIsSelectedAndHasASheetOfItsOwn) {
     for (TileCommand* add :
          {toolbox.btn_AddButton, toolbox.btn_AddGraphic, toolbox.btn_AddVolume, toolbox.btn_AddInfo}) {
+        QApplication::setActiveWindow(&toolbox);
         Click(add);
         EXPECT_EQ(SelKey, Last().Key);
         ASSERT_TRUE(SelControl);
         EXPECT_EQ(SelControl->Tag, SelKey);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == form_.get(); }, 1000))
+            << "arrows and Delete reach it";
     }
     EXPECT_EQ(SelControl->Bounds(), (Rect{100, 20, 400, 50}));
     dbLayoutElement& source = Element("Info1");
@@ -74,6 +77,22 @@ TEST_F(ToolboxTest, WhatCannotBeAddedOrClonedChangesNothing) {
     Click(toolbox.btn_AddButton);
     EXPECT_EQ(objCurrentLayout->dbLayoutElements->Count(), 0) << "no layout is open";
     EXPECT_FALSE(objSkin->Dirty);
+    Compose();
+    EXPECT_FALSE(toolbox.btn_AddInfo->isEnabled());
+    objCurrentLayout = objSkin->dbLayouts->Item(1);
+    Compose();
+    EXPECT_TRUE(toolbox.btn_AddInfo->isEnabled());
+}
+
+TEST_F(ToolboxTest, WhatIsAddedUnseenIsTheSelectionAllTheSame) {
+    toolbox.chk_ShowElements->click();
+    Click(toolbox.btn_AddButton);
+    EXPECT_EQ(SelKey, "Button1");
+    EXPECT_TRUE(SelControl && SelControl->isHidden() && windows_.panel.shown);
+    Compose();
+    toolbox.chk_ShowElements->click();
+    EXPECT_EQ(SelKey, "Button1");
+    EXPECT_TRUE(anchors().Anchor[0]->isVisible());
 }
 
 TEST_F(ToolboxTest, EachBoxTurnsItsSwitchAndNothingElse) {
@@ -153,20 +172,26 @@ TEST_F(ToolboxTest, ItComesBackWhereItWas) {
 }
 
 TEST_F(ToolboxTest, ADroppedSkinIsOpenedAndAFailureTold) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile("/skins/Blue")});
-    const auto drop = [&] {
+    Picture("back.bmp", Qt::blue);
+    const auto drop = [&](const QString& path) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
         QDragEnterEvent entering({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&toolbox, &entering);
-        EXPECT_TRUE(entering.isAccepted());
         QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&toolbox, &event);
+        return entering.isAccepted();
     };
-    drop();
-    EXPECT_EQ(windows_.opened, "/skins/Blue");
+    for (const char* other : {"back.bmp", "", "gone"}) EXPECT_FALSE(drop(Path(other))) << other;
+    EXPECT_EQ(windows_.opened, "");
+    ASSERT_TRUE(QFile::copy(Path("back.bmp"), Path("skinsettings.XML")));
+    for (const char* skin : {"", "skinsettings.XML"}) {
+        EXPECT_TRUE(drop(Path(skin))) << skin;
+        EXPECT_EQ(windows_.opened, Path(skin).toStdString());
+    }
     EXPECT_TRUE(prompts_.asked.empty());
     windows_.failure = "no such disk";
-    drop();
+    drop(Path(""));
     ASSERT_EQ(prompts_.asked.size(), 1u);
     EXPECT_EQ(prompts_.asked[0], "Loading Skin Error: no such disk");
 }

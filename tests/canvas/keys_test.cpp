@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/keys.h"
 
+#include <QAccessible>
+
 #include "canvas/anchors.h"
 #include "canvas/shape_points.h"
 #include "document/codes.h"
@@ -104,7 +106,33 @@ TEST_F(KeysTest, WhatIsNotComposedAgainIsSelectedNoMore) {
     Select("Button3");
     viewSwitches.ShowElements = false;
     Compose();
-    EXPECT_EQ(SelControl, nullptr) << "what is hidden can't be deleted either";
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(Keys(), "Button1 Button2 Button3") << "what is hidden can't be deleted either";
+}
+
+TEST_F(KeysTest, TabStepsThroughWhatIsShownAndWritesNothing) {
+    Add("Main", TypeMain, {50, 50, 100, 80});
+    Add("Button1", TypeButton, {200, 50, 60, 40}).ElementName = "Play";
+    Add("Button2", TypeButton, {300, 50, 60, 40}).Visible = false;
+    Add("SearchBox", TypeSearchBox, {400, 50, 60, 30});
+    Add("Scrollbar", TypeScrollbar, {500, 50, 30, 400});
+    Compose();
+    windows_.panel.shown = true;
+    std::string way;
+    for (int i = 0; i < 5; ++i) {
+        Key(Qt::Key_Tab);
+        way += SelKey + ' ';
+    }
+    for (int i = 0; i < 4; ++i) Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(way + SelKey, "Main Button1 SearchBox Scrollbar Main Main");
+    EXPECT_TRUE(anchors().Anchor[0]->isVisible() && windows_.panel.shown);
+    EXPECT_FALSE(objSkin->Dirty);
+    EXPECT_TRUE(form_->tmrShowProperties.isActive()) << "the sheet follows the last key";
+    EXPECT_EQ(windows_.panel.opened + windows_.panel.sheets, 0);
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&host().Element[1]);
+    EXPECT_EQ(told->text(QAccessible::Name), "Play");
+    EXPECT_EQ(told->role(), QAccessible::Button);
+    EXPECT_EQ(told->text(QAccessible::Description), QString::fromUtf8("200, 50   60 \u00D7 40"));
 }
 
 TEST_F(KeysTest, AnotherLayoutLeavesNoSelection) {

@@ -140,6 +140,7 @@ TEST_F(ShapeTest, TheSelectionStaysWithItsCornerWhenAnotherIsInserted) {
     ASSERT_EQ(SelKey, "K2");
     Click(200, 300);
     EXPECT_EQ(SelKey, "K3");
+    EXPECT_EQ(windows_.panel.sheets, 1) << "which shows its number";
     ASSERT_TRUE(SelControl);
     EXPECT_EQ(SelControl->Bounds(), (Rect{198, 448, 5, 5}));
     EXPECT_EQ(SelControl->BackColor(), PointBlinkColor);

@@ -91,7 +91,7 @@ TEST_F(PreviewMouseTest, ADraggerMovesTheWindow) {
     mouse_.MouseDown(control, {Left, 0, 5, 5, 145, 40});
     mouse_.MouseMove(control, {Left, 0, 9, 9, 1, 1});
     EXPECT_EQ(window_.corner, QPoint(140, 35));
-    mouse_.DblClick(control);
+    mouse_.DblClick(control, {});
     EXPECT_EQ(window_.done, "toggle ");
 }
 

@@ -27,6 +27,8 @@ TEST_F(PanelTest, OpeningByTheDialog) {
     prompts_.files = {Settings("Blue").string()};
     Click(panel_->btn_OpenSkin);
     EXPECT_EQ(panel_->tbx_SkinName->text(), "Blue");
+    EXPECT_FALSE(List().isHeaderHidden());
+    EXPECT_EQ(List().headerItem()->text(0), "Layouts");
     EXPECT_TRUE(panel_->btn_SaveSkin->isEnabled() && panel_->btn_CloneLayout->isEnabled());
     EXPECT_EQ(canvas_.sized, 1);
     EXPECT_EQ(windows_.toolboxes, 1);
@@ -119,12 +121,29 @@ TEST_F(PanelTest, DeletingAsks) {
     Press(Qt::Key_Delete);
     EXPECT_EQ(Items(), QStringList({"Standard", LayoutList::AddNewText}));
     EXPECT_TRUE(objSkin->Dirty);
-    EXPECT_EQ(canvas_.composed->Key, "Big_Party") << "shown until another is chosen";
-    EXPECT_FALSE(panel_->btn_SkinProperties->isEnabled() || panel_->btn_CloneLayout->isEnabled());
-    Press(Qt::Key_Delete);
-    EXPECT_EQ(prompts_.asked.size(), 2u) << "nothing is selected";
-    ClickItem(0);
     ExpectShown("Standard");
+}
+
+TEST_F(PanelTest, AfterADeletionAnotherLayoutIsChosen) {
+    MakeSkin("Blue", {"One", "Two", "Three"});
+    panel_->LoadDebug(PlaceOfSkin("Blue", Root().string()));
+    ClickItem(1);
+    for (const char* next : {"Three", "One", ""}) {
+        prompts_.answers = {Answer::Yes};
+        Press(Qt::Key_Delete);
+        if (*next) ExpectShown(next);
+        EXPECT_EQ(objCurrentLayout->Key, next);
+        for (const QWidget* part :
+             {panel_->btn_SkinProperties, panel_->btn_CloneLayout, panel_->btn_SaveToSkin})
+            EXPECT_EQ(part->isEnabled(), *next != 0) << next;
+    }
+    EXPECT_EQ(canvas_.composed, objCurrentLayout) << "the canvas is bare";
+    prompts_.asked.clear();
+    Press(Qt::Key_Delete);
+    EXPECT_TRUE(prompts_.asked.empty()) << "nothing is selected";
+    ClickItem(0);
+    TypeLabel("Four");
+    EXPECT_TRUE(panel_->btn_SkinProperties->isEnabled() && panel_->btn_SaveToSkin->isEnabled());
 }
 
 TEST_F(PanelTest, ANewSkin) {
@@ -226,13 +245,15 @@ TEST_F(PanelTest, TheLonePanelCanStillSave) {
 }
 
 TEST_F(PanelTest, ADroppedFolderIsOpened) {
+    MakeSkin("Blue", {"Standard"});
+    const std::string blue = Settings("Blue").parent_path();
     QMimeData data;
-    data.setUrls({QUrl::fromLocalFile("/skins/Blue")});
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(blue))});
     QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(panel_.get(), &enter);
     QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(panel_.get(), &event);
-    EXPECT_EQ(windows_.loaded, "/skins/Blue");
+    EXPECT_EQ(windows_.loaded, blue);
 }
 
 }  // namespace

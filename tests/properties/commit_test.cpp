@@ -109,6 +109,26 @@ TEST_F(CommitTest, TheListOfElementsLeadsToOne) {
     EXPECT_FALSE(SelControl->isHidden());
 }
 
+TEST_F(CommitTest, WhatHasNoControlOfItsOwnIsDrawnToo) {
+    Control skin(nullptr, "btn_SkinProperties");
+    viewSwitches.ShowShape = viewSwitches.ShowGrid = false;
+    SelectSample(skin);
+    Type(*Box("SP_BackgroundPicture.Value"), "new.bmp");
+    Tick();
+    EXPECT_EQ(Canvas({9, 9, 1, 1}).pixelColor(0, 0), QColor(Qt::darkRed));
+    Element("Main").HeightY = 200;
+    Compose();
+    SelectSample(host().but_Info);
+    const int width = host().but_Song.Bounds().width;
+    Type(*Box("IN_Margin.Value"), "31");
+    Tick();
+    EXPECT_EQ(host().but_Song.Bounds().width, width - 30);
+    Select("Button1");
+    Type(*Box("ElementName"), "Play");
+    EXPECT_EQ(Combo("ShowElement")->currentText(), "Play");
+    SelControl = nullptr;
+}
+
 TEST_F(CommitTest, ThePanelStaysUnderTheUsersHands) {
     Select("Info1");
     Press(*Check("Visible"), Qt::Key_Space);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Which rows a selection shows, what stands in them, and how the keyboard walks them.
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -229,6 +230,17 @@ TEST_F(SheetTest, TipsTellWhatIsNotSeen) {
     EXPECT_EQ(label.toolTip(), "<pre>A &lt;b&gt;caption&lt;/b&gt; that is cut</pre>");
     label.Show(" A", false, 40);
     EXPECT_EQ(label.toolTip(), "");
+}
+
+TEST_F(SheetTest, ARowIsReadAloudOnce) {
+    Select("Element");
+    std::map<QString, int> read;
+    for (QWidget* part : panel_->findChildren<QWidget*>()) {
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(part);
+        if (told && !told->state().invisible) ++read[told->text(QAccessible::Name).trimmed()];
+    }
+    for (const char* row : {"Name", "Width", "Visible", "Element Type", "Position"})
+        EXPECT_EQ(read[row], 1) << row;
 }
 
 TEST_F(SheetTest, ListsAreTheCodeTables) {

@@ -2,7 +2,9 @@
 #include "render/surface.h"
 
 #include <QPainter>
+#include <limits>
 
+#include "document/codes.h"
 #include "render/shape.h"
 #include "support/skin_fixture.h"
 
@@ -64,6 +66,16 @@ TEST_F(SurfaceTest, ABackgroundThatIsGoneLeavesEverythingAsItWas) {
     EXPECT_EQ(Shown().pixelColor(50, 20), Ground);
     SetBackground("");
     EXPECT_EQ(Shown().pixelColor(9, 9), Ground);
+}
+
+TEST_F(SurfaceTest, AShapeWithoutAPlaceLeavesTheNewBackground) {
+    Picture("back.bmp", Qt::blue, 10, 10);
+    SetBackground("back.bmp");
+    viewSwitches.ShowShape = true;
+    const dbPointRef point = objCurrentLayout->dbPoints->Add(1);
+    point->X = std::numeric_limits<std::int32_t>::max();
+    point->HAlign = AlignStretch;
+    EXPECT_EQ(Shown().pixelColor(9, 9), QColor(Qt::blue));
 }
 
 TEST_F(SurfaceTest, TheOverlayDimsOneSideAndItsLineShowsOnBlackAndOnWhite) {

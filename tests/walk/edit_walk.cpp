@@ -12,7 +12,7 @@ constexpr QRgb HandleColour = 0xFFFFFF80, BlinkColour = 0xFFFF0000;
 constexpr QPoint CanvasPlace = {320, 40}, PanelPlace = {10, 40}, ToolboxPlace = {10, 420},
                  SheetPlace = {1450, 40};
 constexpr QSize SkinSize = {1000, 700}, LargerSize = {1101, 803};
-constexpr int FirstRow = 66, RowHeight = 13;  // of the list of layouts, in the panel
+constexpr int FirstRow = 84, RowHeight = 13;  // of the list of layouts, in the panel
 constexpr const char* SkinName = "Walk";
 enum Kind { Button = 1, Graphic, Volume, Info };  // as the toolbox has them
 

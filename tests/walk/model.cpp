@@ -198,11 +198,12 @@ void Model::RenameLayout(const std::string& key, const std::string& name) {
     Find(key)->name = name;
 }
 
-/// The canvas goes on showing it.
+/// The next one is chosen, or the last.
 void Model::DeleteLayout(const std::string& key) {
-    std::erase(layouts_, Find(key));
+    const auto gone = std::find(layouts_.begin(), layouts_.end(), Find(key));
+    const auto next = layouts_.erase(gone);
     dirty = true;
-    Compose();
+    ChooseLayout((next == layouts_.end() ? layouts_.back() : *next)->key);
 }
 
 void Model::ChooseLayout(const std::string& key) {
