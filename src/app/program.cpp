@@ -5,8 +5,14 @@
 #include "editor/selection.h"
 #include "picture/frm_pictureeditor.h"
 #include "platform/asker.h"
+#include "platform/panel_scale.h"
 
 namespace ornavo {
+namespace {
+
+constexpr int UsualSheetHeight = 640;  // pixels: most sheets are lower
+
+}  // namespace
 
 Program::Program(std::string version, const std::string& ownFolder, const std::string& dataFolder)
     : ownFolder_(ownFolder),
@@ -19,6 +25,7 @@ Program::Program(std::string version, const std::string& ownFolder, const std::s
               {"Properties", [this] { return properties().IsShown(); }, [this] { ToggleProperties(); }},
               {"Magnifier", [this] { return magnifier_ && magnifier_->isVisible(); },
                [this] { ToggleMagnifier(); }}};
+    tools_.Add(project_, "SkinProject");
 }
 
 Program::~Program() {
@@ -31,6 +38,7 @@ void Program::Start(std::string commandLine) {
 }
 
 void Program::ShowSkinProject() {
+    if (!project_.isVisible()) ArrangeTools();
     project_.show();
 }
 
@@ -67,12 +75,19 @@ void Program::ShowToolbox() {
     // A desktop keeps a tool window above its owner only if it has seen the owner first.
     toolboxWaits_ = !main_.isVisible();
     if (toolboxWaits_) return;
-    if (!toolbox_) toolbox_ = std::make_unique<frm_Toolbox>(main_.parts());
+    if (!toolbox_) {
+        toolbox_ = std::make_unique<frm_Toolbox>(main_.parts());
+        tools_.Add(*toolbox_, "Toolbox");
+    }
     toolbox_->Open();
 }
 
 PropertiesPanel& Program::properties() {
-    if (!properties_) properties_ = std::make_unique<frm_Properties>(&main_, *this, main_);
+    if (!properties_) {
+        properties_ = std::make_unique<frm_Properties>(&main_, *this, main_);
+        tools_.Add(*properties_, "Properties", PanelScale(main_)(UsualSheetHeight));
+        ArrangeTools();
+    }
     return *properties_;
 }
 

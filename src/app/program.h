@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "app/tool_places.h"
 #include "canvas/frm_ornavo.h"
 #include "canvas/frm_toolbox.h"
 #include "dialogs/qt_prompts.h"
@@ -31,6 +32,7 @@ public:
     bool MayClose() override;
     void UnloadOthers() override;
     void ShowToolbox() override;
+    void ArrangeTools() override { tools_.Arrange(main_); }
     void ShowPreview() override;
     void LeavePreview() override;
     void ToggleMagnifier() override;
@@ -50,7 +52,8 @@ private:
     std::unique_ptr<frm_Toolbox> toolbox_;        // null until it is first shown
     std::unique_ptr<frm_Magnifier> magnifier_;    // the one last opened
     std::unique_ptr<frm_Preview> preview_;        // null while there is none
-    bool toolboxWaits_ = false;                   // for the main window, above which it stays
+    ToolPlaces tools_;
+    bool toolboxWaits_ = false;  // for the main window, above which it stays
     std::vector<WindowLine> lines_;
 };
 

@@ -197,6 +197,7 @@ void frm_Ornavo::ResetFormToOriginal() {
     if (WindowState() == StateMaximised) SetWindowState(StateNormal);
     const Rect now = TwipBounds();
     MoveInside({now.left, now.top}, {objSkin->SkinWidth, objSkin->SkinHeight});
+    windows_.ArrangeTools();
 }
 
 void frm_Ornavo::ShowWelcome() {

@@ -17,7 +17,7 @@
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "editor/skin_drop.h"
-#include "platform/fonts.h"
+#include "platform/panel_scale.h"
 #include "render/view_switches.h"
 
 namespace ornavo {
@@ -96,7 +96,8 @@ TileCommand* frm_Toolbox::Command(const char* name, const char* caption, const c
                                   const char* tip) {
     auto* command = new TileCommand(this, name);
     command->SetCaption(QLatin1String(caption));
-    command->SetPicture(QStringLiteral(":/pictures/%1.png").arg(QLatin1String(picture)), size);
+    command->SetPicture(QStringLiteral(":/pictures/%1.png").arg(QLatin1String(picture)),
+                        PanelScale(*this)(size));
     command->setToolTip(QLatin1String(tip));
     command->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return command;
@@ -106,8 +107,7 @@ QCheckBox* frm_Toolbox::Check(const char* name, const char* caption, const char*
     auto* box = new QCheckBox(QLatin1String(caption), this);
     box->setObjectName(QLatin1String(name));
     box->setToolTip(QLatin1String(tip));
-    box->setFont(ScreenFont({}));
-    box->setFixedHeight(CheckHeight);
+    box->setFixedHeight(PanelScale(*this)(CheckHeight));
     return box;
 }
 
@@ -116,18 +116,18 @@ QLineEdit* frm_Toolbox::Spacing(const char* name, const char* says) {
     box->setObjectName(QLatin1String(name));
     box->setAccessibleName(QLatin1String(says));
     box->setToolTip(QLatin1String(says));
-    box->setFont(ScreenFont({}));
-    box->setFixedSize(SpacingWidth, SpacingHeight);
+    box->setFixedSize(PanelScale(*this)(QSize(SpacingWidth, SpacingHeight)));
     box->setAlignment(Qt::AlignRight);
     return box;
 }
 
 void frm_Toolbox::Arrange() {
+    const PanelScale scale(*this);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(Margin, Margin, Margin, Margin);
     grid->setSpacing(RowGap);
     grid->setSizeConstraint(QLayout::SetFixedSize);
-    for (const int column : {0, 1}) grid->setColumnMinimumWidth(column, LeastColumn);
+    for (const int column : {0, 1}) grid->setColumnMinimumWidth(column, scale(LeastColumn));
     int row = 0;
     TileCommand* const adding[] = {btn_AddButton, btn_AddGraphic, btn_AddVolume, btn_AddInfo};
     for (int i = 0; i < 4; ++i) {
@@ -151,7 +151,7 @@ void frm_Toolbox::Arrange() {
     }
     across(Separator(this, "Line2"));
     for (TileCommand* command : {btn_Preview, btn_ResetView, btn_Magnifier})
-        command->setFixedHeight(CommandHeight);
+        command->setFixedHeight(scale(CommandHeight));
     across(btn_Preview);
     grid->addWidget(btn_ResetView, row, 0);
     grid->addWidget(btn_Magnifier, row, 1);
@@ -181,7 +181,10 @@ void frm_Toolbox::Connect() {
 }
 
 void frm_Toolbox::Open() {
-    if (!loaded_) Form_Load();  // one that was only hidden comes back where it was
+    if (!loaded_) {  // one that was only hidden comes back where it was
+        Form_Load();
+        parts_.windows.ArrangeTools();
+    }
     loaded_ = true;
     show();
 }

@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 
 #include "platform/fonts.h"
+#include "platform/panel_scale.h"
 
 namespace ornavo {
 namespace {
@@ -71,7 +72,7 @@ FontDialog::FontDialog(QWidget* owner, const Font& start, const std::vector<std:
     auto* sampleBox = new QGroupBox(QStringLiteral("Sample"));
     (new QVBoxLayout(sampleBox))->addWidget(sample_);
     sample_->setAlignment(Qt::AlignCenter);
-    sample_->setMinimumSize(1, SampleHeight);
+    sample_->setMinimumSize(1, PanelScale(*this)(SampleHeight));
     sample_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -109,7 +110,7 @@ QLayout* FontDialog::FaceColumn() {
     filter_->setPlaceholderText(QStringLiteral("Type a part of the name"));
     filter_->setClearButtonEnabled(true);
     connect(filter_, &QLineEdit::textEdited, this, &FontDialog::ShowFacesLike);
-    faces_->setMinimumSize(FaceList);
+    faces_->setMinimumSize(PanelScale(*this)(FaceList));
     faces_->setAccessibleName(QStringLiteral("Font"));
     column->addWidget(label);
     column->addWidget(filter_);
@@ -123,7 +124,7 @@ QLayout* FontDialog::SizeColumn() {
     label->setBuddy(size_);
     for (const int size : Sizes) sizes_->addItem(QString::number(size));
     for (QWidget* part : {static_cast<QWidget*>(size_), static_cast<QWidget*>(sizes_)}) {
-        part->setFixedWidth(SizeWidth);
+        part->setFixedWidth(PanelScale(*this)(SizeWidth));
         part->setAccessibleName(QStringLiteral("Size"));
     }
     const QList<QListWidgetItem*> own = sizes_->findItems(size_->text(), Qt::MatchExactly);

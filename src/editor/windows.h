@@ -61,6 +61,7 @@ public:
     virtual void ShowSkinProject() {}  // the project panel, at start
     virtual void SaveSkin() {}         // what its Save button does
     virtual void ShowToolbox() {}
+    virtual void ArrangeTools() {}  // the main window has another size, or a tool window comes up
     virtual void ToggleMagnifier() {}
     virtual void ShowPreview() {}   // and the four windows hide,
     virtual void LeavePreview() {}  // and come back

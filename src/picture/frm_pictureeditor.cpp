@@ -18,6 +18,7 @@
 #include "editor/settings_keys.h"
 #include "picture/picture_saving.h"
 #include "picture/presets.h"
+#include "platform/panel_scale.h"
 #include "platform/prompts.h"
 #include "render/skin_picture.h"
 
@@ -68,7 +69,9 @@ QString Shown(const std::string& text) {
 /// In the middle of its owner, as large as usual where the screen has room.
 void PlaceOver(QWidget& window, const QWidget* owner) {
     const QRect room = window.screen()->availableGeometry();
-    window.resize(UsualSize.boundedTo(room.size() * RoomOfScreen / 100).expandedTo(window.minimumSizeHint()));
+    window.resize(PanelScale(window)(UsualSize)
+                      .boundedTo(room.size() * RoomOfScreen / 100)
+                      .expandedTo(window.minimumSizeHint()));
     QRect place = window.rect();
     place.moveCenter(owner ? owner->frameGeometry().center() : room.center());
     place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() - place.width())));

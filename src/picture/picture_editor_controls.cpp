@@ -7,6 +7,7 @@
 #include <QRadioButton>
 
 #include "picture/frm_pictureeditor.h"
+#include "platform/panel_scale.h"
 
 namespace ornavo {
 namespace {
@@ -25,7 +26,7 @@ QLabel* Label(const char* name, const char* caption, QWidget* buddy = nullptr) {
 TileCommand* Command(QWidget* parent, const char* name, const char* caption) {
     auto* command = new TileCommand(parent, name);
     command->SetCaption(QLatin1String(caption));
-    command->setMinimumSize(ButtonSize);
+    command->setMinimumSize(PanelScale(*parent)(ButtonSize));
     return command;
 }
 
@@ -91,7 +92,7 @@ QWidget* frm_PictureEditor::PresetBox() {
     lbl_Presets->setBuddy(lstPresets);
     lstPresets->setObjectName(QStringLiteral("lstPresets"));
     lstPresets->setAccessibleName(QStringLiteral("Color Presets"));
-    lstPresets->setMinimumSize(120, 96);
+    lstPresets->setMinimumSize(PanelScale(*this)(QSize(120, 96)));
     lstPresets->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     return box;
 }
@@ -102,7 +103,7 @@ QWidget* frm_PictureEditor::OptionsBox() {
     fraOptions->setObjectName(QStringLiteral("fraOptions"));
     tbx_FinalName->setObjectName(QStringLiteral("tbx_FinalName"));
     tbx_FinalName->setAccessibleName(QStringLiteral("Save As"));
-    tbx_FinalName->setMinimumWidth(150);
+    tbx_FinalName->setMinimumWidth(PanelScale(*this)(150));
     optBMP->setObjectName(QStringLiteral("optBMP"));
     optJPG->setObjectName(QStringLiteral("optJPG"));
     grid->addWidget(Label("lbl_SaveAs", "Save As", tbx_FinalName), 0, 0);

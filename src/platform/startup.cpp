@@ -11,6 +11,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "platform/fonts.h"
+#include "platform/panel_scale.h"
 
 namespace ornavo {
 namespace {
@@ -83,7 +84,7 @@ void InitCommonControls(QApplication& application) {
     InstallFontSubstitutes();
     application.setStyle(new PanelStyle);
     application.setPalette(LightPalette());
-    application.setFont(ScreenFont({}));
+    application.setFont(PanelFont(QApplication::font()));
     UseTheirNumberSigns();
 }
 

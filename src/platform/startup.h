@@ -10,7 +10,8 @@ namespace ornavo {
 
 /// Before QApplication: the windowing system's order of choice, whole scale factors.
 void PrepareProcess();
-/// After it: Fusion style, our one light palette, pixel-sized font, font stand-ins, the user's number signs.
+/// After it: Fusion style, our one light palette, our face in the size of the application's font, which is
+/// the desktop's, font stand-ins, the user's number signs.
 void InitCommonControls(QApplication& application);
 /// Where the program keeps what is the user's: "Skins" and "Recovered" lie in it.
 std::string DataFolder();

@@ -11,6 +11,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "editor/settings_keys.h"
+#include "platform/panel_scale.h"
 #include "platform/prompts.h"
 
 namespace ornavo {
@@ -72,10 +73,11 @@ frm_AddNewSkin::frm_AddNewSkin(QWidget* owner, SkinFiles& files)
         grid->addWidget(label, row, 0);
         grid->addWidget(each.box, row++, 1, 1, 2);
     }
-    tbx_SkinName->setMinimumWidth(220);
+    const PanelScale scale(*this);
+    tbx_SkinName->setMinimumWidth(scale(220));
     btn_Create->SetCaption("&Create");
     btn_Cancel->SetCaption("&Cancel");
-    for (TileCommand* button : {btn_Create, btn_Cancel}) button->setMinimumSize(88, 26);
+    for (TileCommand* button : {btn_Create, btn_Cancel}) button->setMinimumSize(scale(QSize(88, 26)));
     grid->setRowMinimumHeight(row++, 6);
     grid->setColumnStretch(1, 1);
     grid->addWidget(btn_Create, row, 1, Qt::AlignRight);

@@ -13,6 +13,7 @@
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "editor/skin_drop.h"
+#include "platform/panel_scale.h"
 #include "platform/prompts.h"
 #include "project/layout_copy.h"
 #include "project/layout_steps.h"
@@ -20,15 +21,16 @@
 namespace ornavo {
 namespace {
 
-constexpr int PanelWidth = 3045;                                           // twips, outside
-constexpr int Margin = 4, Gap = 2, ButtonHeight = 21, PictureHeight = 29;  // pixels
+constexpr int PanelWidth = 3045;  // twips, outside
+constexpr int Margin = 4, Gap = 2, ButtonHeight = 21, PictureHeight = 29, PictureSize = 24,
+              ListHeight = 40;  // pixels
 
 TileCommand* PictureButton(QWidget* parent, const char* name, const char* what, const char* picture) {
     auto* button = new TileCommand(parent, name);
-    button->SetPicture(QString(":/pictures/") + picture + ".png");
+    button->SetPicture(QString(":/pictures/") + picture + ".png", PanelScale(*parent)(PictureSize));
     button->setAccessibleName(what);
     button->setToolTip(what);
-    button->setFixedHeight(PictureHeight);
+    button->setFixedHeight(PanelScale(*parent)(PictureHeight));
     return button;
 }
 
@@ -36,7 +38,7 @@ TileCommand* CaptionButton(QWidget* parent, const char* name, const char* captio
     auto* button = new TileCommand(parent, name);
     button->SetCaption(caption);
     button->setToolTip(what);
-    button->setFixedHeight(ButtonHeight);
+    button->setFixedHeight(PanelScale(*parent)(ButtonHeight));
     return button;
 }
 
@@ -80,7 +82,7 @@ void frm_SkinProject::MakeControls() {
     lst_Layouts = new LayoutList(this);
     lst_Layouts->setObjectName("lst_Layouts");
     lst_Layouts->setAccessibleName("Layouts");
-    lst_Layouts->setMinimumHeight(40);
+    lst_Layouts->setMinimumHeight(PanelScale(*this)(ListHeight));
     lbl_Damage = new QLabel(this);
     lbl_Damage->setObjectName("lbl_Damage");
     lbl_Damage->setTextFormat(Qt::PlainText);
@@ -112,14 +114,16 @@ void frm_SkinProject::LayOut() {
 
 void frm_SkinProject::Form_Load() {
     EnableSkinControls(false);
+    const PanelScale scale(*this);
     MoveTwips({settings::SkinProjectLeft.ReadOrStandard(), settings::SkinProjectTop.ReadOrStandard(),
-               PanelWidth, settings::SkinProjectHeight.ReadOrStandard()});
+               scale(PanelWidth), scale(settings::SkinProjectHeight.ReadOrStandard())});
     setFixedWidth(width());
 }
 
 void frm_SkinProject::Form_Resize() {
     const Rect now = TwipBounds();
-    if (now.width != PanelWidth) MoveTwips({now.left, now.top, PanelWidth, now.height});
+    const int width = PanelScale(*this)(PanelWidth);
+    if (now.width / TwipsPerPixel != width / TwipsPerPixel) MoveTwips({now.left, now.top, width, now.height});
 }
 
 void frm_SkinProject::EnableSkinControls(bool enabled) {
@@ -329,7 +333,7 @@ void frm_SkinProject::KeepPlace() const {
     const Rect bounds = TwipBounds();
     settings::SkinProjectLeft.Write(bounds.left);
     settings::SkinProjectTop.Write(bounds.top);
-    settings::SkinProjectHeight.Write(bounds.height);
+    settings::SkinProjectHeight.Write(PanelScale(*this).Designed(bounds.height));
 }
 
 void frm_SkinProject::StandAlone() {

@@ -10,6 +10,7 @@
 #include "document/shape_edits.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
+#include "platform/panel_scale.h"
 #include "properties/choosers.h"
 #include "properties/commit.h"
 #include "properties/element_sheet.h"
@@ -42,7 +43,7 @@ frm_Properties::frm_Properties(QWidget* owner, Windows& windows, Canvas& canvas)
     setAttribute(Qt::WA_ShowWithoutActivating);
     scroll_.setFrameShape(QFrame::NoFrame);
     scroll_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setMinimumWidth(LeastWidth);
+    setMinimumWidth(PanelScale(*this)(LeastWidth));
     tmrUpdate.setInterval(UpdateInterval);
     tmrUpdate.setSingleShot(true);
     connect(&tmrUpdate, &QTimer::timeout, this, [this] { tmrUpdate_Timer(parts_); });
@@ -57,7 +58,8 @@ frm_Properties::~frm_Properties() {
 void frm_Properties::Form_Load() {
     const Raised building(parts_.IsBuilding);
     MoveTwips({settings::PropertiesLeft.ReadOrStandard(), settings::PropertiesTop.ReadOrStandard(),
-               settings::PropertiesWidth.ReadOrStandard(), settings::PropertiesWidth.standard});
+               PanelScale(*this)(settings::PropertiesWidth.ReadOrStandard()),
+               settings::PropertiesWidth.standard});
     home_ = shown_ = Corner();
 }
 
@@ -66,7 +68,7 @@ void frm_Properties::Form_Unload() {
     const QPoint corner = Corner() == shown_ ? home_ : Corner();
     settings::PropertiesLeft.Write(corner.x() * TwipsPerPixel);
     settings::PropertiesTop.Write(corner.y() * TwipsPerPixel);
-    settings::PropertiesWidth.Write(TwipBounds().width);
+    settings::PropertiesWidth.Write(PanelScale(*this).Designed(TwipBounds().width));
 }
 
 void frm_Properties::Form_Activate() {
@@ -132,11 +134,12 @@ Sheet frm_Properties::SheetOf(const Control& control) {
 
 void frm_Properties::Build(const Sheet& sheet) {
     FitHeight(static_cast<int>(sheet.size()));
-    const int height = static_cast<int>(sheet.size()) * RowPitch - 1;
+    const PanelScale scale(*this);
+    const int height = static_cast<int>(sheet.size()) * scale(RowPitch) - 1;
     const bool scrolls = height > MostHeight();
     const int scaleWidth = ScaleWidth() - (scrolls ? scroll_.verticalScrollBar()->sizeHint().width() : 0);
     sheet_.resize(scaleWidth, std::max(height, 0));
-    Rows rows(pools_, scaleWidth);
+    Rows rows(pools_, scaleWidth, scale);
     for (const SheetRow& row : sheet) rows.AddProperties(row);
     sheet_.SetValues(rows.Values());
 }
@@ -151,7 +154,8 @@ int frm_Properties::MostHeight() const {
 void frm_Properties::FitHeight(int rows) {
     if (Corner() != shown_) home_ = Corner();  // moved by the user
     // The line below the last row is the window's edge.
-    const int wanted = std::clamp(rows * RowPitch - 1, RowPitch, std::max(MostHeight(), RowPitch));
+    const int pitch = PanelScale(*this)(RowPitch);
+    const int wanted = std::clamp(rows * pitch - 1, pitch, std::max(MostHeight(), pitch));
     if (wanted != height() || wanted != minimumHeight()) setFixedHeight(wanted);
     const QRect room = screen()->availableGeometry();
     const int lowest = room.bottom() + 1 - wanted - FrameHeight(*this);

@@ -8,19 +8,12 @@
 #include <QWheelEvent>
 
 #include "base/failure.h"
-#include "platform/fonts.h"
 
 namespace ornavo {
 namespace {
 
 constexpr int ListRows = 24;      // of an open list before it scrolls
 constexpr int LeastStretch = 60;  // percent, still readable
-
-QFont RowFont(bool bold) {
-    Font font;
-    font.Bold = bold;
-    return ScreenFont(font);
-}
 
 /// A value is one line of the file: what breaks lines in a pasted text becomes blanks.
 class OneLine : public QValidator {
@@ -73,7 +66,8 @@ RowLabel::RowLabel(QWidget* sheet, int index) : QLabel(sheet), Index(index) {
 
 void RowLabel::Show(const QString& caption, bool heading, int width) {
     heading_ = heading;
-    QFont face = RowFont(heading);
+    QFont face = QApplication::font();
+    face.setBold(heading);
     const int wanted = QFontMetrics(face).horizontalAdvance(caption);
     if (wanted > width)
         face.setStretch(std::max((face.stretch() ? face.stretch() : 100) * width / wanted, LeastStretch));
@@ -86,7 +80,6 @@ void RowLabel::Show(const QString& caption, bool heading, int width) {
 
 RowText::RowText(QWidget* sheet, int index) : QLineEdit(sheet), Index(index) {
     setObjectName(QStringLiteral("tbx_Prop"));
-    setFont(RowFont(false));
     setValidator(new OneLine(this));
     setFrame(false);
     hide();
@@ -128,7 +121,6 @@ void RowCheck::paintEvent(QPaintEvent*) {
 
 RowCombo::RowCombo(QWidget* frame, int index) : QComboBox(frame), Index(index) {
     setObjectName(QStringLiteral("cboProp"));
-    setFont(RowFont(false));
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(ListRows);
     // Clipped, it has no edge: its ground is that of the text boxes.

@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include "platform/panel_scale.h"
+
 namespace ornavo {
 namespace {
 
@@ -62,7 +64,7 @@ TileCommand* MakeButton(QWidget& sheet, const char* name, int index, const char*
     button->setToolTip(QLatin1String(tip));
     // The Tab key walks the values; a row's button is pressed from its box.
     button->setFocusPolicy(Qt::NoFocus);
-    button->resize(ButtonWidth, ButtonHeight);
+    button->resize(PanelScale(sheet)(QSize(ButtonWidth, ButtonHeight)));
     button->hide();
     return button;
 }
@@ -83,7 +85,8 @@ RowPools::RowPools(QWidget& sheet, RowEvents& events)
       }),
       btn_PicEdit([&sheet, &events](int index) {
           TileCommand* button = MakeButton(sheet, "btn_PicEdit", index, "Edit Picture");
-          button->SetPicture(QStringLiteral(":/pictures/edit_picture.png"), EditPictureSize);
+          button->SetPicture(QStringLiteral(":/pictures/edit_picture.png"),
+                             PanelScale(sheet)(EditPictureSize));
           QObject::connect(button, &TileCommand::Click, button,
                            [&events, index] { events.PicEditClicked(index); });
           return button;

@@ -5,6 +5,8 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "platform/panel_scale.h"
+
 namespace ornavo {
 
 RowSheet::RowSheet(QScrollArea& scroll) : scroll_(scroll) {
@@ -28,7 +30,7 @@ void RowSheet::Focus(std::string_view key) {
         std::find_if(values_.begin(), values_.end(), [&](const RowValue& value) { return value.key == key; });
     if (found == values_.end()) return;
     found->control->setFocus(Qt::OtherFocusReason);
-    scroll_.ensureWidgetVisible(found->control, 0, RowPitch);
+    scroll_.ensureWidgetVisible(found->control, 0, PanelScale(*this)(RowPitch));
 }
 
 bool RowSheet::focusNextPrevChild(bool next) {
@@ -39,15 +41,17 @@ bool RowSheet::focusNextPrevChild(bool next) {
     if (focused) at = (focused - values_.data() + (next ? 1 : count - 1)) % count;
     QWidget* control = values_[static_cast<std::size_t>(at)].control;
     control->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    scroll_.ensureWidgetVisible(control, 0, RowPitch);
+    scroll_.ensureWidgetVisible(control, 0, PanelScale(*this)(RowPitch));
     return true;
 }
 
 void RowSheet::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(0, 0, CaptionWidth, height(), palette().window());
-    painter.fillRect(CaptionWidth, 0, width() - CaptionWidth, height(), palette().base());
-    for (int bottom = RowPitch - 1; bottom < height(); bottom += RowPitch)
+    const PanelScale scale(*this);
+    const int captions = scale(CaptionWidth), pitch = scale(RowPitch);
+    painter.fillRect(0, 0, captions, height(), palette().window());
+    painter.fillRect(captions, 0, width() - captions, height(), palette().base());
+    for (int bottom = pitch - 1; bottom < height(); bottom += pitch)
         painter.fillRect(0, bottom, width(), 1, palette().mid());
 }
 

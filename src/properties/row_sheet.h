@@ -10,7 +10,7 @@ class QScrollArea;
 
 namespace ornavo {
 
-inline constexpr int RowPitch = 15, CaptionWidth = 120;  // pixels
+inline constexpr int RowPitch = 15, CaptionWidth = 120;  // pixels, as designed
 
 /// The value of a row: what the keyboard goes to.
 struct RowValue {

@@ -11,9 +11,9 @@
 namespace ornavo {
 namespace {
 
-constexpr int ValueOverhang = 20, RowHeight = RowPitch - 1;  // a line parts it from the next
+constexpr int ValueOverhang = 20;
 constexpr QSize CheckSize = {12, 12};
-constexpr QRect ComboPlace = {-2, -5, -16, 24};  // in its frame; the width is added to that of a value
+constexpr int ComboLeft = -2, ComboLack = 16, ComboHeight = 24;  // in its frame; less wide than a value
 constexpr const char* Undefined = "<undefined>";
 
 QString Shown(std::string_view text) {
@@ -58,8 +58,15 @@ int FillElements(QStringList& items, const std::string& key) {
 
 }  // namespace
 
-Rows::Rows(RowPools& pools, int scaleWidth)
-    : pools_(pools), scaleWidth_(scaleWidth), valueWidth_(scaleWidth - CaptionWidth + ValueOverhang) {}
+Rows::Rows(RowPools& pools, int scaleWidth, const PanelScale& scale)
+    : pools_(pools),
+      scale_(scale),
+      rowPitch_(scale(RowPitch)),
+      rowHeight_(rowPitch_ - 1),  // a line parts it from the next
+      captionWidth_(scale(CaptionWidth)),
+      valueOverhang_(scale(ValueOverhang)),
+      scaleWidth_(scaleWidth),
+      valueWidth_(scaleWidth - captionWidth_ + valueOverhang_) {}
 
 Rows::Maker Rows::MakerOf(std::int32_t kind) {
     switch (kind) {
@@ -92,7 +99,7 @@ Rows::Maker Rows::MakerOf(std::int32_t kind) {
 void Rows::AddProperties(const SheetRow& row) {
     AddCaption(row);
     if (const Maker maker = MakerOf(row.kind)) Attempt([&] { (this->*maker)(row); });
-    NextRowTop += RowPitch;
+    NextRowTop += rowPitch_;
     ++RowCount;
 }
 
@@ -101,9 +108,9 @@ void Rows::AddCaption(const SheetRow& row) {
     RowLabel& label = pools_.lbl_Prop[pools_.LoadLabel()];
     // A heading has no key, and a label without a Tag would be free.
     label.Tag = heading ? "Label" : row.key;
-    const int width = heading ? scaleWidth_ : CaptionWidth;
+    const int width = heading ? scaleWidth_ : captionWidth_;
     label.Show(QLatin1String(heading ? " " : "  ") + Shown(row.caption), heading, width);
-    label.setGeometry(0, NextRowTop, width, RowHeight);
+    label.setGeometry(0, NextRowTop, width, rowHeight_);
     label.raise();
     label.show();
 }
@@ -115,7 +122,7 @@ RowText& Rows::Box(const SheetRow& row, int width) {
     box.setFocusPolicy(row.kind == KindBoolean ? Qt::NoFocus : Qt::StrongFocus);
     // Behind a tick box it is ground alone.
     box.setAccessibleName(row.kind == KindBoolean ? QString() : Shown(row.caption));
-    box.setGeometry(CaptionWidth, NextRowTop, width, RowHeight);
+    box.setGeometry(captionWidth_, NextRowTop, width, rowHeight_);
     box.show();
     if (row.kind != KindBoolean) values_.push_back({row.key, &box});
     return box;
@@ -141,7 +148,7 @@ void Rows::AddBoolean(const SheetRow& row) {
     RowCheck& check = pools_.chk_Boolean[pools_.LoadCheckBox()];
     check.Tag = row.key;
     check.setAccessibleName(Shown(row.caption));
-    check.setGeometry(QRect(QPoint(CaptionWidth + 3, NextRowTop + 1), CheckSize));
+    check.setGeometry(QRect({captionWidth_ + scale_(3), NextRowTop + scale_(1)}, scale_(CheckSize)));
     check.raise();
     check.show();
     values_.push_back({row.key, &check});
@@ -158,7 +165,7 @@ void Rows::AddColour(const SheetRow& row) {
 }
 
 void Rows::AddText(const SheetRow& row) {
-    RowText& box = Box(row, valueWidth_ - ValueOverhang);
+    RowText& box = Box(row, valueWidth_ - valueOverhang_);
     box.SetText(row.value.ToText());
 }
 
@@ -186,11 +193,12 @@ void Rows::AddList(const SheetRow& row) {
     RowFrame& frame = pools_.cboPic[pools_.LoadCombo()];
     frame.Tag = row.key;
     frame.setAccessibleName(Shown(row.caption));  // a list itself is read as what it shows
-    frame.Move({CaptionWidth, NextRowTop, valueWidth_, RowHeight});
+    frame.Move({captionWidth_, NextRowTop, valueWidth_, rowHeight_});
     RowCombo& combo = frame.cboProp;
     combo.Tag = row.key;
     combo.setAccessibleName(Shown(row.caption));
-    combo.setGeometry(ComboPlace.x(), ComboPlace.y(), valueWidth_ + ComboPlace.width(), ComboPlace.height());
+    const int height = scale_(ComboHeight);
+    combo.setGeometry(scale_(ComboLeft), (rowHeight_ - height) / 2, valueWidth_ - scale_(ComboLack), height);
     frame.show();
     combo.show();
     values_.push_back({row.key, &combo});

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "document/dblayouts.h"
+#include "platform/panel_scale.h"
 #include "properties/row_pools.h"
 #include "properties/row_sheet.h"
 #include "properties/sheet_row.h"
@@ -14,8 +15,8 @@ QString LineOf(const dbLayoutElement& element);
 
 class Rows {
 public:
-    /// `scaleWidth` is the width of the sheet, pixels.
-    Rows(RowPools& pools, int scaleWidth);
+    /// `scaleWidth` is the width of the sheet, pixels; `scale` that of its font.
+    Rows(RowPools& pools, int scaleWidth, const PanelScale& scale);
 
     int RowCount = 0;
     int NextRowTop = 0;  // pixels
@@ -43,8 +44,9 @@ private:
     TileCommand& SelectButton(const SheetRow& row, const RowText& box);
 
     RowPools& pools_;
-    const int scaleWidth_;
-    const int valueWidth_;
+    const PanelScale scale_;
+    const int rowPitch_, rowHeight_, captionWidth_, valueOverhang_;
+    const int scaleWidth_, valueWidth_;
     std::vector<RowValue> values_;
 };
 

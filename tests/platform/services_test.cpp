@@ -13,7 +13,9 @@
 #include "platform/dbline.h"
 #include "platform/fonts.h"
 #include "platform/form.h"
+#include "platform/panel_scale.h"
 #include "platform/picture_box.h"
+#include "platform/places.h"
 #include "platform/settings.h"
 #include "platform/symbol_fonts.h"
 #include "platform/text_controls.h"
@@ -326,6 +328,37 @@ TEST(Forms, APlaceOffEveryScreenComesBack) {
     Window partly;
     partly.MoveTwips({-1500, 0, 4500, 4500});
     EXPECT_EQ(partly.pos().x(), -100) << "can still be grasped";
+}
+
+TEST(Panels, GrowWithTheLineAndNeverShrink) {
+    const int line = QFontMetrics(ScreenFont({.Size = 9})).height();
+    EXPECT_EQ(PanelScale(2 * line, line)(3045), 6090);
+    EXPECT_EQ(PanelScale(QFont(ScreenFont({.Size = 8})))(15), 15);
+    EXPECT_GE(PanelScale(QFont(ScreenFont({.Size = 14})))(15), 22);
+    for (const int shown : {4800, 6001, 7211}) {  // what is stored doesn't wander from run to run
+        const PanelScale scale(23, 14);
+        const int stored = scale.Designed(shown);
+        EXPECT_EQ(scale.Designed(scale(stored)), stored);
+    }
+}
+
+TEST(Panels, StandBesideTheMainWindow) {
+    const QRect screen(0, 0, 1600, 1200), project(1100, 9, 203, 206);
+    const struct {
+        QRect main;
+        QSize window;
+        std::vector<QRect> taken;
+        std::optional<QPoint> place;
+    } cases[] = {
+        {{68, 9, 1032, 797}, {203, 206}, {}, QPoint(1100, 9)},
+        {{68, 9, 1032, 797}, {183, 381}, {project}, QPoint(1303, 9)},
+        {{68, 9, 1032, 797}, {320, 669}, {project, {1303, 9, 183, 381}}, QPoint(1100, 390)},
+        {{500, 9, 1032, 797}, {203, 206}, {}, QPoint(297, 9)},
+        {{68, 9, 1032, 797}, {320, 669}, {{1100, 0, 500, 700}}, std::nullopt},
+        {{0, 0, 1600, 1200}, {203, 206}, {}, std::nullopt},
+    };
+    for (const auto& row : cases)
+        EXPECT_EQ(PlaceBeside(screen, row.main, row.window, row.taken), row.place) << row.window.height();
 }
 
 }  // namespace

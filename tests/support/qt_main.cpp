@@ -25,6 +25,9 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     ornavo::PrepareProcess();
     QApplication application(argc, argv);
+    QFont desktop;
+    desktop.setPixelSize(12);  // 9 points at 96 dpi, whatever machine this is
+    QApplication::setFont(desktop);
     ornavo::InitCommonControls(application);
     ornavo::UseSettingsFile(home.filePath("settings.ini"));
     qInstallMessageHandler(OnMessage);
