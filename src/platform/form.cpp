@@ -109,17 +109,23 @@ void Form::SetWindowState(int state) {
 }
 
 bool Form::event(QEvent* event) {
+    const QEvent::Type type = event->type();
     const bool taken = QWidget::event(event);
-    if (event->type() == QEvent::WindowActivate) Form_Activate();
-    if (event->type() == QEvent::Move) TakeCorner(event->spontaneous());
-    const bool placed = testAttribute(Qt::WA_Moved) && WindowState() == StateNormal;
-    if (event->type() == QEvent::Show && !event->spontaneous() && placed) MoveFrame(corner_);
+    if (type == QEvent::DeferredDelete) return taken;  // nothing is left of the window
+    if (type == QEvent::WindowActivate) Form_Activate();
+    if (type == QEvent::Move) TakeCorner(event->spontaneous());
+    if (type == QEvent::Show && !event->spontaneous()) KeepCorner();
     return taken;
 }
 
 /// The desktop moves a hidden window too, when it takes the frame off.
 void Form::TakeCorner(bool byDesktop) {
     if (WindowState() == StateNormal && (isVisible() || !byDesktop)) corner_ = pos();
+}
+
+/// What resized the window while it was hidden would have moved it by its frame.
+void Form::KeepCorner() {
+    if (testAttribute(Qt::WA_Moved) && WindowState() == StateNormal) MoveFrame(corner_);
 }
 
 void Form::resizeEvent(QResizeEvent*) {

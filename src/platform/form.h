@@ -52,6 +52,7 @@ protected:
 
 private:
     void TakeCorner(bool byDesktop);
+    void KeepCorner();
     QPoint corner_;  // of the frame in the normal state, as it was last seen or asked for
 };
 
