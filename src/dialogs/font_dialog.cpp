@@ -72,7 +72,7 @@ FontDialog::FontDialog(QWidget* owner, const Font& start, const std::vector<std:
     auto* sampleBox = new QGroupBox(QStringLiteral("Sample"));
     (new QVBoxLayout(sampleBox))->addWidget(sample_);
     sample_->setAlignment(Qt::AlignCenter);
-    sample_->setMinimumSize(1, PanelScale(*this)(SampleHeight));
+    sample_->setMinimumSize(1, SampleHeight);
     sample_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -110,7 +110,7 @@ QLayout* FontDialog::FaceColumn() {
     filter_->setPlaceholderText(QStringLiteral("Type a part of the name"));
     filter_->setClearButtonEnabled(true);
     connect(filter_, &QLineEdit::textEdited, this, &FontDialog::ShowFacesLike);
-    faces_->setMinimumSize(PanelScale(*this)(FaceList));
+    faces_->setMinimumSize(PanelScale(*this)(FaceList.width()), FaceList.height());
     faces_->setAccessibleName(QStringLiteral("Font"));
     column->addWidget(label);
     column->addWidget(filter_);
