@@ -56,7 +56,7 @@ SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder) {
 }
 
 bool HoldsSkin(const SkinPlace& place) {
-    return FileExists(WithSeparator(place.basePath + place.skinName) + std::string(SettingsFileName));
+    return !NothingStandsAt(WithSeparator(place.basePath + place.skinName) + std::string(SettingsFileName));
 }
 
 SkinFiles::SkinFiles(std::string ownFolder, std::string dataFolder)

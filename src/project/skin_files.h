@@ -26,7 +26,7 @@ struct SkinPlace {
 /// from a working folder that is gone.
 SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder);
 
-/// Whether there is a settings file, whatever the case of its name.
+/// Whether there is a settings file, whatever the case of its name and also one that can't be read.
 bool HoldsSkin(const SkinPlace& place);
 
 inline constexpr const char* SaveTitle = "Save current Skin";
