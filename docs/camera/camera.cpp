@@ -40,20 +40,22 @@ void Camera::TakeBeside(const QString& name, const QList<QRect>& parts, int scal
     KeepBeside(name, pictures, scale);
 }
 
-void Camera::KeepBeside(const QString& name, const QList<QImage>& pictures, int scale) {
-    QSize size(-Gap, 0);
-    for (const QImage& picture : pictures)
-        size = {size.width() + Gap + picture.width(), std::max(size.height(), picture.height())};
-    QImage whole(size, QImage::Format_RGB32);
-    whole.fill(Qt::white);
-    QPainter painter(&whole);
-    int left = 0;
+void Camera::KeepBeside(const QString& name, const QList<QImage>& pictures, int scale, int columns) {
+    QList<QPoint> corners;
+    QSize whole;
+    QPoint next;
     for (const QImage& picture : pictures) {
-        painter.drawImage(left, 0, picture);
-        left += picture.width() + Gap;
+        if (!corners.isEmpty() && corners.size() % columns == 0) next = {0, whole.height() + Gap};
+        corners += next;
+        whole = whole.expandedTo({next.x() + picture.width(), next.y() + picture.height()});
+        next.rx() += picture.width() + Gap;
     }
+    QImage board(whole, QImage::Format_RGB32);
+    board.fill(Qt::white);
+    QPainter painter(&board);
+    for (int i = 0; i < pictures.size(); ++i) painter.drawImage(corners[i], pictures[i]);
     painter.end();
-    Keep(name, whole, scale);
+    Keep(name, board, scale);
 }
 
 void Camera::Keep(const QString& name, const QImage& picture, int scale) {

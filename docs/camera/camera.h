@@ -17,7 +17,8 @@ public:
     void Take(const QString& name, const QRect& part, int scale = 100);
     /// Parts of the screen side by side.
     void TakeBeside(const QString& name, const QList<QRect>& parts, int scale = 100);
-    void KeepBeside(const QString& name, const QList<QImage>& pictures, int scale = 100);
+    /// The same of pictures taken before, `columns` in a row.
+    void KeepBeside(const QString& name, const QList<QImage>& pictures, int scale = 100, int columns = 9);
     QImage Still(const QRect& part);
 
     /// One more picture of the moving one, as it is at once.

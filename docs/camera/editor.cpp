@@ -94,4 +94,10 @@ QRect Editor::Frame(const QString& window) {
     return desktop_.Inside(window).adjusted(-side(1), -side(3), side(2), side(4));
 }
 
+QRect Editor::Everything() {
+    QRect all = Frame(panel_) | Frame(main_);
+    if (!sheet.window().isEmpty()) all |= Frame(sheet.window());
+    return all.adjusted(-8, -8, 8, 8);
+}
+
 }  // namespace ornavo::guide

@@ -34,6 +34,8 @@ public:
     QRect Canvas() { return desktop_.Inside(main_); }
     /// With its frame.
     QRect Frame(const QString& window);
+    /// Skin Project, toolbox, canvas and, once it has been open, the sheet.
+    QRect Everything();
     /// A part of the canvas, on the screen.
     QRect Part(const QRect& onCanvas) { return onCanvas.translated(Canvas().topLeft()); }
     QString Skins() const { return desktop_.Home() + "/ornavo/Skins/"; }

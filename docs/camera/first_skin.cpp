@@ -12,6 +12,9 @@ constexpr QPoint SheetPlace = {1290, 40};
 constexpr int Half = 50;         // percent
 constexpr int ShowElements = 2;  // its line in the toolbox
 constexpr int Cut = 80;          // pixels, of the upper corners
+const Captions VolumeRows = InfoHead + Captions{"db-Script Name", "Volume Picture 0%", "Volume Picture 100%",
+                                                "Vertical",       "Can change Volume", "Appearance",
+                                                "Visible"};
 const Captions SkinRows = FirstOf({"Skin Properties", "Editor", "Background Helper"}, 25);
 
 class FirstSkin {
@@ -30,7 +33,8 @@ public:
         desktop_.Key({"Return"});
         desktop_.WaitUntilGone("^Create new Skin$");
         editor_.Arrange();
-        camera_.Take("first-windows", Everything(), Half);
+        editor_.Save();
+        camera_.Take("first-windows", editor_.Everything(), Half);
     }
     void AddBackground() {
         editor_.Add(Graphic);
@@ -40,10 +44,11 @@ public:
         sheet_.ClickRow("Lock Right");
         sheet_.ClickRow("Lock Bottom");
         sheet_.ChoosePicture("Normal", art_ + "backdrop.jpg");
-        desktop_.ParkPointer();
-        camera_.Take("first-background", Everything(), Half);
         editor_.Menu({900, 500}, "n");
         editor_.Save();
+        editor_.Click({900, 500});
+        desktop_.ParkPointer();
+        camera_.Take("first-background", editor_.Everything(), Half);
     }
     void AddButton() {
         editor_.Add(Button);
@@ -107,14 +112,15 @@ public:
         editor_.Click({right - Cut, 0});
         editor_.Drag({right, 0}, {right, Cut});
         desktop_.ParkPointer();
-        camera_.Take("first-shape", Everything(), Half);
+        camera_.Take("first-shape", editor_.Everything(), Half);
         editor_.ToolboxLine(ShowElements);
     }
     void Preview() {
         desktop_.Activate(editor_.main());
         desktop_.Key({"F5"});
         const QString preview = desktop_.Window("^Skin Preview$");
-        camera_.Take("first-preview", Everything(), Half);
+        desktop_.ParkPointer();
+        camera_.Take("first-preview", desktop_.Inside(preview).adjusted(-16, -16, 16, 34), Half);
         desktop_.Key({"Escape"});
         desktop_.WaitUntilGone("^Skin Preview$");
     }
@@ -122,13 +128,6 @@ public:
     void Close() { editor_.Close(); }
 
 private:
-    /// Skin Project, toolbox, canvas and, if it is open, the sheet.
-    QRect Everything() {
-        return editor_.Frame(editor_.panel())
-            .united(editor_.Frame(editor_.main()))
-            .united(sheet_.window().isEmpty() ? QRect() : editor_.Frame(sheet_.window()))
-            .adjusted(-8, -8, 8, 8);
-    }
     /// Once it is saved, a picture's row has the file's name alone.
     void TakeSheet(const char* name, const QPoint& element, const QRect& part) {
         editor_.Save();

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int Limit = 180;  // seconds, of a page
 constexpr guide::Page Pages[] = {
+    {"guide", guide::TakeGuide},
     {"first-skin", guide::TakeFirstSkin},
 };
 

@@ -11,6 +11,7 @@ struct Page {
     void (*take)(walk::Desktop&, Camera&);
 };
 
+void TakeGuide(walk::Desktop& desktop, Camera& camera);
 void TakeFirstSkin(walk::Desktop& desktop, Camera& camera);
 
 }  // namespace ornavo::guide

@@ -32,10 +32,6 @@ inline const Captions InfoTail =
         .split(';');
 inline const Captions LabelRows = InfoHead + Captions{"Caption", "db-Script Name"} + InfoTail;
 inline const Captions TitleRows = InfoHead + Captions{"db-Script Name"} + InfoTail;
-inline const Captions VolumeRows =
-    InfoHead + Captions{"db-Script Name", "Volume Picture 0%", "Volume Picture 100%",
-                        "Vertical",       "Can change Volume", "Appearance",
-                        "Visible"};
 inline const Captions CornerRows = {"Heading", "X", "Y", "Horizontal Align", "Vertical Align"};
 /// Of a family only the first rows are worked; there are `count` in all.
 inline Captions FirstOf(Captions rows, int count) {
@@ -61,11 +57,14 @@ public:
             return desktop_.Inside(window_).height() == RowHeight * static_cast<int>(rows.size()) - 1;
         });
     }
-    void ClickRow(const char* caption) {
+    QRect Row(const char* caption) {
         const auto row = static_cast<int>(rows_.indexOf(caption));
         if (row < 0) throw std::runtime_error(caption);
-        desktop_.Click(desktop_.Inside(window_).topLeft() +
-                       QPoint(ValueLeft + 6, RowHeight * row + RowHeight / 2));
+        const QRect inside = desktop_.Inside(window_);
+        return {inside.left(), inside.top() + RowHeight * row, inside.width(), RowHeight};
+    }
+    void ClickRow(const char* caption) {
+        desktop_.Click(Row(caption).topLeft() + QPoint(ValueLeft + 6, RowHeight / 2));
         desktop_.WaitForFocus("Properties");
     }
     void Type(const char* caption, const QString& text) {
