@@ -123,6 +123,7 @@ public:
         camera_.Take("first-preview", desktop_.Inside(preview).adjusted(-16, -16, 16, 34), Half);
         desktop_.Key({"Escape"});
         desktop_.WaitUntilGone("^Skin Preview$");
+        desktop_.Window("^Ornavo");
     }
     void Save() { editor_.Save(); }
     void Close() { editor_.Close(); }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The pictures of the guide's first page, of the sample skin Aurora.
 #include <QDir>
-#include <QDirIterator>
 
 #include "pictures.h"
 
@@ -117,8 +116,7 @@ void TakeRecoloured(Desktop& desktop, Camera& camera, Editor& editor) {
     const QString skin = editor.Skins() + "Aurora/", file = desktop.Home() + "/recoloured.png";
     QList<QImage> pictures;
     const auto render = [&] {
-        Run(desktop, {"render", skin, "--layout", "Standard", "--out", file, "--view", "preview", "--time",
-                      "21:15:00"});
+        Run(desktop, {"render", skin, "--layout", "Standard", "--out", file, "--view", "preview"});
         pictures += QImage(file);
     };
     render();
@@ -131,9 +129,25 @@ void TakeRecoloured(Desktop& desktop, Camera& camera, Editor& editor) {
     camera.KeepBeside("recoloured", pictures, 52);
 }
 
+/// The sample where the program looks for it, with a clock that stands still.
+void PutSkin(const Desktop& desktop) {
+    const QString skin = desktop.Home() + "/ornavo/Skins/Aurora/";
+    QDir().mkpath(skin);
+    for (const QFileInfo& file : QDir(ORNAVO_SOURCE_DIR "/skins/Aurora").entryInfoList(QDir::Files))
+        QFile::copy(file.filePath(), skin + file.fileName());
+    QFile settings(skin + "SkinSettings.xml");
+    settings.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    if (!settings.open(QIODevice::ReadWrite)) throw std::runtime_error("can't write the sample skin");
+    const QByteArray text = settings.readAll().replace(
+        "<InfoType>17</InfoType>", "<InfoType>0</InfoType>\r\n<InfoField>21:15:00</InfoField>");
+    settings.seek(0);
+    settings.write(text);
+}
+
 }  // namespace
 
 void TakeGuide(Desktop& desktop, Camera& camera) {
+    PutSkin(desktop);
     Editor editor(desktop, {"Aurora"});
     editor.Arrange();
     editor.Click(PlayButton);
