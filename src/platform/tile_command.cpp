@@ -105,7 +105,11 @@ QRect TileCommand::PaintPicture(QPainter& painter, const QRect& area) const {
         place.moveTopLeft({area.left(), area.top() + (area.height() - pictureSize_) / 2});
         rest.setLeft(place.right() + 1 + Gap);
     }
-    picture_.paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    // An icon never grows: what is to be larger is taken from the file for twice the pixels.
+    const bool grown = picture_.actualSize(place.size()) != place.size();
+    const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(place, picture_.pixmap(place.size(), grown ? 2 : devicePixelRatioF(), mode));
     return rest;
 }
 
