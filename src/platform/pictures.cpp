@@ -193,8 +193,8 @@ QImage LoadThumbnail(const fs::path& path, const QSize& most) {
     if (!StampOf(path, stamp)) return {};
     QImageReader reader(FileName(path));
     PrepareReader(reader);
-    const QSize size = reader.size();
-    if (!size.isValid() || PixelsOf(size) > ThumbnailPixelLimit) return {};
+    const QSize size = SizeOf(reader, path);
+    if (!size.isValid() || !Fits(size) || PixelsOf(size) > ThumbnailPixelLimit) return {};
     const PictureMemory memory = PictureMemory::Take(PixelsOf(size));
     if (!memory) return {};
     if (size.width() > most.width() || size.height() > most.height())

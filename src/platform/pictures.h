@@ -13,8 +13,7 @@ namespace ornavo {
 inline constexpr std::int64_t PicturePixelLimit = 64'000'000;              // of one picture
 inline constexpr int PictureSideLimit = 16'384;                            // pixels
 inline constexpr std::int64_t PictureByteLimit = std::int64_t{512} << 20;  // of all pictures in use together
-
-inline constexpr std::int64_t ThumbnailPixelLimit = 16'000'000;  // of one picture
+inline constexpr std::int64_t ThumbnailPixelLimit = 16'000'000;            // of one picture
 
 /// A decoded picture. Two Pictures are the same when they are the same object: LoadPicture gives the same one
 /// again while file, size and time are unchanged and somebody holds it or the cache keeps it.

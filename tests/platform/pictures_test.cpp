@@ -92,6 +92,7 @@ TEST_F(Pictures, ACanvasCountsWhereFramesAreSmaller) {
         return With(SmallGif(frames), 6, {width & 0xFF, width >> 8, height & 0xFF, height >> 8});
     };
     EXPECT_FALSE(Load(canvas(1, 8192, 8192)));
+    EXPECT_TRUE(LoadThumbnail(folder.Write("tile.gif", canvas(1, 5000, 5000)), {10, 10}).isNull());
     EXPECT_FALSE(IsAnimatedGIF(folder.Write("large.gif", canvas(2, 8192, 8192))));
     EXPECT_FALSE(IsAnimatedGIF(folder.Write("long.gif", canvas(2, 16385, 1))));
     EXPECT_TRUE(IsAnimatedGIF(folder.Write("fits.gif", canvas(2, 1000, 1000))));
