@@ -23,8 +23,8 @@ inline bool LayoutIsOpen() {
 std::string GetSkinPicturePath(std::string_view name);
 /// The places where the picture may lie while a skin is the current one, the best first.
 std::vector<std::string> PicturePlaces(std::string_view name, const dbSkin& current);
-/// Where the picture really lies: its path, for a path that leads nowhere its bare name in the skin's folder,
-/// then in the folder of the name that the skin had when it was loaded. Empty if it is nowhere.
+/// Where the picture really lies: its path, for a path that leads nowhere its bare name in the folder of the
+/// name that the skin had when it was loaded, then in the skin's folder. Empty if it is nowhere.
 std::filesystem::path FindSkinPicture(std::string_view name);
 /// The form in which a chosen picture enters the model: bare if it lies in the skin's folder.
 std::string MakeSkinRelative(std::string_view path);

@@ -10,7 +10,6 @@
 #include "base/paths.h"
 
 namespace ornavo {
-
 namespace {
 
 namespace fs = std::filesystem;

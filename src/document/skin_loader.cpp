@@ -189,11 +189,12 @@ std::vector<std::string> Loader::Damage(std::string_view bytes) const {
     std::vector<std::string> damage;
     if (skins_ > 1) damage.emplace_back("It has more than one <Skin>, and the last one counts.");
     if (bytes.find('\0') != std::string_view::npos) damage.emplace_back("It has bytes that are no text.");
+    const bool isLong = damage.size() + lost_.size() > MostDamage;
     for (const bool layouts : {true, false})  // the gravest first
         for (const auto& [name, count] : lost_)
             if (name.starts_with("layout") == layouts && damage.size() < MostDamage)
                 damage.push_back("Lost: " + (count > 1 ? std::to_string(count) + " x " : "") + name);
-    if (damage.size() == MostDamage) damage.emplace_back("There is more.");
+    if (isLong) damage.emplace_back("There is more.");
     if (endsEarly_) damage.emplace_back("It ends early: a tag is not closed.");
     return damage;
 }
