@@ -12,9 +12,8 @@ constexpr int Patience = 400;  // milliseconds
 
 }  // namespace
 
-Asker::~Asker() {
-    if (!window_ || !window_->isVisible()) return;
-    QWidget* window = window_;
+void GiveKeyboardTo(QWidget* window) {
+    if (!window || !window->isVisible()) return;
     window->activateWindow();
     // A desktop that sees the box go only later gives the keyboard to another window then.
     auto* watch = new QObject(window);

@@ -29,7 +29,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent*) override;
-    void hideEvent(QHideEvent*) override { const Asker asker(parentWidget()); }
+    void hideEvent(QHideEvent*) override { GiveKeyboardTo(parentWidget()); }
 
 private:
     void Form_Load();
