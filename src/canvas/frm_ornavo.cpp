@@ -14,6 +14,7 @@
 #include "canvas/view_settings.h"
 #include "canvas/window_menu.h"
 #include "document/current_skin.h"
+#include "editor/open_skin.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "editor/skin_drop.h"
@@ -26,7 +27,6 @@ namespace {
 
 constexpr int SelectorInterval = 500, ResizerInterval = 200, ShowPropertiesInterval = 500;  // milliseconds
 constexpr int LeastTwips = 9000;  // the window's least width and height, outside
-constexpr const char* LoadingError = "Loading Skin Error";
 
 bool SkinIsOpen() {
     return objSkin && objCurrentLayout && !objSkin->SkinName.empty();

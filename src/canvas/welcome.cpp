@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 
 #include "base/paths.h"
-#include "editor/skin_drop.h"
+#include "editor/open_skin.h"
 #include "editor/windows.h"
 
 namespace ornavo {

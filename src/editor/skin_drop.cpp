@@ -5,14 +5,12 @@
 #include <QMimeData>
 #include <QUrl>
 #include <QWidget>
-#include <exception>
 #include <string>
 
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
-#include "editor/windows.h"
-#include "platform/prompts.h"
+#include "editor/open_skin.h"
 
 namespace ornavo {
 namespace {
@@ -33,14 +31,6 @@ std::string DroppedSkin(const QDropEvent& event) {
 }
 
 }  // namespace
-
-void OpenSkin(Windows& windows, const std::string& path) {
-    try {
-        windows.LoadDebug(path);
-    } catch (const std::exception& failure) {
-        prompts().Message(failure.what(), "Loading Skin Error", Icon::Critical, Buttons::Ok);
-    }
-}
 
 SkinDrop::SkinDrop(QWidget& window, Windows& windows) : QObject(&window), windows_(windows) {
     window.setAcceptDrops(true);

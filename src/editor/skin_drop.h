@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: MIT
-// A skin's folder or its settings file dropped on a window opens the skin, as other gestures do. Nothing else is
-// taken.
+// A skin's folder or its settings file dropped on a window opens the skin. Nothing else is taken.
 #pragma once
 
 #include <QObject>
-#include <string>
 
 class QWidget;
 
 namespace ornavo {
 
 class Windows;
-
-/// Opens the skin of that path. One that can't be opened is told.
-void OpenSkin(Windows& windows, const std::string& path);
 
 /// Lives as long as the window. A skin that can't be opened is told.
 class SkinDrop : public QObject {

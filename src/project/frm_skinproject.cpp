@@ -10,6 +10,7 @@
 #include "base/failure.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "editor/open_skin.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "editor/skin_drop.h"
@@ -193,7 +194,7 @@ void frm_SkinProject::btn_OpenSkin_Click() {
     try {
         LoadDebug(*place);
     } catch (const Failure& failure) {
-        prompts().Message(failure.description(), "Loading Skin Error", Icon::Critical, Buttons::Ok);
+        prompts().Message(failure.description(), LoadingError, Icon::Critical, Buttons::Ok);
     }
 }
 
