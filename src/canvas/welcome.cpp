@@ -58,6 +58,7 @@ WelcomeCard::WelcomeCard(QWidget& canvas, Windows& windows)
 }
 
 void WelcomeCard::Show(const std::string& skin, bool found) {
+    if (!isHidden() && lbl_Title.text() == TitleOf(skin, found)) return Place();  // composed again
     QFont large = font();
     large.setPixelSize(QFontInfo(large).pixelSize() * 3 / 2);
     large.setBold(true);
