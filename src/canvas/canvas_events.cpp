@@ -117,13 +117,13 @@ void CanvasEvents::DblClick(Control& control, const Mouse& mouse) {
 
 bool CanvasEvents::Form_MouseDown(int x, int y) {
     const int side = objCurrentLayout ? LineUnderPointer(x, y) : 0;
-    bool inserted = false;
     if (side == 0) {
         parts_.anchors.ResetSelection();
-    } else {
-        Attempt([&] { inserted = AddShapePoint(parts_, side, x, y, false); });
-        parts_.showGrid();
+        return false;
     }
+    bool inserted = false;
+    Attempt([&] { inserted = AddShapePoint(parts_, side, x, y, false); });
+    parts_.showGrid();
     return inserted;
 }
 

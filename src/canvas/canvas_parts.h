@@ -34,8 +34,8 @@ struct CanvasParts {
     Windows& windows;
     DragState& drag;
     QTimer& tmrShowProperties;
-    std::function<void()> showGrid;                     // paints the surface anew
-    std::function<void(bool isOpen)> layoutShown = {};  // after each composition: whether it had a layout
+    std::function<void()> showGrid;       // paints the surface anew
+    std::function<void()> composed = {};  // after each composition, where somebody wants to hear of it
 };
 
 }  // namespace ornavo

@@ -145,7 +145,7 @@ void frm_Ornavo::UpdateCurrentLayout() {
     ComposeLayout(*this, objCurrentLayout, objSkin->SkinWidth, objSkin->SkinHeight);
     anchors_.FollowSelection(host_, points_);
     ShowWelcome();
-    if (parts_.layoutShown) parts_.layoutShown(LayoutIsOpen());
+    if (parts_.composed) parts_.composed();
 }
 
 bool frm_Ornavo::BeginPreview() {

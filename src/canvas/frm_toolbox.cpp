@@ -77,19 +77,19 @@ frm_Toolbox::frm_Toolbox(CanvasParts& parts) : Form(&parts.form, "frm_Toolbox", 
                             "Show the screen about the pointer enlarged, or no longer");
     Arrange();
     Connect();
-    EnableAdders(LayoutIsOpen());
-    parts_.layoutShown = [this](bool isOpen) { EnableAdders(isOpen); };
+    EnableAdders();
+    parts_.composed = [this] { EnableAdders(); };
 }
 
 // A box that has the focus is left now, while there is still somebody to hear of it.
 frm_Toolbox::~frm_Toolbox() {
     hide();
-    parts_.layoutShown = nullptr;
+    parts_.composed = nullptr;
 }
 
-void frm_Toolbox::EnableAdders(bool enabled) {
+void frm_Toolbox::EnableAdders() {
     for (TileCommand* command : {btn_AddButton, btn_AddGraphic, btn_AddVolume, btn_AddInfo})
-        command->setEnabled(enabled);
+        command->setEnabled(LayoutIsOpen());
 }
 
 TileCommand* frm_Toolbox::Command(const char* name, const char* caption, const char* picture, int size,

@@ -40,7 +40,7 @@ private:
     QCheckBox* Check(const char* name, const char* caption, const char* tip);
     QLineEdit* Spacing(const char* name, const char* says);
     void Arrange();
-    void EnableAdders(bool enabled);
+    void EnableAdders();  // as long as there is a layout to add to
     void Connect();
     void Form_Load();
     void Switch(QCheckBox* box, bool& viewSwitch, void (frm_Toolbox::*refresh)());
