@@ -33,16 +33,13 @@ ClearPixels::ClearPixels(const std::uint8_t* words, int Width, int Height, std::
             std::uint32_t word = 0;
             std::memcpy(&word, words + y * bytesPerRow + std::ptrdiff_t{x} * 4, sizeof word);
             clear_.push_back(word >> 24 < ClearBelow);
+            any_ = any_ || clear_.back();
         }
-}
-
-bool ClearPixels::Any() const {
-    return std::find(clear_.begin(), clear_.end(), true) != clear_.end();
 }
 
 void ClearPixels::AddColour(const cDIBSection& picture, std::uint32_t colour) {
     ForEach(picture, [&](const std::uint8_t* pixel, std::size_t number) {
-        if (ColourOf(pixel) == colour) clear_[number] = true;
+        if (ColourOf(pixel) == colour) any_ = clear_[number] = true;
     });
 }
 

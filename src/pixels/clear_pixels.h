@@ -17,7 +17,7 @@ public:
     /// Those of 32-bit words 0xAA?????? whose alpha is below 128; the words lie as in CreateFromPicture.
     ClearPixels(const std::uint8_t* words, int Width, int Height, std::ptrdiff_t bytesPerRow);
 
-    bool Any() const;
+    bool Any() const { return any_; }
     bool AtTopLeft() const { return !clear_.empty() && clear_.front(); }
     void AddColour(const cDIBSection& picture, std::uint32_t colour);  // all pixels of it
     void Paint(cDIBSection& picture, std::uint32_t colour) const;
@@ -26,6 +26,7 @@ public:
 
 private:
     std::vector<bool> clear_;  // row by row from the top left
+    bool any_ = false;
 };
 
 /// Black without a picture.
