@@ -14,8 +14,6 @@
 namespace ornavo {
 namespace {
 
-constexpr const char* SettingsFile = "SkinSettings.xml";
-
 bool ReadWhole(std::string_view text, int most, int& number) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size() && number >= 1 && number <= most;
@@ -38,8 +36,8 @@ std::string FolderOf(const std::string& skin) {
         return WithSeparator(ToText(OnDisk(skins + skin)));
     }
     std::string path = ToText(std::filesystem::absolute(OnDisk(skin)).lexically_normal());
-    return EqualText(GetFileName(path), SettingsFile) && !FolderExists(path) ? GetParentFolderName(path)
-                                                                             : WithSeparator(path);
+    return EqualText(GetFileName(path), SettingsFileName) && !FolderExists(path) ? GetParentFolderName(path)
+                                                                                 : WithSeparator(path);
 }
 
 }  // namespace
@@ -61,13 +59,14 @@ std::string Arguments::Need(const std::string& name) const {
 void OpenNamedSkin(const Arguments& arguments, bool upgraded) {
     if (arguments.skin.empty()) throw UsageError("name one skin");
     const std::string folder = FolderOf(arguments.skin);
+    const std::string file = folder + std::string(SettingsFileName);
     const std::string bare = folder.substr(0, folder.size() - 1);
     objSkin = std::make_shared<dbSkin>();
     objCurrentLayout = std::make_shared<dbLayout>();
     objSkin->SetBasePath(GetParentFolderName(bare));
     objSkin->SkinName = GetFileName(bare);
-    if (!objSkin->LoadSkin()) throw Failure(53, "Skin", folder + SettingsFile + " not found!");
-    for (const std::string& line : objSkin->Damage) Tell(folder + SettingsFile + " is damaged: " + line);
+    if (!objSkin->LoadSkin()) throw Failure(53, "Skin", file + " not found!");
+    for (const std::string& line : objSkin->Damage) Tell(file + " is damaged: " + line);
     if (upgraded) objSkin->SetupSkinPrefs();
 }
 

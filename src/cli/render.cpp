@@ -4,7 +4,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <cstdio>
 
 #include "cli/open_skin.h"
 #include "platform/clock.h"
@@ -25,7 +24,7 @@ public:
     ConsolePrompts() { UsePrompts(this); }
     ~ConsolePrompts() override { UsePrompts(nullptr); }
     Answer Message(std::string_view text, std::string_view, Icon, Buttons) override {
-        std::fprintf(stderr, "ornavo-cli: %.*s\n", static_cast<int>(text.size()), text.data());
+        Tell(std::string(text));
         return Answer::Ok;
     }
     std::optional<std::string> Input(std::string_view, std::string_view, std::string_view) override {
@@ -104,15 +103,17 @@ bool OneOf(const Arguments& arguments, const std::string& name, const std::strin
     return value == first;
 }
 
+std::string Words(const Size& size) {
+    return std::to_string(size.width) + " x " + std::to_string(size.height);
+}
+
 /// A skin that is larger than a window can be is drawn as large as that, and it is told.
 Size SizeToDraw(const Arguments& arguments) {
     const Size whole = NamedSize(arguments, MostWindowPixels);
     if (whole.width < 1 || whole.height < 1)
         throw Failure(5, "Render", "The skin has no size; give one with --size.");
     const Size size = {std::min(whole.width, MostWindowPixels), std::min(whole.height, MostWindowPixels)};
-    if (size != whole)
-        std::fprintf(stderr, "ornavo-cli: the skin is %d x %d pixels; it is composed at %d x %d\n",
-                     whole.width, whole.height, size.width, size.height);
+    if (size != whole) Tell("the skin is " + Words(whole) + " pixels; it is composed at " + Words(size));
     return size;
 }
 
