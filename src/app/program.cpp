@@ -3,6 +3,7 @@
 
 #include "base/paths.h"
 #include "editor/selection.h"
+#include "editor/settings_keys.h"
 #include "picture/frm_pictureeditor.h"
 #include "platform/asker.h"
 #include "platform/panel_scale.h"
@@ -25,7 +26,7 @@ Program::Program(std::string version, const std::string& ownFolder, const std::s
               {"Properties", [this] { return properties().IsShown(); }, [this] { ToggleProperties(); }},
               {"Magnifier", [this] { return magnifier_ && magnifier_->isVisible(); },
                [this] { ToggleMagnifier(); }}};
-    tools_.Add(project_, "SkinProject");
+    tools_.Add(project_, settings::SkinProjectLeft.section);
 }
 
 Program::~Program() {
@@ -77,7 +78,7 @@ void Program::ShowToolbox() {
     if (toolboxWaits_) return;
     if (!toolbox_) {
         toolbox_ = std::make_unique<frm_Toolbox>(main_.parts());
-        tools_.Add(*toolbox_, "Toolbox");
+        tools_.Add(*toolbox_, settings::ToolboxLeft.section);
     }
     toolbox_->Open();
 }
@@ -85,7 +86,7 @@ void Program::ShowToolbox() {
 PropertiesPanel& Program::properties() {
     if (!properties_) {
         properties_ = std::make_unique<frm_Properties>(&main_, *this, main_);
-        tools_.Add(*properties_, "Properties", PanelScale(main_)(UsualSheetHeight));
+        tools_.Add(*properties_, settings::PropertiesLeft.section, PanelScale(main_)(UsualSheetHeight));
         ArrangeTools();
     }
     return *properties_;
