@@ -83,14 +83,14 @@ void SkinFiles::Replace(dbSkinRef skin) {
     RememberText();
 }
 
-void SkinFiles::Open(const SkinPlace& place, const std::function<void()>& beforeIt) {
+void SkinFiles::Open(const SkinPlace& place, const std::function<void()>& beforeReplacing) {
     auto skin = std::make_shared<dbSkin>();
     skin->SetBasePath(place.basePath);
     skin->SkinName = place.skinName;
     const fs::path home = FolderOf(*skin);
     skin->LoadSkin();
     skin->SetupSkinPrefs();
-    beforeIt();
+    beforeReplacing();
     Replace(std::move(skin));
     home_ = home;
 }

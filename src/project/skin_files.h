@@ -40,9 +40,9 @@ public:
     std::optional<SkinPlace> AskForSkin();
     /// Replaces the current skin by the one at the place, and the current layout by an empty one. A skin
     /// without a file is opened empty. Failure where its file can't be read; then all stays as it was.
-    /// `beforeIt` runs when the file has been read and the old skin is still the current one.
+    /// `beforeReplacing` runs when the file has been read and the old skin is still the current one.
     void Open(
-        const SkinPlace& place, const std::function<void()>& beforeIt = [] {});
+        const SkinPlace& place, const std::function<void()>& beforeReplacing = [] {});
     /// Replaces the current skin by a new one of that size in pixels, which lies under "Skins" once it is
     /// saved. It has the layouts "Admin-Mode" and "Kiosk-Mode".
     void Create(std::string_view name, std::int32_t width, std::int32_t height);

@@ -17,9 +17,8 @@ namespace {
 
 constexpr const char* PictureTitle = "Open Picture";
 constexpr const char* PictureFilter =
-    "All Pictures|*.jpg;*.jpeg;*.bmp;*.gif;*.png|JPEG (*.jpg)|*.jpg;*.jpeg|Bitmap (*.bmp)|*.bmp|GIF "
-    "(*.gif)|*.gif|"
-    "PNG (*.png)|*.png";
+    "All Pictures|*.jpg;*.jpeg;*.bmp;*.gif;*.png|JPEG (*.jpg)|*.jpg;*.jpeg|"
+    "Bitmap (*.bmp)|*.bmp|GIF (*.gif)|*.gif|PNG (*.png)|*.png";
 
 void ChooseColour(RowText& box) {
     Colour colour = 0;

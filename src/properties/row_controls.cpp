@@ -30,8 +30,7 @@ bool IsDark(const QColor& colour) {
     return qGray(colour.rgb()) < 128;
 }
 
-/// A screen reader has a row's caption as the name of its value, and doesn't read it
-/// twice.
+/// A screen reader has a row's caption as the name of its value, and doesn't read it twice.
 class AccessibleLabel : public QAccessibleWidget {
 public:
     explicit AccessibleLabel(RowLabel* label) : QAccessibleWidget(label, QAccessible::StaticText) {}
