@@ -28,14 +28,6 @@ void Editor::ClickSkinProperties() {
     desktop_.Click(panel.bottomLeft() + QPoint(panel.width() / 2, -65));
 }
 
-void Editor::CreateSkin(const QString& name, const QSize& size) {
-    ClickProject(1);
-    desktop_.WaitForFocus("Create new Skin");
-    desktop_.Type(QString("%1\t%2\t%3").arg(name).arg(size.width()).arg(size.height()));
-    desktop_.Key({"Return"});
-    desktop_.WaitUntilGone("^Create new Skin$");
-}
-
 void Editor::Arrange() {
     toolbox_ = desktop_.Window("^Toolbox$");
     desktop_.Place(main_, CanvasPlace);

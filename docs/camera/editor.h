@@ -17,7 +17,6 @@ public:
     /// The button of that number on Skin Project, from 0: open, create, save.
     void ClickProject(int button);
     void ClickSkinProperties();
-    void CreateSkin(const QString& name, const QSize& size);
     /// The toolbox below Skin Project, the canvas beside them.
     void Arrange();
     void Add(Kind kind);

@@ -237,10 +237,10 @@ protected:
     }
 
     QPoint OnScreen(Place at) const { return canvas_.topLeft() + QPoint(at.x, at.y); }
-    /// What of the box lies on the canvas has the colour.
     static Box Inside(const Box& frame) {
         return {frame.left + 1, frame.top + 1, frame.width - 2, frame.height - 2};
     }
+    /// What of the box lies on the canvas has the colour.
     bool Shows(const Box& box, QRgb colour) const {
         const QRect seen = QRect(OnScreen({box.left, box.top}), QSize(box.width, box.height)) & canvas_;
         for (int y = seen.top(); y <= seen.bottom(); ++y)
