@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
-#include "base/paths.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "picture/frm_pictureeditor.h"
-#include "platform/asker.h"
 #include "platform/panel_scale.h"
+#include "project/own_folder.h"
 
 namespace ornavo {
 namespace {
@@ -51,7 +50,7 @@ void Program::LoadDebug(std::string_view skinName) {
 }
 
 std::string Program::SkinsFolder() const {
-    return WithSeparator(ownFolder_) + "Skins";
+    return ornavo::SkinsFolder(ownFolder_);
 }
 
 void Program::SaveSkin() {
@@ -149,7 +148,6 @@ bool Program::EditPicture(const std::string& finalName, std::string& path) {
     frm_PictureEditor editor(&main_);
     editor.SetFinalName(finalName);
     editor.SetEditPicture(path);
-    const Asker asker(QApplication::activeWindow());
     editor.ShowModal();
     if (editor.IsCanceled()) return false;
     path = editor.EditPicture();

@@ -28,6 +28,10 @@ fs::path OwnFolder(const fs::path& executableFolder, const fs::path& dataFolder)
     return fs::is_directory(skins, ignored) && CanWrite(skins) ? executableFolder : dataFolder;
 }
 
+std::string SkinsFolder(std::string_view ownFolder) {
+    return WithSeparator(ownFolder) + "Skins";
+}
+
 fs::path SampleFolder(const fs::path& executableFolder) {
     for (const char* candidate : {"../share/ornavo/skins", "../skins"}) {
         const fs::path folder = executableFolder / candidate;

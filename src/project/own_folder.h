@@ -3,6 +3,8 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <string_view>
 
 namespace ornavo {
 
@@ -10,6 +12,9 @@ namespace ornavo {
 /// otherwise the user's data folder.
 std::filesystem::path OwnFolder(const std::filesystem::path& executableFolder,
                                 const std::filesystem::path& dataFolder);
+
+/// Of the user's skins, in the own folder; without a separator at its end.
+std::string SkinsFolder(std::string_view ownFolder);
 
 /// Where the sample skins are installed beside an executable: in its share folder, or in the source tree of a
 /// build. Empty if they are nowhere.

@@ -13,6 +13,7 @@
 #include "document/skin_packaging.h"
 #include "platform/clock.h"
 #include "platform/screen.h"
+#include "project/own_folder.h"
 
 namespace ornavo {
 namespace {
@@ -42,8 +43,7 @@ bool Agreed(const std::string& question) {
 }  // namespace
 
 SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder) {
-    if (!ContainsSeparator(text))
-        return {WithSeparator(WithSeparator(ownFolder) + "Skins"), std::string(text)};
+    if (!ContainsSeparator(text)) return {WithSeparator(SkinsFolder(ownFolder)), std::string(text)};
     std::error_code error;
     const fs::path whole = fs::absolute(OnDisk(text), error);
     if (error)
@@ -62,7 +62,7 @@ bool HoldsSkin(const SkinPlace& place) {
 SkinFiles::SkinFiles(std::string ownFolder, std::string dataFolder)
     : ownFolder_(std::move(ownFolder)),
       dataFolder_(std::move(dataFolder)),
-      lastParent_(WithSeparator(ownFolder_) + "Skins") {
+      lastParent_(SkinsFolder(ownFolder_)) {
     RememberText();
 }
 
@@ -97,7 +97,7 @@ void SkinFiles::Open(const SkinPlace& place, const std::function<void()>& before
 
 void SkinFiles::Create(std::string_view name, std::int32_t width, std::int32_t height) {
     auto skin = std::make_shared<dbSkin>();
-    skin->SetBasePath(WithSeparator(ownFolder_) + "Skins");
+    skin->SetBasePath(SkinsFolder(ownFolder_));
     skin->SkinName = name;
     skin->SkinWidth = width;
     skin->SkinHeight = height;

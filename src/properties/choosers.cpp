@@ -9,6 +9,7 @@
 #include "dialogs/ccommondialog.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
+#include "platform/asker.h"
 #include "properties/live_update.h"
 #include "properties/panel_parts.h"
 
@@ -55,15 +56,10 @@ void ChooseFont(PanelParts& parts, RowText& box) {
 
 void ChoosePicture(PanelParts& parts, RowText& box) {
     std::string path, title;
-    const std::string& folder = parts.lastPictures.empty() ? objSkin->SkinFolder() : parts.lastPictures;
+    const std::string folder = parts.lastPictures.empty() ? objSkin->SkinFolder() : parts.lastPictures;
     if (!cCommonDialog().VBGetOpenFileName(path, title, {PictureFilter, folder, PictureTitle, {}})) return;
     parts.lastPictures = GetParentFolderName(path);
     box.SetText(MakeSkinRelative(path));
-}
-
-/// A desktop that doesn't count a tool window among its windows gives the focus to the main one instead.
-void TakeFocusBack(RowText& box) {
-    box.window()->activateWindow();
 }
 
 RowText& BoxOf(PanelParts& parts, const ButtonTag& tag) {
@@ -80,7 +76,7 @@ void btn_Prop_Click(PanelParts& parts, int index) {
     if (tag.kind == KindColour) ChooseColour(box);
     if (tag.kind == KindFont) ChooseFont(parts, box);
     if (tag.kind == KindPicture) ChoosePicture(parts, box);
-    TakeFocusBack(box);
+    GiveKeyboardTo(box.window());
 }
 
 void btn_PicEdit_Click(PanelParts& parts, int index) {
@@ -88,7 +84,7 @@ void btn_PicEdit_Click(PanelParts& parts, int index) {
     std::string path = box.Text();
     if (TrimBlanks(path).empty()) return;
     const bool edited = parts.windows.EditPicture(GetBaseName(path), path);
-    TakeFocusBack(box);
+    GiveKeyboardTo(box.window());
     if (!edited) return;
     box.SetText(GetFileName(path));
     UpdateCurrentLayout(parts);
