@@ -13,6 +13,7 @@
 
 #include "platform/fonts.h"
 #include "platform/panel_scale.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
@@ -25,10 +26,6 @@ constexpr int SizeWidth = 64, SampleHeight = 90;  // pixels
 // The faces that every jukebox has.
 constexpr const char* UsualFaces[] = {"Arial",           "Courier New", "MS Sans Serif", "Symbol",   "Tahoma",
                                       "Times New Roman", "Verdana",     "Webdings",      "Wingdings"};
-
-QString Shown(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 /// A face that several foundries make is listed once for each, as "P052 [urw]"; a font has the name alone.
 QString WithoutFoundry(const QString& face) {

@@ -14,6 +14,7 @@
 #include "dialogs/font_dialog.h"
 #include "platform/asker.h"
 #include "platform/control.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
@@ -60,10 +61,6 @@ QMessageBox::StandardButtons BoxButtons(Buttons buttons) {
 Answer Dismissed(Buttons buttons) {
     if (buttons == Buttons::Ok) return Answer::Ok;
     return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
-}
-
-QString Shown(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 /// The folder, or the nearest one above it that is there.

@@ -20,6 +20,7 @@
 #include "picture/presets.h"
 #include "platform/panel_scale.h"
 #include "platform/prompts.h"
+#include "platform/shown.h"
 #include "render/skin_picture.h"
 
 namespace ornavo {
@@ -60,10 +61,6 @@ std::string Trimmed(const QLineEdit& box) {
 
 std::string Quoted(const std::string& text) {
     return std::string("\"").append(text).append("\"");
-}
-
-QString Shown(const std::string& text) {
-    return QString::fromStdString(text);
 }
 
 /// In the middle of its owner, as large as usual where the screen has room.

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/control.h"
 
-#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QTextDocument>
 #include <algorithm>
 #include <array>
 
 #include "base/failure.h"
+#include "platform/accessible.h"
 
 namespace ornavo {
 namespace {
@@ -50,17 +50,11 @@ private:
     const Control& Told() const { return *static_cast<Control*>(widget()); }
 };
 
-QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
-    auto* control = dynamic_cast<Control*>(object);
-    return control ? new AccessibleControl(control) : nullptr;
-}
-
 }  // namespace
 
 Control::Control(QWidget* parent, std::string name, int index)
     : QWidget(parent), Name(std::move(name)), Index(index) {
-    static const bool told = (QAccessible::installFactory(MakeAccessible), true);
-    static_cast<void>(told);
+    TellReaders<Control, AccessibleControl>();
     setObjectName(QString::fromStdString(Name));
     setMouseTracking(true);
 }

@@ -10,6 +10,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "platform/shown.h"
 #include "platform/symbol_fonts.h"
 
 namespace ornavo {
@@ -113,7 +114,7 @@ QFont ScreenFont(const Font& font) {
 }
 
 QString ShownText(const Font& font, std::string_view text) {
-    const QString plain = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const QString plain = Shown(text);
     const std::string face = FaceOf(font.Name);
     return IsSymbolFont(face) ? SymbolText(face, plain) : plain;
 }

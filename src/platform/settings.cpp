@@ -11,6 +11,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
@@ -47,10 +48,6 @@ QString StandardFile() {
 QSettings& Store() {
     if (!store) UseSettingsFile(StandardFile());
     return *store;
-}
-
-QString Shown(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 /// One level of a path in the store. Separators would make more of it, and an empty one would vanish.

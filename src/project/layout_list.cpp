@@ -9,14 +9,17 @@
 
 #include "base/failure.h"
 #include "base/text.h"
+#include "platform/control.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
 
 constexpr int KeyRole = Qt::UserRole;
 
-QString Shown(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+void ShowName(QTreeWidgetItem& item, std::string_view name) {
+    item.setText(0, Shown(name));
+    item.setToolTip(0, PlainTip(Shown(name)));
 }
 
 }  // namespace
@@ -55,8 +58,7 @@ LayoutList::LayoutList(QWidget* parent) : QTreeWidget(parent) {
 QTreeWidgetItem* LayoutList::MakeItem(int position, std::string_view key, std::string_view name) {
     auto* item = new QTreeWidgetItem;
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
-    item->setText(0, Shown(name));
-    item->setToolTip(0, Shown(name));
+    ShowName(*item, name);
     item->setData(0, KeyRole, Shown(key));
     insertTopLevelItem(position, item);
     return item;
@@ -92,10 +94,7 @@ void LayoutList::Remove(std::string_view key) {
 }
 
 void LayoutList::Rename(std::string_view key, std::string_view name) {
-    if (QTreeWidgetItem* item = Find(key)) {
-        item->setText(0, Shown(name));
-        item->setToolTip(0, Shown(name));
-    }
+    if (QTreeWidgetItem* item = Find(key)) ShowName(*item, name);
 }
 
 std::string LayoutList::SelectedKey() const {

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "properties/row_controls.h"
 
-#include <QAccessibleWidget>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QValidator>
 #include <QWheelEvent>
 
 #include "base/failure.h"
+#include "platform/accessible.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
@@ -47,16 +48,10 @@ private:
     const RowLabel& Label() const { return *static_cast<RowLabel*>(widget()); }
 };
 
-QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
-    auto* label = dynamic_cast<RowLabel*>(object);
-    return label ? new AccessibleLabel(label) : nullptr;
-}
-
 }  // namespace
 
 RowLabel::RowLabel(QWidget* sheet, int index) : QLabel(sheet), Index(index) {
-    static const bool told = (QAccessible::installFactory(MakeAccessible), true);
-    static_cast<void>(told);
+    TellReaders<RowLabel, AccessibleLabel>();
     setObjectName(QStringLiteral("lbl_Prop"));
     setTextFormat(Qt::PlainText);
     setAutoFillBackground(true);
@@ -85,7 +80,7 @@ RowText::RowText(QWidget* sheet, int index) : QLineEdit(sheet), Index(index) {
 }
 
 void RowText::SetText(std::string_view text) {
-    setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    setText(Shown(text));
     setCursorPosition(0);
 }
 

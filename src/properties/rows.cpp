@@ -6,6 +6,7 @@
 #include "base/failure.h"
 #include "base/paths.h"
 #include "document/current_skin.h"
+#include "platform/shown.h"
 #include "properties/row_binding.h"
 
 namespace ornavo {
@@ -15,10 +16,6 @@ constexpr int ValueOverhang = 20;
 constexpr QSize CheckSize = {12, 12};
 constexpr int ComboLeft = -2, ComboLack = 16, ComboHeight = 24;  // in its frame; less wide than a value
 constexpr const char* Undefined = "<undefined>";
-
-QString Shown(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// Where the picture of that name lies.
 QString PicturePath(std::string_view name) {
