@@ -35,14 +35,6 @@ constexpr List Lists[] = {
     {KindVertical, VerticalNames},
 };
 
-}  // namespace
-
-QString LineOf(const dbLayoutElement& element) {
-    return Shown(element.ElementName) + QLatin1String(element.Visible ? "" : " (hidden)");
-}
-
-namespace {
-
 /// The elements of the current layout, and the position of the one with the key.
 int FillElements(QStringList& items, const std::string& key) {
     int chosen = -1;
@@ -54,6 +46,10 @@ int FillElements(QStringList& items, const std::string& key) {
 }
 
 }  // namespace
+
+QString LineOf(const dbLayoutElement& element) {
+    return Shown(element.ElementName) + QLatin1String(element.Visible ? "" : " (hidden)");
+}
 
 Rows::Rows(RowPools& pools, int scaleWidth, const PanelScale& scale)
     : pools_(pools),
