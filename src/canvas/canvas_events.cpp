@@ -57,8 +57,6 @@ const Gesture& GestureOf(const Control& control) {
     return found == Gestures.end() ? None : *found;
 }
 
-constexpr int LeftButton = 1;
-
 QPoint OnScreen(const Control& control, const Mouse& mouse) {
     return control.mapToGlobal(QPoint(mouse.x, mouse.y));
 }

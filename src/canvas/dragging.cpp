@@ -13,8 +13,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int RightButton = 2;
-
 /// The bar's mouse is that of its frame.
 Control& Selectable(CanvasParts& parts, Control& control) {
     return control.Name == "ScrollBar" ? parts.host.Scrollframe : control;

@@ -14,8 +14,6 @@
 namespace ornavo {
 namespace {
 
-enum ButtonCode { LeftButton = 1, RightButton = 2 };
-
 bool SideIsAt(const dbPoints& points, int index, Point at) {
     const dbPoint& from = *points.Item(index);
     const dbPoint& to = *points.Item(index % points.Count() + 1);

@@ -13,8 +13,10 @@ namespace ornavo {
 
 class Control;
 
+enum MouseButton { LeftButton = 1, RightButton = 2 };
+
 struct Mouse {
-    int button = 0;    // 1 left, 2 right, 4 middle; on a move the mask of those held
+    int button = 0;    // MouseButton, or 4 for the middle one; on a move the mask of those held
     int shift = 0;     // 1 Shift, 2 Ctrl, 4 Alt
     int x = 0, y = 0;  // pixels of the control
     int screenX = 0, screenY = 0;

@@ -10,7 +10,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int LeftButton = 1;
 constexpr int VolumePerPixel = 2;
 
 }  // namespace
