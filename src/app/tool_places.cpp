@@ -15,12 +15,6 @@ QRect Outside(const Form& form) {
     return {form.Corner(), QSize(twips.width / TwipsPerPixel, twips.height / TwipsPerPixel)};
 }
 
-/// The corner, moved so that the window is seen whole, or at least its upper left.
-QPoint Within(const QRect& room, const QPoint& corner, const QSize& window) {
-    return {std::max(room.left(), std::min(corner.x(), room.right() + 1 - window.width())),
-            std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - window.height()))};
-}
-
 bool HoldsPlace(const char* section) {
     return !GetSetting(section, "Left", "").empty() || !GetSetting(section, "Top", "").empty();
 }
@@ -48,7 +42,7 @@ void ToolPlaces::Arrange(const Form& main) {
         if (!tool.put) tool.designed = tool.form->Corner();
         const QSize size = Outside(*tool.form).size(), grown = size.expandedTo({0, tool.leastHeight});
         const std::optional<QPoint> beside = PlaceBeside(room, Outside(main), grown, taken);
-        tool.put = beside.value_or(Within(room, tool.designed, size));
+        tool.put = beside.value_or(WithinRoom(room, tool.designed, size));
         tool.form->MoveFrame(*tool.put);
         if (beside) taken.emplace_back(*beside, grown);
     }

@@ -19,6 +19,7 @@
 #include "picture/picture_saving.h"
 #include "picture/presets.h"
 #include "platform/panel_scale.h"
+#include "platform/places.h"
 #include "platform/prompts.h"
 #include "platform/shown.h"
 #include "render/skin_picture.h"
@@ -71,9 +72,7 @@ void PlaceOver(QWidget& window, const QWidget* owner) {
                       .expandedTo(window.minimumSizeHint()));
     QRect place = window.rect();
     place.moveCenter(owner ? owner->frameGeometry().center() : room.center());
-    place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() - place.width())));
-    place.moveTop(std::max(room.top(), std::min(place.top(), room.bottom() - place.height())));
-    window.move(place.topLeft());
+    window.move(WithinRoom(room, place.topLeft(), place.size()));
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/places.h"
+
 namespace ornavo {
 namespace {
 
@@ -39,10 +41,7 @@ bool CanBeGrasped(const QRect& title) {
 QPoint VisibleCorner(QPoint corner, const QSize& outer) {
     const QScreen* first = QGuiApplication::primaryScreen();
     if (!first || CanBeGrasped({corner, QSize(outer.width(), metrics.SM_CYSIZE)})) return corner;
-    const QRect room = first->availableGeometry();
-    const auto within = [](int at, int low, int high) { return std::max(low, std::min(at, high)); };
-    return {within(corner.x(), room.left(), room.right() + 1 - outer.width()),
-            within(corner.y(), room.top(), room.bottom() + 1 - outer.height())};
+    return WithinRoom(first->availableGeometry(), corner, outer);
 }
 
 }  // namespace

@@ -30,4 +30,9 @@ std::optional<QPoint> PlaceBeside(const QRect& room, const QRect& main, const QS
     return std::nullopt;
 }
 
+QPoint WithinRoom(const QRect& room, const QPoint& corner, const QSize& window) {
+    return {std::max(room.left(), std::min(corner.x(), room.right() + 1 - window.width())),
+            std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - window.height()))};
+}
+
 }  // namespace ornavo
