@@ -53,12 +53,18 @@ const char* const SkinText =
 class ToolTest : public ::testing::Test {
 protected:
     ToolTest() {
-        QDir(folder_.path()).mkdir("Blue");
-        QFile file(skin_ + "/SkinSettings.xml");
-        if (file.open(QIODevice::WriteOnly)) file.write(SkinText);
+        qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
+        Write(SkinText);
     }
-    QTemporaryDir folder_;
-    QString skin_ = folder_.filePath("Blue");
+    ~ToolTest() override { qunsetenv("XDG_DATA_HOME"); }
+    void Write(const QByteArray& text) const { Write(skin_ + "/SkinSettings.xml", text); }
+    static void Write(const QString& path, const QByteArray& text) {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+    const QTemporaryDir folder_;
+    const QString skin_ = folder_.filePath("Blue");
 };
 
 TEST_F(ToolTest, DumpTellsTheModelAndChangesNothing) {
@@ -113,12 +119,8 @@ TEST_F(ToolTest, SaveWritesBackAndUnderAnotherName) {
 
 TEST_F(ToolTest, SaveTakesNoOtherSkinsPlaceUnasked) {
     const QString copy = folder_.filePath("Copy"), red = folder_.filePath("Red"), file = "/skinSETTINGS.xml";
-    for (const QString& folder : {copy, red}) {
-        QDir(folder_.path()).mkdir(folder);
-        QFile text(folder + file);
-        ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-        text.write("<Skin>\n<SkinName>Red</SkinName>\n</Skin>\n");
-    }
+    for (const QString& folder : {copy, red})
+        Write(folder + file, "<Skin>\n<SkinName>Red</SkinName>\n</Skin>\n");
     const QByteArray before = Bytes(red + file);
     for (const QStringList& words : {QStringList{"save", copy}, {"save", skin_, "--as", "Red"}}) {
         const Outcome refused = RunTool(words);
@@ -134,32 +136,27 @@ TEST_F(ToolTest, SaveTakesNoOtherSkinsPlaceUnasked) {
 }
 
 TEST_F(ToolTest, SaveTellsWhatIsLost) {
-    qputenv("XDG_DATA_HOME", folder_.path().toUtf8());
-    const auto write = [&](const QByteArray& text) {
-        QFile file(skin_ + "/SkinSettings.xml");
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-    };
     const auto withPicture = [](const QString& path) {
         return QByteArray(SkinText).replace(
             "<Value>G", "<PrefType>5</PrefType>\n<Value>" + path.toUtf8() + "</Value>\n<Caption>G");
     };
-    write(withPicture("gone.png"));
+    Write(withPicture("gone.png"));
     const Outcome dropped = RunTool({"save", skin_});
     EXPECT_EQ(dropped.code, 0);
     EXPECT_TRUE(dropped.err.contains("gone.png is not there")) << dropped.err.toStdString();
     QFile::copy(skin_ + "/SkinSettings.xml", folder_.filePath("a.png"));
     QDir(skin_).mkdir("a.png");
-    write(withPicture(folder_.filePath("a.png")));
+    Write(withPicture(folder_.filePath("a.png")));
     const Outcome uncopied = RunTool({"save", skin_});
     EXPECT_EQ(uncopied.code, 1);
     EXPECT_TRUE(uncopied.err.contains("could not be copied")) << uncopied.err.toStdString();
     const QByteArray torn = QByteArray(SkinText).left(700);
-    write(torn);
+    Write(torn);
     EXPECT_TRUE(RunTool({"dump", skin_}).err.contains("damaged"));
     EXPECT_EQ(RunTool({"save", skin_}).code, 1);
     EXPECT_EQ(Bytes(skin_ + "/SkinSettings.xml"), torn);
     EXPECT_EQ(RunTool({"save", skin_, "--replace"}).code, 0);
-    const QDir recovered(folder_.filePath("ornavo/Recovered"));
+    const QDir recovered(folder_.filePath("data/ornavo/Recovered"));
     ASSERT_EQ(recovered.entryList(QDir::Files).size(), 1);
     EXPECT_EQ(Bytes(recovered.filePath(recovered.entryList(QDir::Files).first())), torn);
 }
@@ -181,10 +178,7 @@ TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
 }
 
 TEST_F(ToolTest, AHugeSkinIsDrawnAsLargeAsAWindow) {
-    QFile file(skin_ + "/SkinSettings.xml");
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(SkinText).replace(">100</SkinWidth", ">900000</SkinWidth"));
-    file.close();
+    Write(QByteArray(SkinText).replace(">100</SkinWidth", ">900000</SkinWidth"));
     const QString out = folder_.filePath("out.png");
     const Outcome drawn = RunTool({"render", skin_, "--layout", "Standard", "--out", out});
     EXPECT_EQ(drawn.code, 0);
@@ -195,14 +189,12 @@ TEST_F(ToolTest, AHugeSkinIsDrawnAsLargeAsAWindow) {
 
 TEST_F(ToolTest, ANameIsThatOfAUsersSkinUnlessSomethingStandsThere) {
     const QString own = folder_.filePath("data/ornavo/Skins");
-    qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
     EXPECT_EQ(RunTool({"dump", "Blue"}).code, 1);
     EXPECT_FALSE(QFile::exists(folder_.filePath("data"))) << "nothing is made";
     ASSERT_TRUE(QDir().mkpath(own) && QDir().rename(skin_, own + "/Blue"));
     EXPECT_EQ(RunTool({"save", "blue"}).out, (own + "/Blue/SkinSettings.xml\n").toUtf8());
     QDir().mkdir(skin_);
     EXPECT_TRUE(RunTool({"dump", "Blue"}, folder_.path()).err.contains(skin_.toUtf8()));
-    qunsetenv("XDG_DATA_HOME");
 }
 
 TEST_F(ToolTest, ExitCodes) {
