@@ -90,7 +90,7 @@ void DragOneStep(benchmark::State& state) {
         QCoreApplication::processEvents();
         way = -way;
     }
-    if (!stage.form().parts().drag.MouseIsDown) state.SkipWithError("the drag has ended");
+    if (!stage.form().parts().drag.MouseIsDown()) state.SkipWithError("the drag has ended");
     Send(control, QEvent::MouseButtonRelease, Press);
 }
 

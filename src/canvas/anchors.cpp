@@ -17,18 +17,18 @@ namespace {
 constexpr QRgb FrameColour = qRgb(40, 36, 32);
 
 struct HandleLook {
-    int pointer;  // of SetMousePointer
+    MousePointer pointer;
     const char* tip;
 };
 constexpr std::array<HandleLook, 8> Looks = {{
-    {8, "Drag to move the top left corner"},
-    {7, "Drag to move the top edge"},
-    {6, "Drag to move the top right corner"},
-    {9, "Drag to move the right edge"},
-    {8, "Drag to move the bottom right corner"},
-    {7, "Drag to move the bottom edge"},
-    {6, "Drag to move the bottom left corner"},
-    {9, "Drag to move the left edge"},
+    {PointerDiagonalDown, "Drag to move the top left corner"},
+    {PointerUpDown, "Drag to move the top edge"},
+    {PointerDiagonalUp, "Drag to move the top right corner"},
+    {PointerLeftRight, "Drag to move the right edge"},
+    {PointerDiagonalDown, "Drag to move the bottom right corner"},
+    {PointerUpDown, "Drag to move the bottom edge"},
+    {PointerDiagonalUp, "Drag to move the bottom left corner"},
+    {PointerLeftRight, "Drag to move the left edge"},
 }};
 
 /// Framed in dark, so that it is seen on any ground.
@@ -85,13 +85,7 @@ Control* Anchors::PlaceAnchors(Control* control, bool keepSelection) {
         SelKey = control->Tag;
         SelControl = control;
     }
-    drag_.IsPlacing = true;
-    const Rect bounds = control->Bounds();
-    const std::array<Point, 8> places = HandlePlaces(bounds);
-    for (std::size_t i = 0; i < Anchor.size(); ++i)
-        Anchor[i]->Move({places[i].x, places[i].y, HandleSize, HandleSize});
-    Mover.Move(bounds);
-    drag_.IsPlacing = false;
+    Surround(control->Bounds());
     RaiseHandles();
     if (keepSelection) return control;
     ShowHandles(true);
@@ -120,8 +114,7 @@ void Anchors::HideSelectionTools() {
     SelControl = nullptr;
     SelKey.clear();
     // A hidden control hears of no release.
-    drag_.MouseIsDown = false;
-    drag_.DragKind = DragNone;
+    drag_.End();
 }
 
 void Anchors::FollowSelection(LayoutHost& host, ShapePoints& points) {
@@ -133,6 +126,14 @@ void Anchors::FollowSelection(LayoutHost& host, ShapePoints& points) {
     if (found != SelControl) PutCornerColour(SelControl);
     SelControl = found;
     RaiseHandles();
+}
+
+void Anchors::Surround(const Rect& bounds) {
+    const Raised placing = drag_.Placing();
+    const std::array<Point, 8> places = HandlePlaces(bounds);
+    for (std::size_t i = 0; i < Anchor.size(); ++i)
+        Anchor[i]->Move({places[i].x, places[i].y, HandleSize, HandleSize});
+    Mover.Move(bounds);
 }
 
 void Anchors::ShowHandles(bool visible) {

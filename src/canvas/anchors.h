@@ -37,6 +37,7 @@ public:
     Control& Mover;                     // the selection's bounds; see-through for eye and mouse
 
 private:
+    void Surround(const Rect& bounds);
     void ShowHandles(bool visible);
     void RaiseHandles();
 

@@ -72,7 +72,7 @@ CanvasEvents::CanvasEvents(CanvasParts& parts) : parts_(parts), readOut_(parts.f
 void CanvasEvents::MouseDown(Control& control, const Mouse& mouse) {
     pressedTwice_ = nullptr;
     // A second button during a drag is a slip of the hand. With no other held, a release was lost.
-    if (parts_.drag.MouseIsDown && AnotherIsHeld(mouse.button)) return;
+    if (parts_.drag.MouseIsDown() && AnotherIsHeld(mouse.button)) return;
     FinishDrag(parts_);
     readOut_.hide();
     button_ = mouse.button;
@@ -83,7 +83,7 @@ void CanvasEvents::MouseDown(Control& control, const Mouse& mouse) {
 void CanvasEvents::MouseMove(Control& control, const Mouse& mouse) {
     if (parts_.form.testAttribute(Qt::WA_SetCursor)) parts_.form.unsetCursor();
     if (pressedTwice_ == &control && mouse.button & LeftButton) MouseDown(control, secondPress_);
-    if (!parts_.drag.MouseIsDown) return;
+    if (!parts_.drag.MouseIsDown()) return;
     if (mouse.button == 0) {  // the release went elsewhere
         lastPlace_ = OnScreen(control, mouse);
         return MouseUp(control, {button_, mouse.shift, mouse.x, mouse.y});
@@ -99,10 +99,10 @@ void CanvasEvents::Drag(Control& control, const Mouse& mouse) {
 
 void CanvasEvents::MouseUp(Control& control, const Mouse& mouse) {
     pressedTwice_ = nullptr;
-    if (parts_.drag.MouseIsDown && mouse.button != button_) return;
+    if (parts_.drag.MouseIsDown() && mouse.button != button_) return;
     readOut_.hide();
     // A quick hand's last move may be lost to a later one that waits behind the release.
-    if (parts_.drag.MouseIsDown && OnScreen(control, mouse) != lastPlace_)
+    if (parts_.drag.MouseIsDown() && OnScreen(control, mouse) != lastPlace_)
         Drag(control, {button_, mouse.shift, mouse.x, mouse.y});
     Attempt([&] { GestureOf(control).up(parts_, control, mouse); });
 }

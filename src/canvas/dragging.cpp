@@ -22,37 +22,35 @@ Control& Selectable(CanvasParts& parts, Control& control) {
 
 void Element_MouseDown(CanvasParts& parts, Control& control, const Mouse& mouse) {
     const ElementFamily& family = *FamilyOf(control);
-    if (family.resetsWhilePlacing || !parts.drag.IsPlacing) parts.anchors.ResetSelection();
-    if (parts.drag.IsPlacing) return;
+    if (family.resetsWhilePlacing || !parts.drag.IsPlacing()) parts.anchors.ResetSelection();
+    if (parts.drag.IsPlacing()) return;
     parts.anchors.PlaceAnchors(&Selectable(parts, control), false);
     if (mouse.button == RightButton) {
         PopupElementMenu(parts, control.mapToGlobal(QPoint(mouse.x, mouse.y)), family.isStandard);
         return;
     }
-    parts.drag = {true, false, mouse.x, mouse.y, family.dragKind};
+    parts.drag.Begin(family.dragKind, mouse);
 }
 
 void Element_MouseMove(CanvasParts& parts, Control& control, const Mouse& mouse) {
     const ElementFamily& family = *FamilyOf(control);
     DragState& drag = parts.drag;
-    if (drag.IsPlacing || !drag.MouseIsDown || drag.DragKind != family.dragKind || !SelControl) return;
+    if (drag.IsPlacing() || !drag.Is(family.dragKind) || !SelControl) return;
     const Rect from = parts.anchors.Mover.Bounds();
-    const std::optional<Point> to =
-        DragStep({from.left, from.top}, {mouse.x - drag.DownX, mouse.y - drag.DownY}, family.deadZone,
-                 {viewSwitches.SnapGrid, viewSwitches.GridX, viewSwitches.GridY});
+    const std::optional<Point> to = DragStep({from.left, from.top}, drag.Way(mouse), family.deadZone,
+                                             {viewSwitches.SnapGrid, viewSwitches.GridX, viewSwitches.GridY});
     if (!to) return;
     const Rect now = SelControl->Bounds();
     SelControl->Move({to->x, to->y, now.width, now.height});
     ScrollBarFollows(parts);
-    const Raised placing(drag.IsPlacing);
+    const Raised placing = drag.Placing();
     parts.anchors.PlaceAnchors(SelControl, true);
     MarkDirty(parts);
 }
 
 void Element_MouseUp(CanvasParts& parts, Control& control, const Mouse&) {
-    if (parts.drag.IsPlacing) return;
-    parts.drag.MouseIsDown = false;
-    parts.drag.DragKind = DragNone;
+    if (parts.drag.IsPlacing()) return;
+    parts.drag.End();
     const bool isWritten = SelControl && !SelKey.empty();
     if (isWritten) WriteSelectedBounds(parts);
     if (!isWritten && FamilyOf(control)->dragKind == DragElement) return;
@@ -61,9 +59,8 @@ void Element_MouseUp(CanvasParts& parts, Control& control, const Mouse&) {
 }
 
 void FinishDrag(CanvasParts& parts) {
-    if (!parts.drag.MouseIsDown) return;
-    parts.drag.MouseIsDown = false;
-    parts.drag.DragKind = DragNone;
+    if (!parts.drag.MouseIsDown()) return;
+    parts.drag.End();
     if (SelControl && FamilyOf(*SelControl)) WriteSelectedBounds(parts);
 }
 

@@ -74,7 +74,7 @@ void PanelFollows(CanvasParts& parts) {
 
 void WriteSelectedBounds(CanvasParts& parts) {
     if (!SelControl || !objCurrentLayout) return;
-    const Raised placing(parts.drag.IsPlacing);
+    const Raised placing = parts.drag.Placing();
     if (const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(SelKey))
         Attempt([&] { WriteElementBounds(*element, SelControl->Bounds(), TargetFrame); });
 }

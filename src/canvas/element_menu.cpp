@@ -6,9 +6,9 @@
 #include <array>
 
 #include "base/failure.h"
-#include "canvas/keys.h"
 #include "canvas/new_elements.h"
 #include "canvas/picture_items.h"
+#include "canvas/removal.h"
 #include "canvas/window_menu.h"
 #include "document/current_skin.h"
 #include "document/layout_edits.h"
@@ -17,10 +17,6 @@
 
 namespace ornavo {
 namespace {
-
-void Delete(CanvasParts& parts) {
-    Form_KeyDown(parts, KeyDelete, 0);
-}
 
 void BringToFront(CanvasParts& parts) {
     BringElementToFront(*objCurrentLayout, SelControl->Tag);
@@ -40,7 +36,7 @@ struct MenuRow {
 };
 constexpr std::array mnuElementSub = {
     MenuRow{MenuClone, "&Clone", false, CloneElement},
-    MenuRow{MenuDelete, "&Delete", false, Delete},
+    MenuRow{MenuDelete, "&Delete", false, RemoveSelected},
     MenuRow{20, "-", true, nullptr},
     MenuRow{MenuBringToFront, "&Bring To Front", true, BringToFront},
     MenuRow{MenuSendToBack, "Se&nd To Back", true, SendToBack},

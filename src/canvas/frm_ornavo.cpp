@@ -50,19 +50,19 @@ frm_Ornavo::frm_Ornavo(Windows& windows, std::string version)
     setMouseTracking(true);
     setAccessibleName("Canvas");
     new SkinDrop(*this, windows);
-    AddShortcut(Qt::Key_F5, KeyF5, 0);
-    AddShortcut(QKeySequence::fromString("Ctrl+S"), KeyS, 2);
+    AddShortcut(Qt::Key_F5);
+    AddShortcut(Qt::CTRL | Qt::Key_S);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, &frm_Ornavo::ApplicationStateChanged);
     SetTimers();
     Form_Load();
 }
 
-void frm_Ornavo::AddShortcut(const QKeySequence& keys, int keyCode, int shift) {
+void frm_Ornavo::AddShortcut(QKeyCombination keys) {
     auto* shortcut = new QShortcut(keys, this);
     shortcut->setContext(Qt::ApplicationShortcut);
     shortcut->setAutoRepeat(false);
     connect(shortcut, &QShortcut::activated, this,
-            [this, keyCode, shift] { Form_KeyDown(parts_, keyCode, shift); });
+            [this, keys] { Form_KeyDown(parts_, keys.key(), ShiftOf(keys.keyboardModifiers())); });
 }
 
 void frm_Ornavo::SetTimers() {
@@ -165,7 +165,7 @@ void frm_Ornavo::EndPreview() {
 
 /// A designer comes back from a paint program.
 void frm_Ornavo::ApplicationStateChanged(Qt::ApplicationState state) {
-    const bool shows = SkinIsOpen() && isVisible() && !drag_.MouseIsDown;
+    const bool shows = SkinIsOpen() && isVisible() && !drag_.MouseIsDown();
     if (state == Qt::ApplicationActive && shows && PicturesChanged()) UpdateCurrentLayout();
 }
 
@@ -220,8 +220,7 @@ void frm_Ornavo::paintEvent(QPaintEvent* event) {
 }
 
 void frm_Ornavo::keyPressEvent(QKeyEvent* event) {
-    if (!Form_KeyDown(parts_, KeyCodeOf(event->key()), ShiftOf(event->modifiers())))
-        Form::keyPressEvent(event);
+    if (!Form_KeyDown(parts_, event->key(), ShiftOf(event->modifiers()))) Form::keyPressEvent(event);
 }
 
 void frm_Ornavo::mousePressEvent(QMouseEvent* event) {

@@ -72,7 +72,7 @@ protected:
 private:
     void Form_Load();
     void SetTimers();
-    void AddShortcut(const QKeySequence& keys, int keyCode, int shift);
+    void AddShortcut(QKeyCombination keys);
     void SaveSettings() const;
     void ShowWelcome();
     void ApplicationStateChanged(Qt::ApplicationState state);

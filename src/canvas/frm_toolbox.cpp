@@ -222,7 +222,7 @@ void frm_Toolbox::UpdateCurrentLayout(bool setDirty) {
 
 void frm_Toolbox::Switch(QCheckBox* box, bool& viewSwitch, void (frm_Toolbox::*refresh)()) {
     connect(box, &QCheckBox::toggled, this, [this, &viewSwitch, refresh](bool on) {
-        if (parts_.drag.IsPlacing) return;
+        if (parts_.drag.IsPlacing()) return;
         viewSwitch = on;
         (this->*refresh)();
     });
@@ -243,7 +243,7 @@ void frm_Toolbox::RepaintGrid() {
 void frm_Toolbox::SpacingLeft(QLineEdit& box, int& spacing) {
     spacing = SpacingOf(box.text());
     box.setText(QString::number(spacing));
-    if (!parts_.drag.IsPlacing) RepaintGrid();
+    if (!parts_.drag.IsPlacing()) RepaintGrid();
 }
 
 }  // namespace ornavo

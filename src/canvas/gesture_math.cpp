@@ -77,7 +77,7 @@ std::array<Point, 8> HandlePlaces(const Rect& bounds) {
 
 Rect NudgeStep(const Rect& bounds, Point direction, int shift) {
     if (shift == 0) return {bounds.left + direction.x, bounds.top + direction.y, bounds.width, bounds.height};
-    const int step = shift & 1 ? 1 : shift & 2 ? 10 : 0;
+    const int step = shift & ShiftKey ? 1 : shift & CtrlKey ? 10 : 0;
     return {bounds.left, bounds.top, Grown(bounds.width, direction.x * step),
             Grown(bounds.height, direction.y * step)};
 }

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "base/geometry.h"
+#include "platform/input_codes.h"
 
 namespace ornavo {
 
@@ -28,8 +29,9 @@ Rect ResizeStep(int handle, const Rect& bounds, Point way, const Grid& grid);
 /// The top left corners of the eight handles around the bounds.
 std::array<Point, 8> HandlePlaces(const Rect& bounds);
 
-/// An arrow key: `direction` is 1 or -1 on one axis. With `shift` 0 it moves by 1; with Shift (1) it sizes by
-/// 1, else with Ctrl (2) by 10; with Alt alone nothing. A size that would fall below 0 stays.
+/// An arrow key: `direction` is 1 or -1 on one axis, `shift` a ShiftMask. Without a modifier it moves by 1;
+/// with Shift it sizes by 1, else with Ctrl by 10; with Alt alone nothing. A size that would fall below 0
+/// stays.
 Rect NudgeStep(const Rect& bounds, Point direction, int shift);
 
 /// The way of an arrow key for a corner: 1, with any modifier 10.

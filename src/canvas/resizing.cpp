@@ -10,27 +10,21 @@
 namespace ornavo {
 
 void Anchor_MouseDown(CanvasParts& parts, Control&, const Mouse& mouse) {
-    parts.drag.DragKind = DragAnchor;
-    parts.drag.MouseIsDown = true;
-    parts.drag.DownX = mouse.x;
-    parts.drag.DownY = mouse.y;
+    parts.drag.Begin(DragAnchor, mouse);
 }
 
 void Anchor_MouseMove(CanvasParts& parts, Control& anchor, const Mouse& mouse) {
     const DragState& drag = parts.drag;
-    const bool acts = drag.DragKind == DragAnchor || drag.DragKind == DragScrollframe;
-    if (!drag.MouseIsDown || !acts || !SelControl) return;
+    if (!(drag.Is(DragAnchor) || drag.Is(DragScrollframe)) || !SelControl) return;
     const Grid grid = {viewSwitches.SnapGrid, viewSwitches.GridX, viewSwitches.GridY};
-    const Point way = {mouse.x - drag.DownX, mouse.y - drag.DownY};
-    SelControl->Move(ResizeStep(anchor.Index, parts.anchors.Mover.Bounds(), way, grid));
+    SelControl->Move(ResizeStep(anchor.Index, parts.anchors.Mover.Bounds(), drag.Way(mouse), grid));
     ScrollBarFollows(parts);
     parts.anchors.PlaceAnchors(SelControl, true);
     MarkDirty(parts);
 }
 
 void Anchor_MouseUp(CanvasParts& parts, Control&, const Mouse&) {
-    parts.drag.MouseIsDown = false;
-    parts.drag.DragKind = DragNone;
+    parts.drag.End();
     if (!SelControl || SelKey.empty()) {
         parts.anchors.HideAnchors();
     } else {

@@ -23,7 +23,7 @@ std::vector<Control*> ShownElements(LayoutHost& host) {
 }  // namespace
 
 void StepSelection(CanvasParts& parts, int step) {
-    if (!LayoutIsOpen() || parts.drag.MouseIsDown) return;
+    if (!LayoutIsOpen() || parts.drag.MouseIsDown()) return;
     const std::vector<Control*> shown = ShownElements(parts.host);
     if (shown.empty()) return;
     const auto count = std::ssize(shown);

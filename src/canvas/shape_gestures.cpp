@@ -62,19 +62,12 @@ void RemoveCorner(CanvasParts& parts, const std::string& tag) {
 }
 
 void GrabCorner(CanvasParts& parts, Control& corner, const Mouse& mouse) {
-    parts.drag.DragKind = DragCorner;
-    parts.drag.MouseIsDown = true;
-    parts.drag.DownX = mouse.x;
-    parts.drag.DownY = mouse.y;
+    parts.drag.Begin(DragCorner, mouse);
     parts.canvas.ResetSelection();
     SelControl = &corner;
     SelKey = corner.Tag;
     corner.SetBackColor(PointBlinkColor);
     parts.form.setFocus();
-}
-
-bool IsDragged(const CanvasParts& parts) {
-    return parts.drag.MouseIsDown && parts.drag.DragKind == DragCorner;
 }
 
 }  // namespace
@@ -131,14 +124,14 @@ void cPoint_MouseDown(CanvasParts& parts, Control& line, const Mouse& mouse) {
 void cPointMover_MouseDown(CanvasParts& parts, Control& corner, const Mouse& mouse) {
     if (mouse.button == LeftButton) return GrabCorner(parts, corner, mouse);
     // The other button during a drag is a slip of the hand.
-    if (mouse.button == RightButton && !IsDragged(parts)) RemoveCorner(parts, corner.Tag);
+    if (mouse.button == RightButton && !parts.drag.Is(DragCorner)) RemoveCorner(parts, corner.Tag);
 }
 
 void cPointMover_MouseMove(CanvasParts& parts, Control& corner, const Mouse& mouse) {
-    if (!IsDragged(parts)) return;
+    if (!parts.drag.Is(DragCorner)) return;
     const Rect at = corner.Bounds();
     const std::optional<Point> next = CornerStep({{at.left, at.top},
-                                                  {parts.drag.DownX, parts.drag.DownY},
+                                                  parts.drag.Down(),
                                                   {mouse.x, mouse.y},
                                                   viewSwitches.SnapGrid,
                                                   viewSwitches.GridX,
@@ -152,8 +145,7 @@ void cPointMover_MouseMove(CanvasParts& parts, Control& corner, const Mouse& mou
 
 void cPointMover_MouseUp(CanvasParts& parts, Control&, const Mouse& mouse) {
     if (mouse.button != LeftButton) return;
-    parts.drag.MouseIsDown = false;
-    parts.drag.DragKind = DragNone;
+    parts.drag.End();
     parts.windows.properties().Open();
     FocusForm(parts);
 }

@@ -11,8 +11,7 @@ namespace ornavo {
 namespace {
 
 constexpr Colour SideColour = ColourOf(0xFFFFFF);
-constexpr int HitWidth = 3;    // pixels to each side of a line
-constexpr int CrossShape = 2;  // of the mouse pointer
+constexpr int HitWidth = 3;  // pixels to each side of a line
 constexpr int Farthest = 1 << 24;
 constexpr const char* SideTip = "Click to insert a corner here";
 constexpr const char* CornerTip = "Drag to move this corner, right-click to remove it";
@@ -20,7 +19,7 @@ constexpr const char* CornerTip = "Drag to move this corner, right-click to remo
 template <class T>
 T* Hidden(T* control, ControlEvents* listener, const char* tip) {
     control->Listen(listener);
-    control->SetMousePointer(CrossShape);
+    control->SetMousePointer(PointerCross);
     control->setToolTip(QString::fromLatin1(tip));
     control->setVisible(false);
     return control;

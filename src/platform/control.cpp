@@ -15,24 +15,20 @@ namespace {
 constexpr int MostPixels = (1 << 24) - 1;  // a place or size beyond it is cut to it
 
 struct Pointer {
-    int shape;
+    MousePointer shape;
     Qt::CursorShape cursor;
 };
 constexpr std::array Pointers = {
-    Pointer{1, Qt::ArrowCursor},     Pointer{2, Qt::CrossCursor},      Pointer{3, Qt::IBeamCursor},
-    Pointer{5, Qt::SizeAllCursor},   Pointer{6, Qt::SizeBDiagCursor},  Pointer{7, Qt::SizeVerCursor},
-    Pointer{8, Qt::SizeFDiagCursor}, Pointer{9, Qt::SizeHorCursor},    Pointer{10, Qt::UpArrowCursor},
-    Pointer{11, Qt::WaitCursor},     Pointer{12, Qt::ForbiddenCursor}, Pointer{15, Qt::SizeAllCursor},
+    Pointer{PointerCross, Qt::CrossCursor},       Pointer{PointerDiagonalUp, Qt::SizeBDiagCursor},
+    Pointer{PointerUpDown, Qt::SizeVerCursor},    Pointer{PointerDiagonalDown, Qt::SizeFDiagCursor},
+    Pointer{PointerLeftRight, Qt::SizeHorCursor}, Pointer{PointerSizeAll, Qt::SizeAllCursor},
 };
 
-/// Ours and Qt's codes of buttons and keys; those of the buttons are the same.
+/// The codes of the buttons are Qt's own.
 Mouse MouseOf(const QMouseEvent& event, int button) {
-    const Qt::KeyboardModifiers keys = event.modifiers();
-    const int shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
-                      (keys & Qt::AltModifier ? 4 : 0);
     const QPoint at = event.position().toPoint();
     const QPoint onScreen = event.globalPosition().toPoint();
-    return {button, shift, at.x(), at.y(), onScreen.x(), onScreen.y()};
+    return {button, ShiftOf(event.modifiers()), at.x(), at.y(), onScreen.x(), onScreen.y()};
 }
 
 class AccessibleControl : public QAccessibleWidget {
@@ -51,6 +47,11 @@ private:
 };
 
 }  // namespace
+
+int ShiftOf(Qt::KeyboardModifiers modifiers) {
+    return (modifiers & Qt::ShiftModifier ? ShiftKey : 0) | (modifiers & Qt::ControlModifier ? CtrlKey : 0) |
+           (modifiers & Qt::AltModifier ? AltKey : 0);
+}
 
 Control::Control(QWidget* parent, std::string name, int index)
     : QWidget(parent), Name(std::move(name)), Index(index) {
@@ -91,7 +92,7 @@ void Control::SetBackColor(Colour colour) {
     update();
 }
 
-void Control::SetMousePointer(int shape) {
+void Control::SetMousePointer(MousePointer shape) {
     if (shape == pointer_) return;
     pointer_ = shape;
     const auto found = std::find_if(Pointers.begin(), Pointers.end(),

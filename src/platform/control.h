@@ -8,19 +8,21 @@
 
 #include "base/colour.h"
 #include "base/geometry.h"
+#include "platform/input_codes.h"
 
 namespace ornavo {
 
 class Control;
 
-enum MouseButton { LeftButton = 1, RightButton = 2 };
-
 struct Mouse {
-    int button = 0;    // MouseButton, or 4 for the middle one; on a move the mask of those held
-    int shift = 0;     // 1 Shift, 2 Ctrl, 4 Alt
+    int button = 0;    // MouseButton; on a move the mask of those held
+    int shift = 0;     // ShiftMask
     int x = 0, y = 0;  // pixels of the control
     int screenX = 0, screenY = 0;
 };
+
+/// The mask of Shift, Ctrl and Alt.
+int ShiftOf(Qt::KeyboardModifiers modifiers);
 
 /// What a window hears of its controls.
 class ControlEvents {
@@ -54,9 +56,7 @@ public:
     Colour BackColor() const { return backColor_; }
     virtual void SetBackColor(Colour colour);
 
-    /// 0 the default, 2 cross, 6 and 8 the diagonals, 7 and 9 up-down and left-right, 15 size all, 11
-    /// hourglass.
-    void SetMousePointer(int shape);
+    void SetMousePointer(MousePointer shape);
 
 protected:
     void mousePressEvent(QMouseEvent*) override;
@@ -68,7 +68,7 @@ protected:
 private:
     ControlEvents* events_ = nullptr;
     Colour backColor_ = ButtonFace;
-    int pointer_ = 0;
+    MousePointer pointer_ = PointerDefault;
     QAccessible::Role role_ = QAccessible::Client;
 };
 

@@ -129,7 +129,7 @@ void TileButton::Reset() {
     Picture = PictureOver = PictureDown = nullptr;
     AniPicture.clear(), AniPictureOver.clear(), AniPictureDown.clear();
     Repeats = false;
-    SetMousePointer(0);
+    SetMousePointer(PointerDefault);
 }
 
 bool TileButton::IsRunning() const {

@@ -7,12 +7,10 @@
 namespace ornavo {
 namespace {
 
-constexpr int PointerDefault = 0, PointerSizeDiagonal = 8, PointerSizeAll = 15;
-
-int PointerOf(const dbLayoutElement& element, bool preview) {
+MousePointer PointerOf(const dbLayoutElement& element, bool preview) {
     if (!preview) return PointerDefault;
     if (element.Dragger) return PointerSizeAll;
-    return element.Resizer ? PointerSizeDiagonal : PointerDefault;
+    return element.Resizer ? PointerDiagonalDown : PointerDefault;
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ TEST_F(DraggingTest, WhatTheMouseLosesIsMadeUpFor) {
     Send(button, QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
     Send(button, QEvent::MouseMove, {20, 10}, Qt::LeftButton);
     Send(button, QEvent::MouseMove, {50, 50}, {});
-    EXPECT_FALSE(form_->parts().drag.MouseIsDown) << "the release";
+    EXPECT_FALSE(form_->parts().drag.MouseIsDown()) << "the release";
     EXPECT_EQ(Fields(e), (Rect{240, 90, 110, 86}));
 
     Send(button, QEvent::MouseButtonDblClick, {10, 10}, Qt::LeftButton);
@@ -171,7 +171,7 @@ TEST_F(DraggingTest, ACompositionDuringADragKeepsThePlaceAndEndsIt) {
     EXPECT_FALSE(readOut()->isVisible());
     Release(400, 300);
     EXPECT_EQ(Fields(Element("Button1")), (Rect{250, 80, 100, 80}));
-    EXPECT_FALSE(form_->parts().drag.MouseIsDown);
+    EXPECT_FALSE(form_->parts().drag.MouseIsDown());
 }
 
 TEST_F(DraggingTest, ADragLeavesTheWindow) {

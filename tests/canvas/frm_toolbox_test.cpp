@@ -110,7 +110,7 @@ TEST_F(ToolboxTest, EachBoxTurnsItsSwitchAndNothingElse) {
         box->click();
         EXPECT_EQ(viewSwitches.*viewSwitch, !before) << box->text().toStdString();
         {
-            const Raised placing(form_->parts().drag.IsPlacing);
+            const Raised placing = form_->parts().drag.Placing();
             box->click();
             EXPECT_EQ(viewSwitches.*viewSwitch, box == toolbox.chk_SnapGrid ? before : !before)
                 << box->text().toStdString();

@@ -148,7 +148,7 @@ TEST_F(KeysTest, AnotherLayoutLeavesNoSelection) {
     Compose();
     EXPECT_EQ(SelControl, nullptr);
     EXPECT_EQ(SelKey, "");
-    EXPECT_FALSE(form_->tmrShowProperties.isActive() || form_->parts().drag.MouseIsDown ||
+    EXPECT_FALSE(form_->tmrShowProperties.isActive() || form_->parts().drag.MouseIsDown() ||
                  anchors().Anchor[0]->isVisible() || windows_.panel.shown);
 }
 

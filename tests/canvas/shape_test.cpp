@@ -132,7 +132,7 @@ TEST_F(ShapeTest, ADraggedCornerTakesItsPointAndBothSidesAlong) {
     EXPECT_EQ(PointOf(1).Y, 599);
     Release(799, 599);
     EXPECT_TRUE(windows_.panel.shown);
-    EXPECT_FALSE(form_->parts().drag.MouseIsDown);
+    EXPECT_FALSE(form_->parts().drag.MouseIsDown());
 }
 
 TEST_F(ShapeTest, TheSelectionStaysWithItsCornerWhenAnotherIsInserted) {

@@ -170,7 +170,8 @@ TEST(Controls, KeepTheirPlace) {
     constexpr int most = std::numeric_limits<int>::max();
     control.Move({most, -most, most, most});
     EXPECT_LT(control.Bounds().left, most);
-    for (const auto& [pointer, shape] : {std::pair{15, Qt::SizeAllCursor}, {0, Qt::ArrowCursor}}) {
+    for (const auto& [pointer, shape] :
+         {std::pair{PointerSizeAll, Qt::SizeAllCursor}, {PointerDefault, Qt::ArrowCursor}}) {
         control.SetMousePointer(pointer);
         EXPECT_EQ(control.cursor().shape(), shape);
     }

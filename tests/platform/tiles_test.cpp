@@ -120,7 +120,7 @@ TEST_F(TileButtonTest, AReusedSlotHasNothingOfBefore) {
     button.Picture = button.PictureOver = Plain(Qt::red);
     button.AniPictureDown = Gif();
     button.Repeats = true;
-    button.SetMousePointer(15);
+    button.SetMousePointer(PointerSizeAll);
     button.State.ShowBorder = true;
     button.Elements.Add("Caption").Text = "before";
     button.Reset();

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "canvas/removal.h"
+
+#include <QTimer>
+
+#include "base/failure.h"
+#include "canvas/anchors.h"
+#include "canvas/element_families.h"
+#include "canvas/shape_points.h"
+#include "document/current_skin.h"
+#include "document/layout_edits.h"
+#include "document/shape_edits.h"
+#include "editor/selection.h"
+#include "render/layout_host.h"
+
+namespace ornavo {
+namespace {
+
+void RemoveCorner(CanvasParts& parts) {
+    Control& corner = *SelControl;
+    Attempt([&] { DeleteShapePoint(*objCurrentLayout, corner.Tag); });
+    corner.SetBackColor(PointColor);
+    SelControl = nullptr;
+    objSkin->Dirty = true;
+    parts.canvas.UpdateCurrentLayout();
+    parts.windows.properties().ShowProperties();
+}
+
+void RemoveElement(CanvasParts& parts) {
+    Control& control = *SelControl;
+    Attempt([&] { DeleteElement(*objCurrentLayout, control.Tag); });
+    parts.anchors.HideAnchors();
+    control.setVisible(false);
+    control.Tag.clear();
+    if (control.Name == "pInfo")
+        parts.host.pInfo.Released(control.Index);
+    else
+        parts.host.Element.Released(control.Index);
+    SelControl = nullptr;
+    objSkin->Dirty = true;
+}
+
+}  // namespace
+
+void RemoveSelected(CanvasParts& parts) {
+    const ElementFamily* family = FamilyOf(*SelControl);
+    const bool isCorner = SelControl->Name == "cPointMover";
+    if (!isCorner && (!family || family->isStandard)) return;
+    if (isCorner)
+        RemoveCorner(parts);
+    else
+        RemoveElement(parts);
+    parts.tmrShowProperties.start();
+    parts.canvas.UpdateCaption();
+}
+
+}  // namespace ornavo
