@@ -14,6 +14,7 @@
 #include "document/current_skin.h"
 #include "platform/settings.h"
 #include "render/target.h"
+#include "support/recorded_windows.h"
 
 namespace ornavo {
 namespace {
@@ -22,12 +23,6 @@ constexpr int Width = 1024, Height = 768, TileWidth = 100, TileHeight = 80, Elem
 constexpr int Step = 6;             // pixels each way
 constexpr QPoint Press = {20, 20};  // in the dragged control
 constexpr Rect Start = {400, 300, TileWidth, TileHeight};
-
-class NoWindows : public Windows {
-public:
-    void LoadDebug(std::string_view) override {}
-    void UnloadOthers() override {}
-};
 
 /// A canvas with 60 overlapping buttons and pictures, the last in the middle and on top.
 class Stage {
@@ -69,7 +64,7 @@ private:
         if (i % 2 == 0) e.Caption = "Play";
     }
     QTemporaryDir folder_;
-    NoWindows windows_;
+    testing::RecordedWindows windows_;
     std::unique_ptr<frm_Ornavo> form_;
 };
 

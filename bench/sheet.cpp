@@ -9,22 +9,13 @@
 
 #include "document/codes.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "properties/frm_properties.h"
+#include "support/recorded_windows.h"
 
 namespace ornavo {
 namespace {
 
 constexpr int RowCount = 40, Width = 312;
-
-class NoWindows : public Windows, public Canvas {
-public:
-    void LoadDebug(std::string_view) override {}
-    void UnloadOthers() override {}
-    void UpdateCurrentLayout() override {}
-    void UpdateCaption() override {}
-    void ResetFormToOriginal() override {}
-};
 
 void FillSheet(benchmark::State& state) {
     objCurrentLayout = std::make_shared<dbLayout>();
@@ -32,8 +23,9 @@ void FillSheet(benchmark::State& state) {
         const std::string key = "Button" + std::to_string(i);
         objCurrentLayout->dbLayoutElements->Add(i, key, TypeButton, 0)->ElementName = key;
     }
-    NoWindows windows;
-    frm_Properties panel(nullptr, windows, windows);
+    testing::RecordedWindows windows;
+    testing::RecordedCanvas canvas;
+    frm_Properties panel(nullptr, windows, canvas);
     Control selected(nullptr, "Element");
     selected.Tag = "Button1";
     SelControl = &selected;

@@ -18,23 +18,23 @@ public:
     virtual void UpdateCurrentLayout() = 0;
     virtual void UpdateCaption() = 0;
     virtual void ResetFormToOriginal() = 0;
-    virtual void ResetSelection() {}
-    virtual void HideSelectionTools() {}  // handles and properties panel
+    virtual void ResetSelection() = 0;
+    virtual void HideSelectionTools() = 0;  // handles and properties panel
     /// Places the handles round the control and gives it back; without `keepSelection` it becomes the
     /// selection.
-    virtual Control* PlaceAnchors(Control* control, bool /*keepSelection*/) { return control; }
+    virtual Control* PlaceAnchors(Control* control, bool keepSelection) = 0;
 };
 
-/// By the properties panel; without one, nothing happens.
+/// By the properties panel.
 class PropertiesPanel {
 public:
     virtual ~PropertiesPanel() = default;
-    virtual void Open() {}  // shown if hidden, then ShowProperties
-    virtual void ShowProperties() {}
-    virtual void UnloadProperties() {}
-    virtual void Hide() {}
-    virtual void DrawPendingEdits() {}  // what still waits to be drawn is drawn now
-    virtual bool IsShown() const { return false; }
+    virtual void Open() = 0;  // shown if hidden, then ShowProperties
+    virtual void ShowProperties() = 0;
+    virtual void UnloadProperties() = 0;
+    virtual void Hide() = 0;
+    virtual void DrawPendingEdits() = 0;  // what still waits to be drawn is drawn now
+    virtual bool IsShown() const = 0;
 };
 
 /// One of the windows that the user shows and hides by a menu.
@@ -52,30 +52,24 @@ public:
     /// skin opens nothing. Failure if the skin can't be opened.
     virtual void LoadDebug(std::string_view skinName) = 0;
     /// The folder of the user's skins; "" for none.
-    virtual std::string SkinsFolder() const { return {}; }
+    virtual std::string SkinsFolder() const = 0;
     /// The beginning of the end: the project panel asks and closes. False when a save failed: then nothing
     /// else closes.
-    virtual bool MayClose() { return true; }
+    virtual bool MayClose() = 0;
     /// The end: every window but the main one closes.
     virtual void UnloadOthers() = 0;
-    virtual void ShowSkinProject() {}  // the project panel, at start
-    virtual void SaveSkin() {}         // what its Save button does
-    virtual void ShowToolbox() {}
-    virtual void ArrangeTools() {}  // the main window has another size, or a tool window comes up
-    virtual void ToggleMagnifier() {}
-    virtual void ShowPreview() {}   // and the four windows hide,
-    virtual void LeavePreview() {}  // and come back
+    virtual void ShowSkinProject() = 0;  // the project panel, at start
+    virtual void SaveSkin() = 0;         // what its Save button does
+    virtual void ShowToolbox() = 0;
+    virtual void ArrangeTools() = 0;  // the main window has another size, or a tool window comes up
+    virtual void ToggleMagnifier() = 0;
+    virtual void ShowPreview() = 0;   // and the four windows hide,
+    virtual void LeavePreview() = 0;  // and come back
     /// The picture editor on a picture of the skin: `finalName` is the proposed base name, `path` the picture
     /// and then what was saved. False: cancelled.
-    virtual bool EditPicture(const std::string& /*finalName*/, std::string& /*path*/) { return false; }
-    virtual const std::vector<WindowLine>& Lines() {
-        static const std::vector<WindowLine> none;
-        return none;
-    }
-    virtual PropertiesPanel& properties() {
-        static PropertiesPanel none;
-        return none;
-    }
+    virtual bool EditPicture(const std::string& finalName, std::string& path) = 0;
+    virtual const std::vector<WindowLine>& Lines() = 0;
+    virtual PropertiesPanel& properties() = 0;
 };
 
 }  // namespace ornavo

@@ -22,12 +22,6 @@ public:
     QDateTime Now() const override { return {QDate(2020, 2, 3), QTime(9, 30, 0)}; }
 };
 
-class Leaving : public RecordedWindows {
-public:
-    void LeavePreview() override { ++left; }
-    int left = 0;
-};
-
 class PreviewTest : public SkinTest {
 protected:
     ~PreviewTest() override { TargetLayout.reset(); }
@@ -55,7 +49,7 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    Leaving windows_;
+    RecordedWindows windows_;
     std::unique_ptr<frm_Preview> preview_;
 };
 

@@ -253,7 +253,7 @@ TEST_F(PanelTest, ADroppedFolderIsOpened) {
     QCoreApplication::sendEvent(panel_.get(), &enter);
     QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(panel_.get(), &event);
-    EXPECT_EQ(windows_.loaded, blue);
+    EXPECT_EQ(windows_.opened, blue);
 }
 
 }  // namespace

@@ -145,7 +145,7 @@ TEST_F(PanelTest, TheSheetOfTheWholeSkin) {
     OpenBlue();
     const int resets = canvas_.reset;
     Click(panel_->btn_SkinProperties);
-    EXPECT_EQ(windows_.sheetOf, panel_->btn_SkinProperties);
+    EXPECT_TRUE(windows_.panel.shown && SelControl == panel_->btn_SkinProperties);
     EXPECT_EQ(canvas_.reset, resets + 1);
     EXPECT_EQ(SelKey, "");
 }

@@ -6,41 +6,11 @@
 #include <QTimerEvent>
 
 #include "canvas/frm_ornavo.h"
-#include "editor/selection.h"
+#include "support/recorded_windows.h"
 #include "support/scripted_prompts.h"
 #include "support/skin_fixture.h"
 
 namespace ornavo::testing {
-
-class RecordedPanel : public PropertiesPanel {
-public:
-    void Open() override {
-        shown = true;
-        ++opened;
-    }
-    void ShowProperties() override { ++sheets; }
-    void UnloadProperties() override { ++unloaded; }
-    void Hide() override { shown = false; }
-    bool IsShown() const override { return shown; }
-    int opened = 0, sheets = 0, unloaded = 0;
-    bool shown = false;
-};
-
-class RecordedWindows : public Windows {
-public:
-    void LoadDebug(std::string_view skinName) override {
-        opened = skinName;
-        if (!failure.empty()) throw Failure(513, "LoadSkin", failure);
-    }
-    void UnloadOthers() override { ++unloaded; }
-    void SaveSkin() override { ++saved; }
-    void ShowPreview() override { ++previews; }
-    PropertiesPanel& properties() override { return real ? *real : panel; }
-    PropertiesPanel* real = nullptr;  // in place of the recorded one
-    std::string opened, failure;
-    int saved = 0, previews = 0, unloaded = 0;
-    RecordedPanel panel;
-};
 
 /// Lets a running timer tick at once.
 inline void Fire(QTimer& timer) {

@@ -12,10 +12,10 @@
 #include <QTest>
 
 #include "base/files.h"
-#include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "project/frm_skinproject.h"
 #include "project/layout_copy.h"
+#include "support/recorded_windows.h"
 #include "support/scripted_prompts.h"
 #include "support/step_layer.h"
 
@@ -23,29 +23,6 @@ namespace ornavo::testing {
 
 namespace fs = std::filesystem;
 using Unload = frm_SkinProject::Unload;
-
-class FakeCanvas : public Canvas {
-public:
-    void UpdateCurrentLayout() override { composed = objCurrentLayout; }
-    void UpdateCaption() override {}
-    void ResetFormToOriginal() override { ++sized; }
-    void ResetSelection() override { SelControl = nullptr, ++reset; }
-    dbLayoutRef composed;  // the last one
-    int sized = 0, reset = 0;
-};
-
-class FakeWindows : public Windows, public PropertiesPanel {
-public:
-    void LoadDebug(std::string_view skinName) override { loaded = skinName; }
-    void UnloadOthers() override {}
-    void ShowToolbox() override { ++toolboxes; }
-    void ShowPreview() override { ++previews; }
-    PropertiesPanel& properties() override { return *this; }
-    void Open() override { sheetOf = SelControl; }
-    std::string loaded;
-    int toolboxes = 0, previews = 0;
-    Control* sheetOf = nullptr;
-};
 
 class PanelTest : public ::testing::Test {
 protected:
@@ -120,8 +97,8 @@ protected:
 
     QTemporaryDir folder_;
     ScriptedPrompts prompts_;
-    FakeWindows windows_;
-    FakeCanvas canvas_;
+    RecordedWindows windows_;
+    RecordedCanvas canvas_;
     std::unique_ptr<frm_SkinProject> panel_;
 };
 
