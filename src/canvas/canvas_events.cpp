@@ -2,59 +2,41 @@
 #include "canvas/canvas_events.h"
 
 #include <QGuiApplication>
-#include <algorithm>
-#include <array>
 
 #include "base/failure.h"
 #include "canvas/anchors.h"
 #include "canvas/dragging.h"
+#include "canvas/element_families.h"
 #include "canvas/resizing.h"
 #include "canvas/sample_clicks.h"
 #include "canvas/shape_gestures.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
+#include "render/sample_families.h"
 
 namespace ornavo {
 namespace {
 
 using Handler = void (*)(CanvasParts&, Control&, const Mouse&);
 struct Gesture {
-    std::string_view name;
     Handler down, move, up;
 };
 
 void Ignore(CanvasParts&, Control&, const Mouse&) {}
 
-constexpr std::array Gestures = {
-    Gesture{"Element", Element_MouseDown, Element_MouseMove, Element_MouseUp},
-    Gesture{"pMain", Element_MouseDown, Element_MouseMove, Element_MouseUp},
-    Gesture{"pInfo", Element_MouseDown, Element_MouseMove, Element_MouseUp},
-    Gesture{"tbx_Search", Element_MouseDown, Element_MouseMove, Element_MouseUp},
-    Gesture{"Scrollframe", Element_MouseDown, Element_MouseMove, Element_MouseUp},
-    Gesture{"ScrollBar", Element_MouseDown, Element_MouseMove, Element_MouseUp},
-    Gesture{"Anchor", Anchor_MouseDown, Anchor_MouseMove, Anchor_MouseUp},
-    Gesture{"cPoint", cPoint_MouseDown, Ignore, Ignore},
-    Gesture{"cPointMover", cPointMover_MouseDown, cPointMover_MouseMove, cPointMover_MouseUp},
-    Gesture{"but_AddAll", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"but_Info", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"but_Label", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"but_Picture", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"but_Song", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"but_Song2", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"KeyB", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"KeyE", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"KeyN", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"KeyS", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"KeyU", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"lbl_Kiosk", Ignore, Ignore, Sample_MouseUp},
-    Gesture{"lbl_SL", Ignore, Ignore, Sample_MouseUp},
-};
-constexpr Gesture None = {"", Ignore, Ignore, Ignore};
+constexpr Gesture None = {Ignore, Ignore, Ignore};
+constexpr Gesture OfElement = {Element_MouseDown, Element_MouseMove, Element_MouseUp};
+constexpr Gesture OfSample = {Ignore, Ignore, Sample_MouseUp};
+constexpr Gesture OfHandle = {Anchor_MouseDown, Anchor_MouseMove, Anchor_MouseUp};
+constexpr Gesture OfPoint = {cPoint_MouseDown, Ignore, Ignore};
+constexpr Gesture OfCorner = {cPointMover_MouseDown, cPointMover_MouseMove, cPointMover_MouseUp};
 
 const Gesture& GestureOf(const Control& control) {
-    const auto found = std::find_if(Gestures.begin(), Gestures.end(),
-                                    [&](const Gesture& one) { return one.name == control.Name; });
-    return found == Gestures.end() ? None : *found;
+    if (FamilyOf(control)) return OfElement;
+    if (FindSample(control.Name)) return OfSample;
+    if (control.Name == "Anchor") return OfHandle;
+    if (control.Name == "cPoint") return OfPoint;
+    return control.Name == "cPointMover" ? OfCorner : None;
 }
 
 QPoint OnScreen(const Control& control, const Mouse& mouse) {

@@ -14,8 +14,10 @@
 #include "properties/panel_parts.h"
 #include "properties/rows.h"
 #include "render/element_roads.h"
+#include "render/layout_host.h"
 #include "render/redraw.h"
-#include "render/style_builders.h"
+#include "render/sample_families.h"
+#include "render/target.h"
 
 namespace ornavo {
 namespace {
@@ -44,9 +46,10 @@ void Write(PanelParts& parts, const std::string& key, const Value& value) {
 /// Where a key colour follows its control, the control takes an edited one first.
 void TakeKeyColour(std::string_view key) {
     const std::string_view preference = GetClass(key);
-    if (key == "TransparentColor") TakeTransparentColor("");
+    if (key == "TransparentColor") TargetForm->host().ScrollBar.ColourOwner.reset();
     if (preference.ends_with(KeyColourSuffix))
-        TakeTransparentColor(preference.substr(0, preference.size() - KeyColourSuffix.size()));
+        TakeTransparentColor(TargetForm->host().sample,
+                             preference.substr(0, preference.size() - KeyColourSuffix.size()));
 }
 
 bool IsColourRow(std::string_view key) {

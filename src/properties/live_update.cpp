@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "properties/live_update.h"
 
-#include <algorithm>
-#include <array>
-
 #include "base/failure.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
+#include "properties/element_sheet.h"
 #include "properties/panel_parts.h"
-#include "render/kiosk_panel.h"
-#include "render/layout_host.h"
 #include "render/redraw.h"
-#include "render/search_letters.h"
-#include "render/standard_elements.h"
-#include "render/style_builders.h"
-#include "render/target.h"
+#include "render/sample_families.h"
 
 namespace ornavo {
 namespace {
@@ -33,65 +26,17 @@ void RedrawBoundElement(PanelParts& parts) {
     KeepSelection(parts);
 }
 
-void RedrawSongs(PanelParts&) {
-    LayoutHost& host = TargetForm->host();
-    SetupSongButton(host.but_Song, 0);
-    SetupSongButton(host.but_Song2, 1);
-    LayoutKioskPanel();
+void RedrawSelected(PanelParts& parts) {
+    if (SelControl && ShowsElement(SelControl->Name)) return RedrawBoundElement(parts);
+    const SampleFamily* family = SelControl ? FindSample(SelControl->Name) : nullptr;
+    if (!family || !RedrawSample(*family)) UpdateCurrentLayout(parts);
 }
-
-void RedrawScrollBar(PanelParts&) {
-    if (const dbLayoutElementRef frame = objCurrentLayout->dbLayoutElements->Find("Scrollbar"))
-        SetupScrollBar(TargetForm->host().ScrollBar, *frame);
-}
-
-struct Redraw {
-    std::string_view name;  // of the selected control
-    void (*draw)(PanelParts&);
-};
-constexpr std::array Redraws = {
-    Redraw{"Element", RedrawBoundElement},
-    Redraw{"pInfo", RedrawBoundElement},
-    Redraw{"pMain", RedrawBoundElement},
-    Redraw{"tbx_Search", RedrawBoundElement},
-    Redraw{"Scrollframe", RedrawBoundElement},
-    Redraw{"btn_SkinProperties",
-           [](PanelParts&) {
-               TargetForm->ShowGrid();  // the background is one of them
-               LayoutKioskPanel();
-               SetupKioskPanel();
-           }},
-    Redraw{"KeyB", [](PanelParts&) { SetupKey(TargetForm->host().KeyB, "KBB"); }},
-    Redraw{"KeyN", [](PanelParts&) { SetupKey(TargetForm->host().KeyN, "KBN"); }},
-    Redraw{"KeyE", [](PanelParts&) { SetupKey(TargetForm->host().KeyE, "KBE"); }},
-    Redraw{"KeyU", [](PanelParts&) { SetupKey(TargetForm->host().KeyU, "KBU"); }},
-    Redraw{"KeyS", [](PanelParts&) { SetupKey(TargetForm->host().KeyS, "KBS"); }},
-    Redraw{"lbl_SL",
-           [](PanelParts&) {
-               LayoutKioskPanel();
-               SetupSearchLetters();
-           }},
-    Redraw{"lbl_Kiosk", [](PanelParts&) { SetupKioskLabels(); }},
-    Redraw{"ScrollBar", RedrawScrollBar},
-    Redraw{"but_AddAll", [](PanelParts&) { SetupAddAllButton(TargetForm->host().but_AddAll); }},
-    Redraw{"but_Info",
-           [](PanelParts&) {
-               SetupInfoButton(TargetForm->host().but_Info);
-               LayoutKioskPanel();
-           }},
-    Redraw{"but_Song", RedrawSongs},
-    Redraw{"but_Song2", RedrawSongs},
-    Redraw{"but_Picture", [](PanelParts&) { LayoutKioskPanel(); }},
-};
 
 }  // namespace
 
 void tmrUpdate_Timer(PanelParts& parts) {
     parts.tmrUpdate.stop();  // first: a composition may hide the panel, which draws what still waits
-    const auto row = std::find_if(Redraws.begin(), Redraws.end(), [](const Redraw& redraw) {
-        return SelControl && SelControl->Name == redraw.name;
-    });
-    Attempt([&] { row == Redraws.end() ? UpdateCurrentLayout(parts) : row->draw(parts); });
+    Attempt([&] { RedrawSelected(parts); });
     objSkin->Dirty = true;
     parts.canvas.UpdateCaption();
 }

@@ -1,37 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "properties/pref_sheet.h"
 
-#include <algorithm>
-#include <array>
-
 #include "base/text.h"
+#include "render/sample_families.h"
 
 namespace ornavo {
 namespace {
-
-struct Sample {
-    std::string_view controlName, heading, prefix, suffix;
-    bool showsSize;
-};
-// clang-format off
-constexpr std::array Samples = {
-    Sample{"btn_SkinProperties", "Skin Properties", "SP", "", false},
-    Sample{"cmd_Button", "Command Button (1 Row)", "CB", "S", true},
-    Sample{"cmd_Button2", "Command Button (2 Rows)", "CB", "D", true},
-    Sample{"but_AddAll", "Add All Button", "AA", "", true},
-    Sample{"but_Info", "Info Button", "IN", "", false},
-    Sample{"but_Song", "Main Button (Song & Artist)", "SO", "D", false},
-    Sample{"but_Song2", "Main Button (Song only)", "SO", "S", false},
-    Sample{"KeyN", "Key General", "KB", "N", true},
-    Sample{"KeyE", "Key Enter", "KB", "E", true},
-    Sample{"KeyS", "Key Space", "KB", "S", true},
-    Sample{"KeyU", "Key Shift", "KB", "U", true},
-    Sample{"KeyB", "Key Backspace", "KB", "B", true},
-    Sample{"lbl_SL", "Search Letters", "SL", "", false},
-    Sample{"but_Picture", "Album/Artist Picture", "PI", "", false},
-    Sample{"lbl_Kiosk", "General Labels", "LA", "", false},
-};
-// clang-format on
 
 SheetRow Heading(std::string caption) {
     return {std::move(caption), KindHeading, 0, ""};
@@ -70,14 +44,13 @@ void AddSkinProp(Sheet& sheet, const dbSkinPrefs& prefs, std::string_view prefix
 }
 
 Sheet SampleSheet(const dbSkinPrefs& prefs, std::string_view controlName, const Rect& bounds) {
-    const auto sample = std::find_if(Samples.begin(), Samples.end(),
-                                     [&](const Sample& one) { return one.controlName == controlName; });
-    if (sample == Samples.end()) return {};
-    std::string heading(sample->heading);
-    if (sample->showsSize)
+    const SampleFamily* family = FindSample(controlName);
+    if (!family) return {};
+    std::string heading(family->heading);
+    if (family->headingSize == HeadingSize::Told)
         heading += " - " + std::to_string(bounds.width) + " x " + std::to_string(bounds.height) + " Pixel";
     Sheet sheet = {Heading(std::move(heading))};
-    AddSkinProp(sheet, prefs, sample->prefix, sample->suffix);
+    AddSkinProp(sheet, prefs, family->prefix, family->suffix);
     return sheet;
 }
 

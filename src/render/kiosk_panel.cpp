@@ -6,6 +6,7 @@
 #include "document/current_skin.h"
 #include "render/layout_host.h"
 #include "render/prefs.h"
+#include "render/sample_families.h"
 #include "render/search_letters.h"
 #include "render/standard_elements.h"
 #include "render/style_builders.h"
@@ -41,9 +42,9 @@ int Length(double pixels) {
     return whole;
 }
 
-Measures Measure(const LayoutHost& host) {
+Measures Measure(const PictureBox& pMain) {
     Measures m;
-    const Rect panel = host.pMain.Bounds();
+    const Rect panel = pMain.Bounds();
     double adSpace = 0;
     Attempt([&] {
         const dbLayoutElement& main = *objCurrentLayout->dbLayoutElements->Item("Main");
@@ -72,23 +73,23 @@ void Place(Control& control, Statements... statements) {
     control.Move(bounds);
 }
 
-void PlaceSongs(LayoutHost& host, const Measures& m) {
+void PlaceSongs(SamplePanel& sample, const Measures& m) {
     const auto row = [&](Rect& at) { at.left = m.panelLeft; };
     const auto width = [&](Rect& at) { at.width = Length(m.songWidth); };
-    Place(host.but_Song, row, width, [&](Rect& at) { at.top = m.panelTop; });
-    host.but_Song.Refresh();
-    const Rect first = host.but_Song.Bounds();
+    Place(sample.but_Song, row, width, [&](Rect& at) { at.top = m.panelTop; });
+    sample.but_Song.Refresh();
+    const Rect first = sample.but_Song.Bounds();
     Place(
-        host.but_Info,
+        sample.but_Info,
         [&](Rect& at) { at.left = ToLong(Real(first.left) + m.songWidth + Number("IN_Margin")); },
         [&](Rect& at) {
             at = {at.left, m.panelTop, InfoWidth, InfoHeight};
         },
         [&](Rect& at) { at.width = Length(Number("IN_Width")); },
         [&](Rect& at) { at.height = Length(Number("IN_Height")); });
-    Place(host.but_Song2, row, width,
+    Place(sample.but_Song2, row, width,
           [&](Rect& at) { at.top = ToLong(Real(first.top) + first.height + Number("SO_Margin")); });
-    host.but_Song2.Refresh();
+    sample.but_Song2.Refresh();
 }
 
 void SetupLabel(Label& label, std::string_view colourKey) {
@@ -98,8 +99,8 @@ void SetupLabel(Label& label, std::string_view colourKey) {
 }
 
 /// Below the picture at these bounds, the shadow moved by a part of its size.
-void PlaceLabels(LayoutHost& host, const Rect& picture) {
-    Label &label = host.but_Label, &shadow = host.but_LabelShadow;
+void PlaceLabels(SamplePanel& sample, const Rect& picture) {
+    Label &label = sample.but_Label, &shadow = sample.but_LabelShadow;
     const auto move = [&](Label& one, double left, double top) {
         one.Move({ToLong(left), ToLong(top), picture.width, one.Bounds().height});
     };
@@ -116,8 +117,8 @@ void PlaceLabels(LayoutHost& host, const Rect& picture) {
     label.Alignment = shadow.Alignment = Pref("PI_TextAlign").value.ToLong();
 }
 
-void ShowLabels(LayoutHost& host) {
-    Label &label = host.but_Label, &shadow = host.but_LabelShadow;
+void ShowLabels(SamplePanel& sample) {
+    Label &label = sample.but_Label, &shadow = sample.but_LabelShadow;
     label.Caption = shadow.Caption = PictureText;
     label.Refresh();
     shadow.Refresh();
@@ -128,44 +129,45 @@ void ShowLabels(LayoutHost& host) {
 
 /// The album picture, its shadow, its label and the button in its corner: a square of `size` pixels at x, y.
 /// Not guarded: what fails ends it, and what comes after it stays as it was.
-void SetupPictures(int size, int x, int y) {
-    LayoutHost& host = TargetForm->host();
-    TileButton& picture = host.but_Picture;
+void SetupPictures(SamplePanel& sample, int size, int x, int y) {
+    TileButton& picture = sample.but_Picture;
     picture.State.ShowBorder = Pref("PI_PictureBorder").value.ToBoolean();
     picture.State.BorderColor = Pref("PI_PictureBorderColor").value.ToLong();
-    SetupLabel(host.but_Label, "PI_TextColor");
-    SetupLabel(host.but_LabelShadow, "PI_TextShadowColor");
+    SetupLabel(sample.but_Label, "PI_TextColor");
+    SetupLabel(sample.but_LabelShadow, "PI_TextShadowColor");
     picture.Move({x, y, size, size});
-    host.but_Shadow.Move({ToLong(Real(x) + PictureGap), ToLong(Real(y) + PictureGap), size, size});
-    PlaceLabels(host, {x, y, size, size});
+    sample.but_Shadow.Move({ToLong(Real(x) + PictureGap), ToLong(Real(y) + PictureGap), size, size});
+    PlaceLabels(sample, {x, y, size, size});
     picture.RefreshElements();
     picture.setVisible(true);
-    host.but_Shadow.setVisible(Pref("PI_PictureShadow").value.ToBoolean());
-    host.but_Shadow.SetBackColor(Pref("PI_PictureShadowColor").value.ToLong());
-    ShowLabels(host);
-    const Rect button = host.but_AddAll.Bounds();
-    host.but_AddAll.Move({ToLong(Real(x) + size - button.width + 1), ToLong(Real(y) + size - button.height),
-                          button.width, button.height});
-    host.but_AddAll.setVisible(true);
-    host.but_AddAll.ZOrder();
+    sample.but_Shadow.setVisible(Pref("PI_PictureShadow").value.ToBoolean());
+    sample.but_Shadow.SetBackColor(Pref("PI_PictureShadowColor").value.ToLong());
+    ShowLabels(sample);
+    const Rect button = sample.but_AddAll.Bounds();
+    sample.but_AddAll.Move({ToLong(Real(x) + size - button.width + 1), ToLong(Real(y) + size - button.height),
+                            button.width, button.height});
+    sample.but_AddAll.setVisible(true);
+    sample.but_AddAll.ZOrder();
 }
 
 }  // namespace
 
 void LayoutKioskPanel() {
     LayoutHost& host = TargetForm->host();
-    const Measures m = Measure(host);
-    Place(host.lbl_Kiosk, [&](Rect& at) { at.top = FloorToLong(m.panelHeight / 2.0); });
-    Place(host.lbl_KioskShadow, [&](Rect& at) { at.top = FloorToLong(m.panelHeight / 2.0) + 1; });
+    SamplePanel& sample = host.sample;
+    const Measures m = Measure(host.pMain);
+    Place(sample.lbl_Kiosk, [&](Rect& at) { at.top = FloorToLong(m.panelHeight / 2.0); });
+    Place(sample.lbl_KioskShadow, [&](Rect& at) { at.top = FloorToLong(m.panelHeight / 2.0) + 1; });
     Attempt([&] {
-        SetupPictures(m.pictureSize, ToLong(Real(m.panelWidth) - m.pictureSize - m.marginRight), m.marginTop);
+        SetupPictures(sample, m.pictureSize, ToLong(Real(m.panelWidth) - m.pictureSize - m.marginRight),
+                      m.marginTop);
     });
-    PlaceSongs(host, m);
-    for (dbLine* line : host.kLine) line->SetX2(m.panelWidth);
-    host.kLine[1]->SetY1(m.panelHeight);
-    host.kLine[1]->SetY2(m.panelHeight);
+    PlaceSongs(sample, m);
+    for (dbLine& line : sample.kLine) line.SetX2(m.panelWidth);
+    sample.kLine[1].SetY1(m.panelHeight);
+    sample.kLine[1].SetY2(m.panelHeight);
     Place(
-        host.pKeyb, [&](Rect& at) { at.left = m.panelLeft; },
+        sample.pKeyb, [&](Rect& at) { at.left = m.panelLeft; },
         [&](Rect& at) { at.top = ToLong(Real(m.panelHeight) - at.height + m.marginTop); });
     host.ScrollBar.Refresh();
     host.Scrollframe.Refresh();
@@ -173,19 +175,12 @@ void LayoutKioskPanel() {
 
 void SetupKioskPanel() {
     LayoutHost& host = TargetForm->host();
-    host.but_Picture.Picture = SampleAlbum();
-    SetupSongButton(host.but_Song, 0);
-    SetupSongButton(host.but_Song2, 1);
-    SetupAddAllButton(host.but_AddAll);
-    SetupInfoButton(host.but_Info);
+    SamplePanel& sample = host.sample;
+    sample.but_Picture.Picture = SampleAlbum();
+    for (const SampleFamily& family : SampleFamilies()) StyleButton(sample, family);
     if (const dbLayoutElementRef bar = objCurrentLayout->dbLayoutElements->Find("Scrollbar"))
         SetupScrollBar(host.ScrollBar, *bar);
     SetupSearchBox(host.tbx_Search);
-    SetupKey(host.KeyN, "KBN");
-    SetupKey(host.KeyB, "KBB");
-    SetupKey(host.KeyE, "KBE");
-    SetupKey(host.KeyU, "KBU");
-    SetupKey(host.KeyS, "KBS");
     SetupKioskLabels();
     TargetForm->ShowForm();
     SetupSearchLetters();

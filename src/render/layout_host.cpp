@@ -6,18 +6,32 @@
 
 namespace ornavo {
 
-LayoutHost::LayoutHost(QWidget& window, ControlEvents* events)
-    : SamplePanel(window, events),
+namespace {
+
+template <class T>
+T* Listening(T* control, ControlEvents* listener) {
+    control->Listen(listener);
+    control->setVisible(false);
+    return control;
+}
+
+}  // namespace
+
+LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
+    : pMain(&window, "pMain"),
+      sample(pMain, listener),
       window_(window),
-      cover_(*new QWidget(&window)),
-      Element([&window, this](int i) { return Listening(new TileButton(&window, "Element", i)); }),
-      pInfo([&window, this](int i) { return Listening(new PictureBox(&window, "pInfo", i)); }),
-      pMainBack(*new PictureBox(&window, "pMainBack")),
-      tbx_Search(*new TextBox(&window, "tbx_Search")),
-      Scrollframe(*new TileButton(&window, "Scrollframe")),
-      ScrollBar(*new TileButton(&window, "ScrollBar")) {
-    for (Control* single : std::initializer_list<Control*>{&pMainBack, &tbx_Search, &Scrollframe, &ScrollBar})
-        Listening(single);
+      cover_(&window),
+      Element(
+          [&window, listener](int i) { return Listening(new TileButton(&window, "Element", i), listener); }),
+      pInfo([&window, listener](int i) { return Listening(new PictureBox(&window, "pInfo", i), listener); }),
+      pMainBack(&window, "pMainBack"),
+      tbx_Search(&window, "tbx_Search"),
+      Scrollframe(&window, "Scrollframe"),
+      ScrollBar(&window, "ScrollBar") {
+    for (Control* single :
+         std::initializer_list<Control*>{&pMain, &pMainBack, &tbx_Search, &Scrollframe, &ScrollBar})
+        Listening(single, listener);
     cover_.setAttribute(Qt::WA_TransparentForMouseEvents);
     cover_.hide();
     // It stands for the jukebox's box: nobody types into the picture of it.

@@ -7,23 +7,25 @@
 
 namespace ornavo {
 
-class LayoutHost : public SamplePanel {
+class LayoutHost {
 public:
-    /// The controls become children of the window and are freed with it. The listener of events hears their
-    /// mouse.
-    LayoutHost(QWidget& window, ControlEvents* events);
+    /// The controls become children of the window. The listener hears their mouse.
+    LayoutHost(QWidget& window, ControlEvents* listener);
+
+    PictureBox pMain;
+    SamplePanel sample;  // stands on pMain
 
 private:
     QWidget& window_;
-    QWidget& cover_;  // never seen; see ClearElements
+    QWidget cover_;  // never seen; see ClearElements
 
 public:
     Pool<TileButton> Element;
     Pool<PictureBox> pInfo;
-    PictureBox& pMainBack;  // never shown; holds the panel's background picture
-    TextBox& tbx_Search;
-    TileButton& Scrollframe;
-    TileButton& ScrollBar;
+    PictureBox pMainBack;  // never shown; holds the panel's background picture
+    TextBox tbx_Search;
+    TileButton Scrollframe;
+    TileButton ScrollBar;
 
     int GetFreeElement() { return Element.GetFree(); }
     int GetFreeInfo() { return pInfo.GetFree(); }

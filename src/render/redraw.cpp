@@ -8,7 +8,10 @@
 #include "render/element_info.h"
 #include "render/element_roads.h"
 #include "render/kiosk_panel.h"
+#include "render/sample_families.h"
+#include "render/search_letters.h"
 #include "render/standard_elements.h"
+#include "render/style_builders.h"
 #include "render/target.h"
 #include "render/view_switches.h"
 
@@ -84,6 +87,34 @@ void RedrawElement(dbLayoutElement& element) {
     if (!viewSwitches.ShowElements) return;
     const auto type = static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table
     if (type < Roads.size()) Roads[type](element, TargetForm->host());
+}
+
+bool RedrawSample(const SampleFamily& family) {
+    SamplePanel& sample = TargetForm->host().sample;
+    switch (family.redraw) {
+        case Redraw::Layout:
+            return false;
+        case Redraw::Panel:
+            TargetForm->ShowGrid();  // the background is one of its preferences
+            LayoutKioskPanel();
+            SetupKioskPanel();
+            break;
+        case Redraw::Button:
+            StyleButton(sample, family);
+            break;
+        case Redraw::Places:
+            for (const SampleFamily& one : SampleFamilies())
+                if (one.prefix == family.prefix) StyleButton(sample, one);
+            LayoutKioskPanel();
+            break;
+        case Redraw::Letters:
+            LayoutKioskPanel();
+            SetupSearchLetters();
+            break;
+        case Redraw::Labels:
+            SetupKioskLabels();
+    }
+    return true;
 }
 
 }  // namespace ornavo

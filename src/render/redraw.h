@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One element of the composed layout shown anew after an edit, the others left alone.
+// What an edit has changed of the composed layout is shown anew, the rest left alone.
 #pragma once
 
 #include "document/dblayoutelements.h"
@@ -7,6 +7,7 @@
 namespace ornavo {
 
 class Control;
+struct SampleFamily;
 
 /// The control that shows the element, on the target. One without a size, which has none, gets a hidden one
 /// that it keeps until the next composition. Its Tag is the element's key.
@@ -16,5 +17,8 @@ Control& ControlOf(dbLayoutElement& element);
 /// and is hidden, if it is a button, a picture, a volume or an info. Draws nothing for other types than 0
 /// to 6.
 void RedrawElement(dbLayoutElement& element);
+
+/// What the preferences of the family say. False where only a composition shows it.
+bool RedrawSample(const SampleFamily& family);
 
 }  // namespace ornavo

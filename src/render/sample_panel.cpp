@@ -12,36 +12,19 @@ constexpr int KeyHeight = 32, KeyGap = 4;  // a key's caption starts 3 pixels be
 
 }  // namespace
 
-SamplePanel::SamplePanel(QWidget& window, ControlEvents* events)
-    : listener(events),
-      pMain(*Listening(new PictureBox(&window, "pMain"))),
-      kLine{new dbLine(&pMain, "kLine", 0), new dbLine(&pMain, "kLine", 1)},
-      lbl_KioskShadow(*new Label(&pMain, "lbl_KioskShadow")),
-      lbl_Kiosk(*new Label(&pMain, "lbl_Kiosk")),
-      but_Shadow(*new PictureBox(&pMain, "but_Shadow")),
-      but_Picture(*new TileButton(&pMain, "but_Picture")),
-      but_LabelShadow(*new Label(&pMain, "but_LabelShadow")),
-      but_Label(*new Label(&pMain, "but_Label")),
-      but_Song(*new TileButton(&pMain, "but_Song")),
-      but_Song2(*new TileButton(&pMain, "but_Song2")),
-      but_Info(*new TileButton(&pMain, "but_Info")),
-      pKeyb(*new Control(&pMain, "pKeyb")),
-      KeyU(*new TileButton(&pKeyb, "KeyU")),
-      KeyN(*new TileButton(&pKeyb, "KeyN")),
-      KeyS(*new TileButton(&pKeyb, "KeyS")),
-      KeyB(*new TileButton(&pKeyb, "KeyB")),
-      KeyE(*new TileButton(&pKeyb, "KeyE")),
-      but_AddAll(*new TileButton(&pMain, "but_AddAll")),
-      lbl_SL([this](int i) { return Listening(new TileButton(&pMain, "lbl_SL", i)); }) {
-    for (Control* clickable :
-         std::initializer_list<Control*>{&lbl_Kiosk, &but_Picture, &but_Label, &but_Song, &but_Song2,
-                                         &but_Info, &KeyU, &KeyN, &KeyS, &KeyB, &KeyE, &but_AddAll})
-        clickable->Listen(listener);
+SamplePanel::SamplePanel(PictureBox& panel, ControlEvents* listener)
+    : pMain(panel), lbl_SL([&panel, listener](int i) {
+          auto* row = new TileButton(&panel, "lbl_SL", i);
+          row->Listen(listener);
+          row->setVisible(false);
+          return row;
+      }) {
+    for (Control* control : panel.findChildren<Control*>()) control->Listen(listener);
     // What only adorns the panel leaves the mouse to it.
-    for (Control* adornment :
-         std::initializer_list<Control*>{kLine[0], kLine[1], &lbl_KioskShadow, &but_Shadow, &but_LabelShadow})
+    for (Control* adornment : std::initializer_list<Control*>{&kLine[0], &kLine[1], &lbl_KioskShadow,
+                                                              &but_Shadow, &but_LabelShadow})
         adornment->setAttribute(Qt::WA_TransparentForMouseEvents);
-    for (dbLine* line : kLine) line->BorderColor = GuideColour;
+    for (dbLine& line : kLine) line.BorderColor = GuideColour;
     for (Label* caption : {&lbl_Kiosk, &lbl_KioskShadow}) {
         caption->AutoSize = true;
         caption->Caption = Caption;

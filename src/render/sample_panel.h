@@ -15,29 +15,29 @@
 namespace ornavo {
 
 struct SamplePanel {
-    /// The controls become children of the window, the panel, and the strip of keys; all are freed with it.
-    SamplePanel(QWidget& window, ControlEvents* events);
+    /// The listener hears the mouse of all of them.
+    SamplePanel(PictureBox& panel, ControlEvents* listener);
 
-    ControlEvents* const listener;  // before the pool, which uses it
     PictureBox& pMain;
-    std::array<dbLine*, 2> kLine;
-    Label &lbl_KioskShadow, &lbl_Kiosk;
-    Control& but_Shadow;
-    TileButton& but_Picture;
-    Label &but_LabelShadow, &but_Label;
-    TileButton &but_Song, &but_Song2, &but_Info;
-    Control& pKeyb;  // holds the keys; what it shows of itself is nothing
-    TileButton &KeyU, &KeyN, &KeyS, &KeyB, &KeyE;
-    TileButton& but_AddAll;
+    std::array<dbLine, 2> kLine{dbLine(&pMain, "kLine", 0), dbLine(&pMain, "kLine", 1)};
+    Label lbl_KioskShadow{&pMain, "lbl_KioskShadow"};
+    Label lbl_Kiosk{&pMain, "lbl_Kiosk"};
+    PictureBox but_Shadow{&pMain, "but_Shadow"};
+    TileButton but_Picture{&pMain, "but_Picture"};
+    Label but_LabelShadow{&pMain, "but_LabelShadow"};
+    Label but_Label{&pMain, "but_Label"};
+    TileButton but_Song{&pMain, "but_Song"};
+    TileButton but_Song2{&pMain, "but_Song2"};
+    TileButton but_Info{&pMain, "but_Info"};
+    Control pKeyb{&pMain, "pKeyb"};  // the strip of keys, cut out between them
+    TileButton KeyU{&pKeyb, "KeyU"};
+    TileButton KeyN{&pKeyb, "KeyN"};
+    TileButton KeyS{&pKeyb, "KeyS"};
+    TileButton KeyB{&pKeyb, "KeyB"};
+    TileButton KeyE{&pKeyb, "KeyE"};
+    TileButton but_AddAll{&pMain, "but_AddAll"};
     Pool<TileButton> lbl_SL;  // a row of letters each; slot 0 is hidden
     ImageList img_Kiosk;
-
-    template <class T>
-    T* Listening(T* control) const {
-        control->Listen(listener);
-        control->setVisible(false);
-        return control;
-    }
 
 private:
     void PlaceKeys();

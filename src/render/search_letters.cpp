@@ -5,8 +5,8 @@
 #include "base/numbers.h"
 #include "render/layout_host.h"
 #include "render/prefs.h"
+#include "render/sample_families.h"
 #include "render/skin_picture.h"
-#include "render/style_builders.h"
 #include "render/target.h"
 
 namespace ornavo {
@@ -29,6 +29,7 @@ int GetFreeLetter(Pool<TileButton>& pool) {
 }
 
 struct Column {
+    const SampleFamily& letters;
     int height = 0;     // of all rows
     int rowHeight = 0;  // of a letter
     int border = 0;
@@ -36,7 +37,7 @@ struct Column {
 };
 
 Column MeasureColumn(const LayoutHost& host) {
-    Column column;
+    Column column = {*FindSample("lbl_SL")};
     const double panelHeight = host.pMain.Bounds().height;
     Attempt([&] { column.height = ToLong(panelHeight - SafeLong(PrefText("SP_KioskAdSpace"))); });
     column.rowHeight = FloorToLong((column.height - 1.0) / Letters);
@@ -51,7 +52,7 @@ void PlaceRow(TileButton& row, int top, int height) {
 }
 
 void SetupRow(TileButton& row, int number, const Column& column) {
-    StyleLetter(row);
+    column.letters.style(column.letters, row);
     TileLayer& layer = row.Elements.Item("Caption");
     const bool isSelected = number == SelectedRow, isLetter = number <= Letters;
     Attempt([&] { layer.ForeColor = Pref(isSelected ? "SL_SelTextColor" : "SL_TextColor").value.ToLong(); });
@@ -76,10 +77,10 @@ void SetupRow(TileButton& row, int number, const Column& column) {
 
 void SetupSearchLetters() {
     LayoutHost& host = TargetForm->host();
-    HideLetters(host.lbl_SL);
+    HideLetters(host.sample.lbl_SL);
     const Column column = MeasureColumn(host);
     for (int number = 1; number <= Letters + 1; ++number)
-        SetupRow(host.lbl_SL[GetFreeLetter(host.lbl_SL)], number, column);
+        SetupRow(host.sample.lbl_SL[GetFreeLetter(host.sample.lbl_SL)], number, column);
 }
 
 }  // namespace ornavo

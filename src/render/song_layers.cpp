@@ -58,7 +58,7 @@ constexpr IconRow Party = {"Party", "Party", "SOD_IconsUserAlign", "SOD_IconsUse
 TileLayer& AddIcon(TileButton& button, const IconRow& row, std::string_view image) {
     TileLayer& layer = button.Elements.Add(row.layer);
     layer.IsText = false;
-    if (!image.empty()) Attempt([&] { layer.Picture = TargetForm->host().img_Kiosk.Item(image); });
+    if (!image.empty()) Attempt([&] { layer.Picture = TargetForm->host().sample.img_Kiosk.Item(image); });
     TakeWhole(layer.Alignment, row.align);
     TakeNumber(layer.Left, row.left);
     TakeNumber(layer.Top, row.top);
@@ -99,11 +99,12 @@ void TakeFont(TileLayer& layer, std::string_view key, double defaultSize) {
     layer.Height = TextHeight(layer.Font);
 }
 
-void SetupSongLayers(TileButton& button, int mode) {
+void SetupSongLayers(TileButton& button, SongRow row) {
+    const bool isOneLine = row == SongRow::OneLine;
     button.Elements.Clear();
-    AddText(button, mode == 0 ? SongOfTwo : SongOfOne);
-    AddIcon(button, Icon, mode == 1 ? Icon.image : "");
-    if (mode == 1) return;
+    AddText(button, isOneLine ? SongOfOne : SongOfTwo);
+    AddIcon(button, Icon, isOneLine ? Icon.image : "");
+    if (isOneLine) return;
     AddText(button, Artist);
     AddIcon(button, Favorite, Favorite.image);
     AddIcon(button, Party, Party.image).Left += IconStep;

@@ -8,8 +8,10 @@
 
 namespace ornavo {
 
-/// All layers anew. Mode 0 is the row of two lines, mode 1 that of one.
-void SetupSongLayers(TileButton& button, int mode);
+enum class SongRow { TwoLines, OneLine };
+
+/// All layers anew.
+void SetupSongLayers(TileButton& button, SongRow row);
 
 /// A text layer's font from a preference, and the layer's height with it.
 void TakeFont(TileLayer& layer, std::string_view key, double defaultSize);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "render/style_builders.h"
 
-#include <array>
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <type_traits>
@@ -12,6 +10,7 @@
 #include "render/key_colour.h"
 #include "render/layout_host.h"
 #include "render/prefs.h"
+#include "render/sample_family.h"
 #include "render/skin_picture.h"
 #include "render/song_layers.h"
 #include "render/target.h"
@@ -19,31 +18,17 @@
 namespace ornavo {
 namespace {
 
-struct Family;
-
-/// A button under its family: where a step reads and what it sets.
+/// A button and its family: where a step reads and what it sets.
 struct Styling {
-    const Family& family;
+    const SampleFamily& family;
     TileButton& button;
-    std::string_view pictures;  // prefix of the three pictures' keys
-    int mode;                   // of a song row
 
-    Value Read(std::string_view name) const;
+    Value Read(std::string_view name) const {
+        return Pref(std::string(family.prefix).append("_").append(name)).value;
+    }
 };
 
 using Step = void (*)(const Styling&);
-
-struct Family {
-    std::string_view prefix;
-    std::span<const Step> steps;
-    std::string_view fontKey;
-    double fontSize;  // of a font made on first use, points
-    bool hasText;     // the caption has its text from the preference
-};
-
-Value Styling::Read(std::string_view name) const {
-    return Pref(std::string(family.prefix).append("_").append(name)).value;
-}
 
 /// One statement of a step: a preference by its name without the prefix, converted to the field's type.
 template <class T>
@@ -114,54 +99,51 @@ void Rotation(const Styling& s) {
     });
 }
 
-void Pictures(const Styling& s) {
+void TakePictures(const Styling& s, const std::string& prefix) {
     TileButton& button = s.button;
     const auto take = [&](PictureRef& plain, std::string& animated, const char* name) {
-        Attempt([&] { SetTilePicture(plain, animated, PrefText(std::string(s.pictures) + name)); });
+        Attempt([&] { SetTilePicture(plain, animated, PrefText(prefix + name)); });
     };
     take(button.Picture, button.AniPicture, "_Picture");
     take(button.PictureDown, button.AniPictureDown, "_PictureDown");
     take(button.PictureOver, button.AniPictureOver, "_PictureOver");
 }
 
+void Pictures(const Styling& s) {
+    TakePictures(s, std::string(s.family.prefix));
+}
+
+void KeyPictures(const Styling& s) {  // each key has its own
+    TakePictures(s, std::string(s.family.prefix).append(s.family.suffix));
+}
+
+void TakeText(TileLayer& layer, const SampleCaption& caption) {
+    layer.Text = caption.text;
+    if (!caption.textKey.empty()) Attempt([&] { layer.Text = PrefText(caption.textKey); });
+    TakeFont(layer, caption.fontKey, caption.fontSize);
+}
+
 void Caption(const Styling& s) {
     s.button.Elements.Clear();
     TileLayer& layer = s.button.Elements.Add("Caption");
-    if (s.family.hasText) Take(s, layer.Text, "Caption");
     Take(s, layer.Top, "CapOffsetY");
     Take(s, layer.Left, "CapOffsetX");
     layer.RightTrim = -layer.Left;
-    TakeFont(layer, s.family.fontKey, s.family.fontSize);
+    TakeText(layer, s.family.caption);
     Take(s, layer.ForeColor, "TextColor");
 }
 
-void Songs(const Styling& s) {
-    SetupSongLayers(s.button, s.mode);
-}
-
-struct KeyCaption {
-    std::string_view prefix, text, textKey, fontKey;
-};
-constexpr std::array KeyCaptions = {
-    KeyCaption{"KBN", "X", "", "KB_Font"},
-    KeyCaption{"KBE", "Enter", "", "KB_Font"},
-    KeyCaption{"KBS", "Space", "", "KB_Font"},
-    KeyCaption{"KBB", "", "KBB_Caption", "KBB_Font"},
-    KeyCaption{"KBU", "", "KBU_Caption", "KBU_Font"},
-};
-
-void KeyLayer(const Styling& s) {
+void KeyCaption(const Styling& s) {
     constexpr float top = 3;
     s.button.Elements.Clear();
     TileLayer& layer = s.button.Elements.Add("Key");
     layer.Top = top;
     Take(s, layer.ForeColor, "TextColor");
-    for (const KeyCaption& key : KeyCaptions) {
-        if (key.prefix != s.pictures) continue;
-        layer.Text = key.text;
-        if (!key.textKey.empty()) Attempt([&] { layer.Text = PrefText(key.textKey); });
-        TakeFont(layer, key.fontKey, s.family.fontSize);
-    }
+    TakeText(layer, s.family.caption);
+}
+
+void Songs(const Styling& s) {
+    SetupSongLayers(s.button, s.family.suffix == "D" ? SongRow::TwoLines : SongRow::OneLine);
 }
 
 constexpr Step InfoSteps[] = {Border,    Shadow, Ground,   Width,    Height,
@@ -170,50 +152,32 @@ constexpr Step AddAllSteps[] = {Border, Shadow, Ground, KeyColour, Smooth, Rotat
 constexpr Step LetterSteps[] = {Border, Shadow,   Ground,   Width,  KeyColour,
                                 Smooth, Rotation, Pictures, Caption};
 constexpr Step SongSteps[] = {Border, Shadow, Ground, KeyColour, Smooth, Rotation, Pictures, Height, Songs};
-constexpr Step KeySteps[] = {Ground, KeyColour, Pictures, Shadow, KeyLayer};
+constexpr Step KeySteps[] = {Ground, KeyColour, KeyPictures, Shadow, KeyCaption};
 
-constexpr Family InfoFamily = {"IN", InfoSteps, "IN_Font", 18, true};
-constexpr Family AddAllFamily = {"AA", AddAllSteps, "AA_Font", 22, true};
-constexpr Family LetterFamily = {"SL", LetterSteps, "SL_Font", 8, false};
-constexpr Family SongFamily = {"SO", SongSteps, "", 0, false};
-constexpr Family KeyFamily = {"KB", KeySteps, "", 16, false};
-
-void Style(const Family& family, TileButton& button, std::string_view pictures, int mode = 0) {
-    const Styling styling = {family, button, pictures, mode};
-    for (const Step step : family.steps) step(styling);
-}
-
-void StyleAndRefresh(const Family& family, TileButton& button) {
-    Style(family, button, family.prefix);
-    button.Refresh();
+void Run(std::span<const Step> steps, const Styling& styling) {
+    for (const Step step : steps) step(styling);
 }
 
 }  // namespace
 
-void SetupInfoButton(TileButton& button) {
-    StyleAndRefresh(InfoFamily, button);
+void SetupInfoButton(const SampleFamily& family, TileButton& button) {
+    Run(InfoSteps, {family, button});
 }
 
-void SetupAddAllButton(TileButton& button) {
-    StyleAndRefresh(AddAllFamily, button);
+void SetupAddAllButton(const SampleFamily& family, TileButton& button) {
+    Run(AddAllSteps, {family, button});
 }
 
-void SetupSongButton(TileButton& button, int mode) {
-    Style(SongFamily, button, SongFamily.prefix, mode);
-    button.Refresh();
+void SetupSongButton(const SampleFamily& family, TileButton& button) {
+    Run(SongSteps, {family, button});
 }
 
-void SetupKey(TileButton& button, std::string_view prefix) {
-    Style(KeyFamily, button, prefix);
-    button.Refresh();
+void SetupKey(const SampleFamily& family, TileButton& button) {
+    Run(KeySteps, {family, button});
 }
 
-void StyleLetter(TileButton& button) {
-    Style(LetterFamily, button, LetterFamily.prefix);
-}
-
-void SetupLetterStyle(TileButton& button) {
-    StyleAndRefresh(LetterFamily, button);
+void StyleLetter(const SampleFamily& family, TileButton& button) {
+    Run(LetterSteps, {family, button});
 }
 
 void SetupSearchBox(TextBox& box) {
@@ -235,26 +199,14 @@ void SetupKioskLabels() {
         Attempt([&] { one.Font = *GetPrefFont("LA_Font", fontSize); });
         one.Refresh();
     };
-    label(host.lbl_Kiosk, "LA_TextColor");
-    label(host.lbl_KioskShadow, "LA_ShadowColor");
-    Attempt([&] { host.lbl_KioskShadow.setVisible(Pref("LA_Shadow").value.ToBoolean()); });
-    TileButton& letters = host.lbl_SL[0];
+    label(host.sample.lbl_Kiosk, "LA_TextColor");
+    label(host.sample.lbl_KioskShadow, "LA_ShadowColor");
+    Attempt([&] { host.sample.lbl_KioskShadow.setVisible(Pref("LA_Shadow").value.ToBoolean()); });
+    TileButton& letters = host.sample.lbl_SL[0];
     Attempt([&] { letters.State.UseShadow = Pref("SL_Shadow").value.ToBoolean(); });
     letters.State.ShadowDistance = 1;
     Attempt([&] { letters.State.ShadowColor = Pref("SL_ShadowColor").value.ToLong(); });
     letters.Refresh();
-}
-
-void TakeTransparentColor(std::string_view prefix) {
-    LayoutHost& host = TargetForm->host();
-    const std::initializer_list<std::pair<std::string_view, TileButton*>> members = {
-        {"AA", &host.but_AddAll}, {"IN", &host.but_Info}, {"SO", &host.but_Song}, {"SO", &host.but_Song2},
-        {"KB", &host.KeyN},       {"KB", &host.KeyB},     {"KB", &host.KeyE},     {"KB", &host.KeyU},
-        {"KB", &host.KeyS},       {"", &host.ScrollBar}};
-    for (const auto& [family, button] : members)
-        if (family == prefix) button->ColourOwner.reset();
-    if (prefix == "SL")
-        for (int slot = 1; slot <= host.lbl_SL.Top(); ++slot) host.lbl_SL[slot].ColourOwner.reset();
 }
 
 }  // namespace ornavo

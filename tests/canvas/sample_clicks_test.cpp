@@ -20,28 +20,13 @@ protected:
 };
 
 TEST_F(SampleClicksTest, AClickOpensItsFamilyWithoutHandles) {
-    Label fourth(&host().pMain, "but_Label", 3);
-    fourth.Listen(host().listener);
-    fourth.Move({300, 100, 50, 20});
-    fourth.show();
+    SamplePanel& sample = host().sample;
     const struct {
         Control& pressed;
         Control& selected;
-    } cases[] = {{host().but_AddAll, host().but_AddAll},
-                 {host().but_Info, host().but_Info},
-                 {host().but_Label, host().but_Picture},
-                 {fourth, host().but_Picture},
-                 {host().but_Picture, host().but_Picture},
-                 {host().but_Song, host().but_Song},
-                 {host().but_Song2, host().but_Song2},
-                 {host().KeyB, host().KeyB},
-                 {host().KeyE, host().KeyE},
-                 {host().KeyN, host().KeyN},
-                 {host().KeyS, host().KeyS},
-                 {host().KeyU, host().KeyU},
-                 {host().lbl_Kiosk, host().lbl_Kiosk},
-                 {host().lbl_SL[5], host().lbl_SL[0]},
-                 {host().lbl_SL[27], host().lbl_SL[0]}};
+    } cases[] = {{sample.but_AddAll, sample.but_AddAll}, {sample.but_Label, sample.but_Picture},
+                 {sample.but_Song2, sample.but_Song2},   {sample.KeyB, sample.KeyB},
+                 {sample.lbl_Kiosk, sample.lbl_Kiosk},   {sample.lbl_SL[27], sample.lbl_SL[0]}};
     for (const auto& c : cases) {
         Click(Bare.x(), Bare.y());
         ASSERT_EQ(SelKey, "Main");
@@ -60,19 +45,20 @@ TEST_F(SampleClicksTest, AClickOpensItsFamilyWithoutHandles) {
         EXPECT_FALSE(objSkin->Dirty) << "no key moves it";
         Compose();
         EXPECT_EQ(SelControl, &c.selected) << "nor does a composition let it go";
-        fourth.show();
     }
 }
 
 TEST_F(SampleClicksTest, WhatOnlyAdornsThePanelLeavesThePressToIt) {
-    const QPoint betweenKeys = host().pKeyb.mapTo(form_.get(), QPoint(host().KeyU.geometry().right() + 2, 9));
-    const QPoint shadow = host().but_Shadow.mapTo(form_.get(), host().but_Shadow.rect().bottomRight());
+    const QPoint betweenKeys =
+        host().sample.pKeyb.mapTo(form_.get(), QPoint(host().sample.KeyU.geometry().right() + 2, 9));
+    const QPoint shadow =
+        host().sample.but_Shadow.mapTo(form_.get(), host().sample.but_Shadow.rect().bottomRight());
     for (const QPoint& at : {betweenKeys, shadow}) {
         anchors().ResetSelection();
         Click(at.x(), at.y());
         EXPECT_EQ(SelKey, "Main");
     }
-    const QPoint song = In(host().but_Song);
+    const QPoint song = In(host().sample.but_Song);
     anchors().ResetSelection();
     Press(song.x(), song.y());
     Release(Bare.x(), Bare.y());
@@ -80,14 +66,14 @@ TEST_F(SampleClicksTest, WhatOnlyAdornsThePanelLeavesThePressToIt) {
 }
 
 TEST_F(SampleClicksTest, TheSampleFollowsThePanelsSize) {
-    const Rect keys = host().pKeyb.Bounds();
+    const Rect keys = host().sample.pKeyb.Bounds();
     Click(Bare.x(), Bare.y());
     const QPoint corner = In(*anchors().Anchor[4]);
     Drag(corner, {-40, -60});
-    EXPECT_EQ(host().pKeyb.Bounds(), (Rect{keys.left, keys.top - 60, keys.width, keys.height}));
-    EXPECT_EQ(host().lbl_SL[27].Bounds().top, 26 * (439 / 26));
+    EXPECT_EQ(host().sample.pKeyb.Bounds(), (Rect{keys.left, keys.top - 60, keys.width, keys.height}));
+    EXPECT_EQ(host().sample.lbl_SL[27].Bounds().top, 26 * (439 / 26));
     Key(Qt::Key_Up, Qt::ShiftModifier);
-    EXPECT_EQ(host().pKeyb.Bounds().top, keys.top - 61);
+    EXPECT_EQ(host().sample.pKeyb.Bounds().top, keys.top - 61);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@ namespace {
 
 class CommitTest : public RowEditTest {
 protected:
-    void SelectSong() { SelectSample(host().but_Song); }
+    void SelectSong() { SelectSample(host().sample.but_Song); }
     static std::string Preference(const char* key) { return objSkin->dbSkinPrefs->Item(key)->value.ToText(); }
 };
 
@@ -118,11 +118,11 @@ TEST_F(CommitTest, WhatHasNoControlOfItsOwnIsDrawnToo) {
     EXPECT_EQ(Canvas({9, 9, 1, 1}).pixelColor(0, 0), QColor(Qt::darkRed));
     Element("Main").HeightY = 200;
     Compose();
-    SelectSample(host().but_Info);
-    const int width = host().but_Song.Bounds().width;
+    SelectSample(host().sample.but_Info);
+    const int width = host().sample.but_Song.Bounds().width;
     Type(*Box("IN_Margin.Value"), "31");
     Tick();
-    EXPECT_EQ(host().but_Song.Bounds().width, width - 30);
+    EXPECT_EQ(host().sample.but_Song.Bounds().width, width - 30);
     Select("Button1");
     Type(*Box("ElementName"), "Play");
     EXPECT_EQ(Combo("ShowElement")->currentText(), "Play");
@@ -187,7 +187,7 @@ TEST_F(CommitTest, AnEditedKeyColourStands) {
     Type(*Box("SO_TransparentColor.Value"), "4711");
     Tick();
     EXPECT_EQ(Preference("SO_TransparentColor"), "4711");
-    EXPECT_EQ(host().but_Song.TransparentColor(), 4711);
+    EXPECT_EQ(host().sample.but_Song.TransparentColor(), 4711);
     Select("Button1");
     Type(*Box("TransparentColor"), "815");
     Tick();
@@ -287,8 +287,8 @@ TEST_F(CommitTest, Garbage) {
                                                 [&] { Select("Scrollbar"); },
                                                 [&] { SelectSample(skin); },
                                                 [&] { SelectSong(); },
-                                                [&] { SelectSample(host().KeyE); },
-                                                [&] { SelectSample(host().lbl_SL[1]); },
+                                                [&] { SelectSample(host().sample.KeyE); },
+                                                [&] { SelectSample(host().sample.lbl_SL[1]); },
                                                 [&] { Select(form_->parts().points.cPointMover[1]); }};
     for (const auto& [text, isKept] : garbage) {
         for (const auto& select : selections) {

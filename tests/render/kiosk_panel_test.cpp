@@ -2,7 +2,7 @@
 #include "render/kiosk_panel.h"
 
 #include "document/codes.h"
-#include "render/search_letters.h"
+#include "render/sample_families.h"
 #include "render/standard_elements.h"
 #include "render/style_builders.h"
 #include "support/failure_number.h"
@@ -36,12 +36,13 @@ protected:
     ScriptedPrompts prompts_;
     Target target_{800, 700};
     LayoutHost& host_ = target_.host();
+    SamplePanel& sample_ = host_.sample;
 };
 
 TEST_F(KioskPanelTest, EverythingFollowsFromTheMarginsAndAFewPreferences) {
     Set("IN_Margin", 5);
     Set("PI_HeightFactor", 2);
-    const int keys = host_.pKeyb.Bounds().height, rowsLeft = 10 + 40;
+    const int keys = sample_.pKeyb.Bounds().height, rowsLeft = 10 + 40;
     const struct {
         int width, height, adSpace, pictureSize, songWidth, infoLeft, middle, keyTop;
     } cases[] = {
@@ -55,37 +56,37 @@ TEST_F(KioskPanelTest, EverythingFollowsFromTheMarginsAndAFewPreferences) {
         Set("SP_KioskAdSpace", c.adSpace);
         NewPanel(c.width, c.height);
         const int pictureLeft = c.width - c.pictureSize - 10;
-        EXPECT_EQ(host_.but_Picture.Bounds(), (Rect{pictureLeft, 10, c.pictureSize, c.pictureSize}));
-        EXPECT_EQ(host_.but_Shadow.Bounds(), (Rect{pictureLeft + 4, 14, c.pictureSize, c.pictureSize}));
-        EXPECT_EQ(host_.but_Song.Bounds(), (Rect{rowsLeft, 10, c.songWidth, 41}));
-        EXPECT_EQ(host_.but_Song2.Bounds(), (Rect{rowsLeft, 52, c.songWidth, 41}));
-        EXPECT_EQ(host_.but_Info.Bounds(), (Rect{c.infoLeft, 10, 40, 41}));
-        EXPECT_EQ(host_.lbl_Kiosk.Bounds().top, c.middle);
-        EXPECT_EQ(host_.lbl_KioskShadow.Bounds().top, c.middle + 1);
-        EXPECT_EQ(host_.pKeyb.Bounds().top, c.keyTop);
-        EXPECT_EQ(host_.pKeyb.Bounds().left, rowsLeft);
-        EXPECT_EQ(host_.kLine[0]->X2(), c.width);
-        EXPECT_EQ(host_.kLine[1]->Y1(), c.height - c.adSpace - 20);
-        const Rect addAll = host_.but_AddAll.Bounds();
+        EXPECT_EQ(sample_.but_Picture.Bounds(), (Rect{pictureLeft, 10, c.pictureSize, c.pictureSize}));
+        EXPECT_EQ(sample_.but_Shadow.Bounds(), (Rect{pictureLeft + 4, 14, c.pictureSize, c.pictureSize}));
+        EXPECT_EQ(sample_.but_Song.Bounds(), (Rect{rowsLeft, 10, c.songWidth, 41}));
+        EXPECT_EQ(sample_.but_Song2.Bounds(), (Rect{rowsLeft, 52, c.songWidth, 41}));
+        EXPECT_EQ(sample_.but_Info.Bounds(), (Rect{c.infoLeft, 10, 40, 41}));
+        EXPECT_EQ(sample_.lbl_Kiosk.Bounds().top, c.middle);
+        EXPECT_EQ(sample_.lbl_KioskShadow.Bounds().top, c.middle + 1);
+        EXPECT_EQ(sample_.pKeyb.Bounds().top, c.keyTop);
+        EXPECT_EQ(sample_.pKeyb.Bounds().left, rowsLeft);
+        EXPECT_EQ(sample_.kLine[0].X2(), c.width);
+        EXPECT_EQ(sample_.kLine[1].Y1(), c.height - c.adSpace - 20);
+        const Rect addAll = sample_.but_AddAll.Bounds();
         EXPECT_EQ(addAll.left + addAll.width, pictureLeft + c.pictureSize + 1);
         EXPECT_EQ(addAll.top + addAll.height, 10 + c.pictureSize);
     }
 }
 
 TEST_F(KioskPanelTest, AStatementThatFailsIsLeftOutAlone) {
-    const Rect addAll = host_.but_AddAll.Bounds();
+    const Rect addAll = sample_.but_AddAll.Bounds();
     objSkin->dbSkinPrefs->Remove("IN_Width");
     Set("IN_ShadowColor", "no colour");
     Set("IN_ShadowDistance", 7);
     Set("PI_TextAlign", "no number");
     Set("PI_HeightFactor", 0);
     Compose(target_);
-    EXPECT_EQ(host_.but_Info.Bounds().width, 40);
-    EXPECT_EQ(host_.but_Info.State.ShadowDistance, 7);
-    EXPECT_EQ(host_.but_Picture.Bounds(), (Rect{690, 10, 0, 0}));
-    EXPECT_EQ(host_.but_Label.Bounds(), (Rect{690, 14, 0, 0})) << "comes before what fails";
-    EXPECT_EQ(host_.but_AddAll.Bounds(), addAll) << "comes after it";
-    EXPECT_TRUE(host_.pKeyb.isVisible());
+    EXPECT_EQ(sample_.but_Info.Bounds().width, 40);
+    EXPECT_EQ(sample_.but_Info.State.ShadowDistance, 7);
+    EXPECT_EQ(sample_.but_Picture.Bounds(), (Rect{690, 10, 0, 0}));
+    EXPECT_EQ(sample_.but_Label.Bounds(), (Rect{690, 14, 0, 0})) << "comes before what fails";
+    EXPECT_EQ(sample_.but_AddAll.Bounds(), addAll) << "comes after it";
+    EXPECT_TRUE(sample_.pKeyb.isVisible());
     EXPECT_TRUE(prompts_.asked.empty());
     Set("SL_Width", 2147483647);
     Set("SP_KioskAdSpace", "2147483647");
@@ -105,8 +106,8 @@ TEST_F(KioskPanelTest, TheLabelShowsWhereThereIsRoomForIt) {
         Set("PI_HeightFactor", c.factor);
         Set("PI_TextShadow", c.shadow);
         LayoutKioskPanel();
-        EXPECT_EQ(host_.but_Label.isVisible(), c.label) << c.factor;
-        EXPECT_EQ(host_.but_LabelShadow.isVisible(), c.labelShadow) << c.factor;
+        EXPECT_EQ(sample_.but_Label.isVisible(), c.label) << c.factor;
+        EXPECT_EQ(sample_.but_LabelShadow.isVisible(), c.labelShadow) << c.factor;
     }
 }
 
@@ -117,11 +118,11 @@ TEST_F(KioskPanelTest, EachFamilyTakesItsPreferences) {
         TileButton& button;
         std::string prefix, pictures;
         bool border, size, smooth;
-    } families[] = {{host_.but_Info, "IN", "IN", true, true, true},
-                    {host_.but_AddAll, "AA", "AA", true, false, true},
-                    {host_.but_Song, "SO", "SO", true, false, true},
-                    {host_.lbl_SL[2], "SL", "SL", true, false, true},
-                    {host_.KeyE, "KB", "KBE", false, false, false}};
+    } families[] = {{sample_.but_Info, "IN", "IN", true, true, true},
+                    {sample_.but_AddAll, "AA", "AA", true, false, true},
+                    {sample_.but_Song, "SO", "SO", true, false, true},
+                    {sample_.lbl_SL[2], "SL", "SL", true, false, true},
+                    {sample_.KeyE, "KB", "KBE", false, false, false}};
     for (const auto& f : families) {
         const auto set = [&](const char* name, Value value) { Set(f.prefix + '_' + name, std::move(value)); };
         set("Shadow", f.prefix == "KB");
@@ -150,17 +151,15 @@ TEST_F(KioskPanelTest, EachFamilyTakesItsPreferences) {
                                         ? "Song Icon Artist Favorite Party Star0 Star1 Star2 Star3 Star4 "
                                         : "Caption ");
     }
-    EXPECT_EQ(host_.KeyN.Elements.Item("Key").Text, "X");
+    EXPECT_EQ(sample_.KeyN.Elements.Item("Key").Text, "X");
     Set("KBU_Caption", "U");
-    SetupKey(host_.KeyU, "KBU");
-    EXPECT_EQ(host_.KeyU.Elements.Item("Key").Text, "U");
+    StyleButton(sample_, *FindSample("KeyU"));
+    EXPECT_EQ(sample_.KeyU.Elements.Item("Key").Text, "U");
 }
 
 TEST_F(KioskPanelTest, ARowOfOneLineHasNoMarksAndStarsGrowFromTheirEnd) {
-    SetupSongButton(host_.but_Song2, 0);
-    SetupSongButton(host_.but_Song2, 1);
-    EXPECT_EQ(Layers(host_.but_Song2), "Song Icon ");
-    EXPECT_EQ(host_.but_Song2.Elements.Item("Song").Text, "Trance");
+    EXPECT_EQ(Layers(sample_.but_Song2), "Song Icon ");
+    EXPECT_EQ(sample_.but_Song2.Elements.Item("Song").Text, "Trance");
     Set("SOD_IconsRateX", 100);
     const struct {
         int alignment;
@@ -168,13 +167,13 @@ TEST_F(KioskPanelTest, ARowOfOneLineHasNoMarksAndStarsGrowFromTheirEnd) {
     } cases[] = {{0, 100, 156}, {1, 156, 100}, {2, 79, 135}};
     for (const auto& c : cases) {
         Set("SOD_IconsRateAlign", c.alignment);
-        SetupSongButton(host_.but_Song, 0);
-        EXPECT_EQ(host_.but_Song.Elements.Item("Star0").Left, c.first) << c.alignment;
-        EXPECT_EQ(host_.but_Song.Elements.Item("Star4").Left, c.last) << c.alignment;
+        StyleButton(sample_, *FindSample("but_Song"));
+        EXPECT_EQ(sample_.but_Song.Elements.Item("Star0").Left, c.first) << c.alignment;
+        EXPECT_EQ(sample_.but_Song.Elements.Item("Star4").Left, c.last) << c.alignment;
     }
-    const ImageList& icons = host_.img_Kiosk;
-    EXPECT_EQ(host_.but_Song.Elements.Item("Star3").Picture, icons.Item("starfull"));
-    EXPECT_EQ(host_.but_Song.Elements.Item("Star4").Picture, icons.Item("StarEmpty"));
+    const ImageList& icons = sample_.img_Kiosk;
+    EXPECT_EQ(sample_.but_Song.Elements.Item("Star3").Picture, icons.Item("starfull"));
+    EXPECT_EQ(sample_.but_Song.Elements.Item("Star4").Picture, icons.Item("StarEmpty"));
     for (const char* key :
          {"StarHalf",  "Lyrics",      "NoParty",        "NoFavorite",    "Rate",      "AlbumGenre",
           "AlbumYear", "ArtistGenre", "LastPlayed",     "PLGen",         "Unplayed",  "db_Script",
@@ -216,10 +215,10 @@ TEST_F(KioskPanelTest, WithoutTheTopLeftRuleTheStoredColourFollowsTheControl) {
     Compose(target_);
     EXPECT_EQ(Get("IN_TransparentColor"), Value(key)) << "the control's wins";
     Set("IN_TransparentColor", 55);
-    TakeTransparentColor("IN");
+    TakeTransparentColor(sample_, "IN");
     Compose(target_);
     EXPECT_EQ(Get("IN_TransparentColor"), Value(55)) << "an edit does";
-    EXPECT_EQ(host_.but_Info.State.TransparentColor, 55);
+    EXPECT_EQ(sample_.but_Info.State.TransparentColor, 55);
     objSkin = std::make_shared<dbSkin>();
     Set("IN_UseTopLeftTransparency", "False");
     Set("IN_TransparentColor", 33);
@@ -252,20 +251,20 @@ TEST_F(KioskPanelTest, TheLettersFillTheColumn) {
         Set("SP_KioskAdSpace", c.adSpace);
         for (int run = 0; run < 2; ++run) {
             NewPanel(700, c.height);
-            ASSERT_EQ(host_.lbl_SL.Top(), 27);
+            ASSERT_EQ(sample_.lbl_SL.Top(), 27);
             for (int row = 1; row <= 26; ++row) {
-                EXPECT_EQ(host_.lbl_SL[row].Bounds(),
+                EXPECT_EQ(sample_.lbl_SL[row].Bounds(),
                           (Rect{0, (row - 1) * c.rowHeight, 40, c.rowHeight + c.border}))
                     << row;
-                EXPECT_TRUE(host_.lbl_SL[row].isVisible());
+                EXPECT_TRUE(sample_.lbl_SL[row].isVisible());
             }
-            EXPECT_EQ(host_.lbl_SL[27].Bounds(), (Rect{0, c.fillerTop, 40, c.fillerHeight}));
-            EXPECT_FALSE(host_.lbl_SL[0].isVisible());
+            EXPECT_EQ(sample_.lbl_SL[27].Bounds(), (Rect{0, c.fillerTop, 40, c.fillerHeight}));
+            EXPECT_FALSE(sample_.lbl_SL[0].isVisible());
         }
     }
     Set("SP_KioskAdSpace", 0);
     NewPanel(700, 1, 0);
-    EXPECT_EQ(host_.lbl_SL[26].Bounds().top, 0) << "no room: all at the top";
+    EXPECT_EQ(sample_.lbl_SL[26].Bounds().top, 0) << "no room: all at the top";
 }
 
 TEST_F(KioskPanelTest, TheSampleOfASelectedLetterIsT) {
@@ -278,15 +277,15 @@ TEST_F(KioskPanelTest, TheSampleOfASelectedLetterIsT) {
     Set("SL_FontSizeFactor", 0.75);
     NewPanel(700, 521);
     for (int row = 1; row <= 26; ++row) {
-        TileButton& letter = host_.lbl_SL[row];
+        TileButton& letter = sample_.lbl_SL[row];
         TileLayer& layer = letter.Elements.Item("Caption");
         EXPECT_EQ(layer.Text, std::string(" ") + static_cast<char>('A' + row - 1) + " ");
         EXPECT_EQ(layer.ForeColor, row == 20 ? 2 : 1);
         EXPECT_EQ(layer.Font.Size, 10);
         EXPECT_EQ(letter.Picture->image.pixelColor(0, 0), QColor(row == 20 ? Qt::green : Qt::red));
     }
-    EXPECT_EQ(host_.lbl_SL[27].Elements.Item("Caption").Text, "");
-    EXPECT_FALSE(host_.lbl_SL[27].PictureOver || host_.lbl_SL[27].PictureDown);
+    EXPECT_EQ(sample_.lbl_SL[27].Elements.Item("Caption").Text, "");
+    EXPECT_FALSE(sample_.lbl_SL[27].PictureOver || sample_.lbl_SL[27].PictureDown);
     EXPECT_EQ(objSkin->dbSkinPrefs->Item("SL_Font")->Font->Size, 8)
         << "the column's size is not the preference's";
 }
