@@ -117,9 +117,11 @@ bool Form::event(QEvent* event) {
     return taken;
 }
 
-/// The desktop moves a hidden window too, when it takes the frame off.
+/// The desktop also moves a window when it takes the frame off or puts it on; what it then tells of the place
+/// knows no frame. It is the user's move only once the window is on the screen.
 void Form::TakeCorner(bool byDesktop) {
-    if (WindowState() == StateNormal && (isVisible() || !byDesktop)) corner_ = pos();
+    const bool onScreen = isVisible() && windowHandle() && windowHandle()->isExposed();
+    if (WindowState() == StateNormal && (onScreen || !byDesktop)) corner_ = pos();
 }
 
 /// What resized the window while it was hidden would have moved it by its frame.

@@ -316,6 +316,26 @@ TEST(Forms, ComeUpMaximisedAndGoBack) {
     EXPECT_EQ(window.TwipBounds(), saved);
 }
 
+/// The desktop tells a place without the frame while it takes the frame off and puts it on again.
+TEST(Forms, ArePlacedByTheUserOnlyOnceTheyAreSeen) {
+    struct : QObject {
+        bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::Move; }
+    } deaf;
+    Window window;
+    window.MoveTwips({300, 450, 6000, 4500});
+    window.show();
+    window.installEventFilter(&deaf);
+    window.move(21, 50);
+    window.removeEventFilter(&deaf);
+    for (const QPoint& corner : {QPoint(20, 30), QPoint(21, 50)}) {
+        QMoveEvent moved(window.pos(), {});
+        QSpontaneKeyEvent::setSpontaneous(&moved);
+        qApp->notify(&window, &moved);
+        EXPECT_EQ(window.Corner(), corner);
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+}
+
 TEST(Forms, APlaceOffEveryScreenComesBack) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     for (const Rect& lost :
