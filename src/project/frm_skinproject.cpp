@@ -338,7 +338,7 @@ void frm_SkinProject::KeepPlace() const {
 }
 
 void frm_SkinProject::StandAlone() {
-    const QPoint corner = pos();
+    const QPoint corner = Corner();
     setParent(nullptr, Qt::Window);
     setAttribute(Qt::WA_QuitOnClose);
     for (QWidget* control : {static_cast<QWidget*>(btn_OpenSkin), static_cast<QWidget*>(btn_CreateNewSkin),

@@ -91,6 +91,7 @@ void LayoutList::Remove(std::string_view key) {
     const int row = indexOfTopLevelItem(gone), last = topLevelItemCount() - 2;  // the last makes a new one
     delete gone;
     setCurrentItem(last > 0 ? topLevelItem(std::min(row, last - 1)) : nullptr);
+    if (currentItem()) scrollToItem(currentItem());  // Qt chose it already, where it stood before
 }
 
 void LayoutList::Rename(std::string_view key, std::string_view name) {

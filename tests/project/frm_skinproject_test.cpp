@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "project/frm_skinproject.h"
 
+#include <QScrollBar>
+
 #include "support/panel_fixture.h"
 
 namespace ornavo::testing {
@@ -127,11 +129,13 @@ TEST_F(PanelTest, DeletingAsks) {
 TEST_F(PanelTest, AfterADeletionAnotherLayoutIsChosen) {
     MakeSkin("Blue", {"One", "Two", "Three"});
     panel_->LoadDebug(PlaceOfSkin("Blue", Root().string()));
-    ClickItem(1);
-    for (const char* next : {"Three", "One", ""}) {
+    panel_->show();
+    ClickItem(0);
+    for (const char* next : {"Two", "Three", ""}) {
         prompts_.answers = {Answer::Yes};
         Press(Qt::Key_Delete);
         if (*next) ExpectShown(next);
+        EXPECT_EQ(List().verticalScrollBar()->value(), 0) << "it is in sight";
         EXPECT_EQ(objCurrentLayout->Key, next);
         for (const QWidget* part :
              {panel_->btn_SkinProperties, panel_->btn_CloneLayout, panel_->btn_SaveToSkin})
