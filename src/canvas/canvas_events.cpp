@@ -83,6 +83,7 @@ void CanvasEvents::MouseUp(Control& control, const Mouse& mouse) {
     pressedTwice_ = nullptr;
     if (parts_.drag.MouseIsDown() && mouse.button != button_) return;
     readOut_.hide();
+    if (!parts_.form.isVisible()) return;  // the preview has come and ended the drag
     // A quick hand's last move may be lost to a later one that waits behind the release.
     if (parts_.drag.MouseIsDown() && OnScreen(control, mouse) != lastPlace_)
         Drag(control, {button_, mouse.shift, mouse.x, mouse.y});

@@ -73,6 +73,7 @@ void Delete(CanvasParts& parts, const Point&, int shift) {
 }
 
 void PopupMenu(CanvasParts& parts, const Point&, int) {
+    if (parts.drag.MouseIsDown()) return;
     const ElementFamily* family = SelControl ? FamilyOf(*SelControl) : nullptr;
     const QWidget& place =
         SelControl && SelControl->window() == &parts.form ? static_cast<QWidget&>(*SelControl) : parts.form;
