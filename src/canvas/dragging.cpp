@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/dragging.h"
 
+#include <array>
+
 #include "base/failure.h"
 #include "canvas/anchors.h"
 #include "canvas/element_families.h"
@@ -13,31 +15,48 @@
 namespace ornavo {
 namespace {
 
+struct ElementDrag {
+    DragKindCode kind;
+    int deadZone;             // pixels, inclusive, within which the drag has not begun
+    bool resetsWhilePlacing;  // a press drops the old selection even while code moves controls
+};
+constexpr std::array<ElementDrag, 5> Drags = {{
+    {DragElement, 1, false},  // in the order of ElementKind
+    {DragMain, 0, true},
+    {DragInfo, 0, true},
+    {DragSearchBox, 0, true},
+    {DragScrollframe, 1, true},
+}};
+
+const ElementDrag& DragOf(const Control& control) {
+    return RowOf(Drags, FamilyOf(control)->kind);
+}
+
 /// The bar's mouse is that of its frame.
 Control& Selectable(CanvasParts& parts, Control& control) {
-    return control.Name == "ScrollBar" ? parts.host.Scrollframe : control;
+    return &control == &parts.host.ScrollBar ? parts.host.Scrollframe : control;
 }
 
 }  // namespace
 
 void Element_MouseDown(CanvasParts& parts, Control& control, const Mouse& mouse) {
-    const ElementFamily& family = *FamilyOf(control);
-    if (family.resetsWhilePlacing || !parts.drag.IsPlacing()) parts.anchors.ResetSelection();
+    const ElementDrag& element = DragOf(control);
+    if (element.resetsWhilePlacing || !parts.drag.IsPlacing()) parts.anchors.ResetSelection();
     if (parts.drag.IsPlacing()) return;
     parts.anchors.PlaceAnchors(&Selectable(parts, control), false);
     if (mouse.button == RightButton) {
-        PopupElementMenu(parts, control.mapToGlobal(QPoint(mouse.x, mouse.y)), family.isStandard);
+        PopupElementMenu(parts, control.mapToGlobal(QPoint(mouse.x, mouse.y)), FamilyOf(control)->isStandard);
         return;
     }
-    parts.drag.Begin(family.dragKind, mouse);
+    parts.drag.Begin(element.kind, mouse);
 }
 
 void Element_MouseMove(CanvasParts& parts, Control& control, const Mouse& mouse) {
-    const ElementFamily& family = *FamilyOf(control);
+    const ElementDrag& element = DragOf(control);
     DragState& drag = parts.drag;
-    if (drag.IsPlacing() || !drag.Is(family.dragKind) || !SelControl) return;
+    if (drag.IsPlacing() || !drag.Is(element.kind) || !SelControl) return;
     const Rect from = parts.anchors.Mover.Bounds();
-    const std::optional<Point> to = DragStep({from.left, from.top}, drag.Way(mouse), family.deadZone,
+    const std::optional<Point> to = DragStep({from.left, from.top}, drag.Way(mouse), element.deadZone,
                                              {viewSwitches.SnapGrid, viewSwitches.GridX, viewSwitches.GridY});
     if (!to) return;
     const Rect now = SelControl->Bounds();
@@ -53,7 +72,7 @@ void Element_MouseUp(CanvasParts& parts, Control& control, const Mouse&) {
     parts.drag.End();
     const bool isWritten = SelControl && !SelKey.empty();
     if (isWritten) WriteSelectedBounds(parts);
-    if (!isWritten && FamilyOf(control)->dragKind == DragElement) return;
+    if (!isWritten && DragOf(control).kind == DragElement) return;
     if (SelControl) parts.windows.properties().Open();
     FocusForm(parts);
 }

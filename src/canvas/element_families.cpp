@@ -2,8 +2,6 @@
 #include "canvas/element_families.h"
 
 #include <QApplication>
-#include <algorithm>
-#include <array>
 
 #include "base/failure.h"
 #include "document/current_skin.h"
@@ -18,15 +16,6 @@
 namespace ornavo {
 namespace {
 
-constexpr std::array Families = {
-    ElementFamily{"Element", DragElement, 1, false, false},
-    ElementFamily{"pMain", DragMain, 0, true, true},
-    ElementFamily{"pInfo", DragInfo, 0, true, false},
-    ElementFamily{"tbx_Search", DragSearchBox, 0, true, true},
-    ElementFamily{"Scrollframe", DragScrollframe, 1, true, true},
-    ElementFamily{"ScrollBar", DragScrollframe, 1, true, true},
-};
-
 template <class T>
 Control* InPool(const Pool<T>& pool, const std::string& tag) {
     for (int i = 1; i <= pool.Top(); ++i)
@@ -35,12 +24,6 @@ Control* InPool(const Pool<T>& pool, const std::string& tag) {
 }
 
 }  // namespace
-
-const ElementFamily* FamilyOf(const Control& control) {
-    const auto found = std::find_if(Families.begin(), Families.end(),
-                                    [&](const ElementFamily& family) { return family.name == control.Name; });
-    return found == Families.end() ? nullptr : &*found;
-}
 
 Control* ElementControl(LayoutHost& host, const std::string& key) {
     for (Control* single : {static_cast<Control*>(&host.pMain), static_cast<Control*>(&host.tbx_Search),
@@ -55,7 +38,7 @@ bool ElementsAreHidden(const Control& control) {
 }
 
 void ScrollBarFollows(CanvasParts& parts) {
-    if (!SelControl || SelControl->Name != "Scrollframe") return;
+    if (SelControl != &parts.host.Scrollframe) return;
     TileButton& bar = parts.host.ScrollBar;
     bar.SetBackColor(0);
     bar.Refresh();

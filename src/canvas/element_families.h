@@ -1,24 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The families of controls that show an element: what they share and where they differ.
+// The controls that show an element, on the canvas.
 #pragma once
 
-#include <string_view>
-
 #include "canvas/canvas_parts.h"
-#include "platform/control.h"
+#include "render/element_kinds.h"
 
 namespace ornavo {
-
-struct ElementFamily {
-    std::string_view name;  // of the control or of its pool
-    int dragKind;
-    int deadZone;             // pixels, inclusive, within which a drag has not begun
-    bool resetsWhilePlacing;  // a press drops the old selection even while code moves controls
-    bool isStandard;          // the layout's own: neither cloned nor deleted
-};
-
-/// Null for any other control. The bar belongs to the family of its frame.
-const ElementFamily* FamilyOf(const Control& control);
 
 /// The control in the window that shows the element with the key; null where none does. That of an element
 /// that is not visible is found too.

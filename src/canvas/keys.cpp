@@ -53,7 +53,7 @@ void NudgeCorner(CanvasParts& parts, const Point& direction, int shift) {
 void NudgeElement(CanvasParts& parts, const Point& direction, int shift) {
     SelControl->Move(NudgeStep(SelControl->Bounds(), direction, shift));
     WriteSelectedBounds(parts);
-    if (SelControl->Name == "pMain") PanelFollows(parts);
+    if (SelControl == &parts.host.pMain) PanelFollows(parts);
     ScrollBarFollows(parts);
     parts.anchors.PlaceAnchors(SelControl, true);
     parts.tmrShowProperties.start();

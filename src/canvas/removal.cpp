@@ -32,7 +32,7 @@ void RemoveElement(CanvasParts& parts) {
     parts.anchors.HideAnchors();
     control.setVisible(false);
     control.Tag.clear();
-    if (control.Name == "pInfo")
+    if (FamilyOf(control)->kind == ElementKind::Info)
         parts.host.pInfo.Released(control.Index);
     else
         parts.host.Element.Released(control.Index);

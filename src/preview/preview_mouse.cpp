@@ -2,7 +2,6 @@
 #include "preview/preview_mouse.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "base/failure.h"
 #include "document/codes.h"
@@ -18,14 +17,15 @@ int ResizedSide(int length, int from, int to) {
     return std::max(LeastPreview, length - (from - to));
 }
 
-/// Null for the control of another pool, and for one that shows no element.
-const dbLayoutElement* PreviewMouse::ElementOf(const Control& control, const char* pool) const {
-    if (!Layout || control.Tag.empty() || control.Name != std::string_view(pool)) return nullptr;
+/// Null for a control of another kind, and for one that shows no element.
+const dbLayoutElement* PreviewMouse::ElementOf(const Control& control, ElementKind kind) const {
+    const ElementFamily* family = FamilyOf(control);
+    if (!Layout || control.Tag.empty() || !family || family->kind != kind) return nullptr;
     return Layout->dbLayoutElements->Find(control.Tag).get();
 }
 
 void PreviewMouse::MouseDown(Control& control, const Mouse& mouse) {
-    if (const dbLayoutElement* element = ElementOf(control, "Element"))
+    if (const dbLayoutElement* element = ElementOf(control, ElementKind::Button))
         Element_MouseDown(*element, mouse);
     else
         MouseMove(control, mouse);  // a click seeks at once
@@ -33,9 +33,9 @@ void PreviewMouse::MouseDown(Control& control, const Mouse& mouse) {
 
 void PreviewMouse::MouseMove(Control& control, const Mouse& mouse) {
     Attempt([&] {
-        if (const dbLayoutElement* element = ElementOf(control, "Element"))
+        if (const dbLayoutElement* element = ElementOf(control, ElementKind::Button))
             Element_MouseMove(*element, mouse);
-        else if (const dbLayoutElement* info = ElementOf(control, "pInfo"))
+        else if (const dbLayoutElement* info = ElementOf(control, ElementKind::Info))
             pInfo_MouseMove(*info, control.Bounds(), mouse);
     });
 }
@@ -46,17 +46,17 @@ void PreviewMouse::MouseUp(Control& control, const Mouse&) {
         dragging_ = false;
         return;
     }
-    if (const dbLayoutElement* element = ElementOf(control, "Element"))
+    if (const dbLayoutElement* element = ElementOf(control, ElementKind::Button))
         Attempt([&] { Element_MouseUp(*element); });
 }
 
 void PreviewMouse::DblClick(Control& control, const Mouse&) {
-    const dbLayoutElement* element = ElementOf(control, "Element");
+    const dbLayoutElement* element = ElementOf(control, ElementKind::Button);
     if (element && element->Dragger) window_.ToggleMaximise();
 }
 
 void PreviewMouse::Repeat(Control& control) {
-    const dbLayoutElement* element = ElementOf(control, "Element");
+    const dbLayoutElement* element = ElementOf(control, ElementKind::Button);
     if (element && (element->ActionType == ActionVolumeUp || element->ActionType == ActionVolumeDown))
         Attempt([&] { Element_MouseUp(*element); });
 }

@@ -9,6 +9,7 @@
 #include "document/dblayouts.h"
 #include "platform/control.h"
 #include "playback/info_show.h"
+#include "render/element_kinds.h"
 
 namespace ornavo {
 
@@ -46,7 +47,7 @@ public:
     void Repeat(Control& control) override;
 
 private:
-    const dbLayoutElement* ElementOf(const Control& control, const char* pool) const;
+    const dbLayoutElement* ElementOf(const Control& control, ElementKind kind) const;
     void Element_MouseDown(const dbLayoutElement& element, const Mouse& mouse);
     void Element_MouseMove(const dbLayoutElement& element, const Mouse& mouse);
     void Element_MouseUp(const dbLayoutElement& element);

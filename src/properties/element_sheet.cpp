@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "properties/element_sheet.h"
 
-#include <algorithm>
 #include <array>
 #include <span>
 
@@ -12,7 +11,7 @@ namespace {
 
 /// What a condition looks at.
 struct Subject {
-    std::string_view controlName;
+    ElementKind kind;
     const dbLayoutElement& element;
 };
 
@@ -20,7 +19,7 @@ bool Always(const Subject&) {
     return true;
 }
 bool IsButton(const Subject& s) {
-    return s.controlName == "Element" && s.element.ElementType == TypeButton;
+    return s.kind == ElementKind::Button && s.element.ElementType == TypeButton;
 }
 bool HasAmount(const Subject& s) {
     const int action = s.element.ActionType;
@@ -177,20 +176,9 @@ constexpr Line OfPoint[] = {
 };
 // clang-format on
 
-struct Family {
-    std::string_view controlName;
-    std::span<const Line> lines;
-};
-constexpr std::array Families = {
-    Family{"Element", OfElement},       Family{"pMain", OfPanel}, Family{"tbx_Search", OfSearchBox},
-    Family{"Scrollframe", OfScrollbar}, Family{"pInfo", OfInfo},
-};
-
-const Family* FamilyOf(std::string_view controlName) {
-    const auto found = std::find_if(Families.begin(), Families.end(),
-                                    [&](const Family& family) { return family.controlName == controlName; });
-    return found == Families.end() ? nullptr : found;
-}
+// In the order of ElementKind.
+constexpr std::array<std::span<const Line>, 5> LinesOf = {OfElement, OfPanel, OfInfo, OfSearchBox,
+                                                          OfScrollbar};
 
 Value ValueOf(const Line& line, const dbLayoutElement& element) {
     if (line.kind == KindHeading) return 0;
@@ -208,16 +196,10 @@ void Append(Sheet& sheet, std::span<const Line> lines, const Subject& subject) {
 
 }  // namespace
 
-bool ShowsElement(std::string_view controlName) {
-    return FamilyOf(controlName);
-}
-
-Sheet ElementSheet(std::string_view controlName, const dbLayoutElement& element) {
-    const Family* family = FamilyOf(controlName);
-    if (!family) return {};
+Sheet ElementSheet(ElementKind kind, const dbLayoutElement& element) {
     Sheet sheet;
-    Append(sheet, Common, {controlName, element});
-    Append(sheet, family->lines, {controlName, element});
+    Append(sheet, Common, {kind, element});
+    Append(sheet, RowOf(LinesOf, kind), {kind, element});
     return sheet;
 }
 

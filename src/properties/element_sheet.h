@@ -4,13 +4,12 @@
 
 #include "document/dblayouts.h"
 #include "properties/sheet_row.h"
+#include "render/element_kinds.h"
 
 namespace ornavo {
 
-/// Whether the control of that name shows an element.
-bool ShowsElement(std::string_view controlName);
-/// `controlName` is that of the control that shows the element.
-Sheet ElementSheet(std::string_view controlName, const dbLayoutElement& element);
+/// Of an element on a control of that kind.
+Sheet ElementSheet(ElementKind kind, const dbLayoutElement& element);
 Sheet PointSheet(const dbPoint& point);
 
 }  // namespace ornavo

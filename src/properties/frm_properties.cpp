@@ -124,10 +124,10 @@ Sheet frm_Properties::SheetOf(const Control& control) {
         parts_.BoundObject = point;
         return point ? PointSheet(*point) : Sheet();
     }
-    if (ShowsElement(control.Name)) {
+    if (const ElementFamily* family = FamilyOf(control)) {
         const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(control.Tag);
         parts_.BoundObject = element;
-        return element ? ElementSheet(control.Name, *element) : Sheet();
+        return element ? ElementSheet(family->kind, *element) : Sheet();
     }
     return SampleSheet(*objSkin->dbSkinPrefs, control.Name, control.Bounds());
 }

@@ -4,8 +4,8 @@
 #include "base/failure.h"
 #include "document/current_skin.h"
 #include "editor/selection.h"
-#include "properties/element_sheet.h"
 #include "properties/panel_parts.h"
+#include "render/element_kinds.h"
 #include "render/redraw.h"
 #include "render/sample_families.h"
 
@@ -27,7 +27,7 @@ void RedrawBoundElement(PanelParts& parts) {
 }
 
 void RedrawSelected(PanelParts& parts) {
-    if (SelControl && ShowsElement(SelControl->Name)) return RedrawBoundElement(parts);
+    if (SelControl && FamilyOf(*SelControl)) return RedrawBoundElement(parts);
     const SampleFamily* family = SelControl ? FindSample(SelControl->Name) : nullptr;
     if (!family || !RedrawSample(*family)) UpdateCurrentLayout(parts);
 }

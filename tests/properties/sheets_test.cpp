@@ -67,33 +67,33 @@ TEST(RowKeys, SplitAtTheFirstPointAndJoinInAButtonsTag) {
 }
 
 TEST(ElementRows, ComeAndGoWithActionTypeAndInfoType) {
+    using enum ElementKind;
     const struct {
-        const char* control;
+        ElementKind kind;
         int type, action, info;
         Texts shown, absent;
     } cases[] = {
-        {"Element", TypeButton, 1, 0, {"ActionType", "Rotation"}, {"Value", "dbScript", "Resizer"}},
-        {"Element", TypeButton, 10, 0, {"Value"}, {"dbScript"}},
-        {"Element", TypeButton, 12, 0, {"dbScript"}, {"Value"}},
-        {"Element", TypePicture, 10, 0, {"dbScript", "Dragger", "IsSearch"}, {"ActionType", "Value"}},
-        {"pMain", TypeButton, 10, 0, {"MarginLeft", "StretchBackground"}, {"ActionType", "Value", "Visible"}},
-        {"tbx_Search", TypeSearchBox, 0, 0, {"Font", "ShowBorder"}, {"BorderColor"}},
-        {"Scrollframe", TypeScrollbar, 0, 0, {"PicOn", "TransparentColor"}, {"Caption", "PicDisabled"}},
-        {"pInfo", TypeInfo, 0, 0, {"InfoField", "Seeker", "Font"}, {"VolumeChangeable"}},
-        {"pInfo", TypeInfo, 0, 1, {"Seeker", "CapScrollSpeed"}, {"InfoField"}},
-        {"pInfo", TypeInfo, 0, 20, {"InfoField", "Seeker"}, {"Value"}},
-        {"pInfo", TypeInfo, 0, 5, {"Value", "VolumeChangeable", "Visible"}, {"InfoField", "Seeker", "Font"}},
+        {Button, TypeButton, 1, 0, {"ActionType", "Rotation"}, {"Value", "dbScript", "Resizer"}},
+        {Button, TypeButton, 10, 0, {"Value"}, {"dbScript"}},
+        {Button, TypeButton, 12, 0, {"dbScript"}, {"Value"}},
+        {Button, TypePicture, 10, 0, {"dbScript", "Dragger", "IsSearch"}, {"ActionType", "Value"}},
+        {Main, TypeButton, 10, 0, {"MarginLeft", "StretchBackground"}, {"ActionType", "Value", "Visible"}},
+        {SearchBox, TypeSearchBox, 0, 0, {"Font", "ShowBorder"}, {"BorderColor"}},
+        {Scrollframe, TypeScrollbar, 0, 0, {"PicOn", "TransparentColor"}, {"Caption", "PicDisabled"}},
+        {Info, TypeInfo, 0, 0, {"InfoField", "Seeker", "Font"}, {"VolumeChangeable"}},
+        {Info, TypeInfo, 0, 1, {"Seeker", "CapScrollSpeed"}, {"InfoField"}},
+        {Info, TypeInfo, 0, 20, {"InfoField", "Seeker"}, {"Value"}},
+        {Info, TypeInfo, 0, 5, {"Value", "VolumeChangeable", "Visible"}, {"InfoField", "Seeker", "Font"}},
     };
     for (const auto& row : cases) {
         dbLayoutElement element;
         element.ElementType = row.type;
         element.ActionType = row.action;
         element.InfoType = row.info;
-        const Sheet sheet = ElementSheet(row.control, element);
-        for (const std::string& key : row.shown) EXPECT_TRUE(Has(sheet, key)) << row.control << ' ' << key;
-        for (const std::string& key : row.absent) EXPECT_FALSE(Has(sheet, key)) << row.control << ' ' << key;
+        const Sheet sheet = ElementSheet(row.kind, element);
+        for (const std::string& key : row.shown) EXPECT_TRUE(Has(sheet, key)) << row.type << ' ' << key;
+        for (const std::string& key : row.absent) EXPECT_FALSE(Has(sheet, key)) << row.type << ' ' << key;
     }
-    EXPECT_TRUE(ElementSheet("ScrollBar", {}).empty());
 }
 
 TEST(SampleRows, NobodyIsForgotten) {

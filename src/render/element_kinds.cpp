@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "render/element_kinds.h"
+
+#include <array>
+
+#include "base/find_row.h"
+
+namespace ornavo {
+namespace {
+
+constexpr std::array Families = {
+    ElementFamily{"Element", ElementKind::Button, false},
+    ElementFamily{"pMain", ElementKind::Main, true},
+    ElementFamily{"pInfo", ElementKind::Info, false},
+    ElementFamily{"tbx_Search", ElementKind::SearchBox, true},
+    ElementFamily{"Scrollframe", ElementKind::Scrollframe, true},
+    ElementFamily{"ScrollBar", ElementKind::Scrollframe, true},
+};
+
+}  // namespace
+
+const ElementFamily* FamilyOf(const Control& control) {
+    return FindRow(Families, &ElementFamily::control, control.Name);
+}
+
+}  // namespace ornavo
