@@ -28,13 +28,12 @@ void FillSheet(benchmark::State& state) {
     frm_Properties panel(nullptr, windows, canvas);
     Control selected(nullptr, "Element");
     selected.Tag = "Button1";
-    SelControl = &selected;
+    canvas.selection().Select(selected);
     panel.Open();
     for (auto _ : state) {
         panel.ShowProperties();
         QCoreApplication::processEvents();
     }
-    SelControl = nullptr;
 }
 
 void PlainRows(benchmark::State& state) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
-#include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "picture/frm_pictureeditor.h"
 #include "platform/panel_scale.h"
@@ -101,8 +100,9 @@ void Program::ToggleToolbox() {
 /// With nothing selected it shows what all of the skin has.
 void Program::ToggleProperties() {
     if (properties().IsShown()) return properties().Hide();
-    if (!SelControl) project_.btn_SkinProperties->PerformClick();
-    if (!SelControl) properties().UnloadProperties();
+    const Selection& selection = main_.selection();
+    if (!selection.SelControl()) project_.btn_SkinProperties->PerformClick();
+    if (!selection.SelControl()) properties().UnloadProperties();
     properties().Open();
 }
 
@@ -146,6 +146,7 @@ void Program::ToggleMagnifier() {
 
 bool Program::EditPicture(const std::string& finalName, std::string& path) {
     frm_PictureEditor editor(&main_);
+    editor.SetSelKey(main_.selection().SelKey());
     editor.SetFinalName(finalName);
     editor.SetEditPicture(path);
     editor.ShowModal();

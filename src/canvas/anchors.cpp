@@ -8,7 +8,6 @@
 #include "canvas/shape_points.h"
 #include "document/current_skin.h"
 #include "document/shape_edits.h"
-#include "editor/selection.h"
 #include "render/redraw.h"
 
 namespace ornavo {
@@ -44,22 +43,12 @@ protected:
     }
 };
 
-void PutCornerColour(Control* control) {
-    if (control && control->Name == "cPointMover") control->SetBackColor(PointColor);
-}
-
-/// A control for the selected element, which is kept until elements are shown again.
-Control* Unseen() {
-    const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(SelKey);
-    return element && ElementsAreHidden(*SelControl) ? &ControlOf(*element) : nullptr;
-}
-
 }  // namespace
 
-Anchors::Anchors(QWidget& window, ControlEvents* listener, DragState& drag, Windows& windows)
-    : Mover(*new Control(&window, "Mover")), drag_(drag), windows_(windows) {
+Anchors::Anchors(CanvasParts& parts, ControlEvents* listener)
+    : Mover(*new Control(&parts.form, "Mover")), parts_(parts) {
     for (std::size_t i = 0; i < Anchor.size(); ++i) {
-        PictureBox* handle = new Handle(&window, "Anchor", static_cast<int>(i));
+        PictureBox* handle = new Handle(&parts.form, "Anchor", static_cast<int>(i));
         handle->SetBackColor(PointColor);
         handle->SetMousePointer(Looks[i].pointer);
         handle->setToolTip(Looks[i].tip);
@@ -71,65 +60,65 @@ Anchors::Anchors(QWidget& window, ControlEvents* listener, DragState& drag, Wind
     ShowHandles(false);
 }
 
-Anchors::~Anchors() {
-    SelControl = nullptr;
-    SelKey.clear();
-}
-
-Control* Anchors::PlaceAnchors(Control* control, bool keepSelection) {
-    if (!control || control->isHidden()) {
-        HideAnchors();
-        return control;
-    }
-    if (!keepSelection) {
-        SelKey = control->Tag;
-        SelControl = control;
-    }
+void Anchors::PlaceAnchors() {
+    const Control* control = parts_.selection.SelControl();
+    if (!control || control->isHidden()) return HideAnchors();
     Surround(control->Bounds());
     RaiseHandles();
-    if (keepSelection) return control;
+}
+
+void Anchors::SelectWithAnchors(Control& control) {
+    if (control.isHidden()) return HideAnchors();
+    parts_.selection.Select(control);
+    PlaceAnchors();
     ShowHandles(true);
     Mover.ZOrder();
-    return control;
 }
 
 void Anchors::HideAnchors() {
     ShowHandles(false);
-    if (!KeepPropertiesOpen && windows_.properties().IsShown()) windows_.properties().Hide();
-    KeepPropertiesOpen = false;
+    if (!parts_.selection.KeepsPropertiesOpen()) HideProperties();
+}
+
+void Anchors::HideProperties() {
+    PropertiesPanel& panel = parts_.windows.properties();
+    if (panel.IsShown()) panel.Hide();
 }
 
 void Anchors::ResetSelection() {
-    if (!SelControl) return;
+    if (!parts_.selection.SelControl()) return;
     HideAnchors();
-    PutCornerColour(SelControl);
-    SelControl = nullptr;
-    SelKey.clear();
+    parts_.selection.Clear();
 }
 
 void Anchors::HideSelectionTools() {
     ShowHandles(false);
-    if (windows_.properties().IsShown()) windows_.properties().Hide();
-    PutCornerColour(SelControl);
-    SelControl = nullptr;
-    SelKey.clear();
+    HideProperties();
+    parts_.selection.Clear();
     // A hidden control hears of no release.
-    drag_.End();
+    parts_.drag.End();
 }
 
-void Anchors::FollowSelection(LayoutHost& host, ShapePoints& points) {
-    if (!SelControl || SelKey.empty()) return;
-    const bool isCorner = SelControl->Name == "cPointMover";
-    Control* found = isCorner ? points.FindCorner(OrderOfTag(SelKey)) : ElementControl(host, SelKey);
+void Anchors::FollowSelection() {
+    Selection& selection = parts_.selection;
+    const std::string& key = selection.SelKey();
+    if (!selection.SelControl() || key.empty()) return;
+    Control* found =
+        selection.IsCorner() ? parts_.points.FindCorner(OrderOfTag(key)) : ElementControl(parts_.host, key);
     if (!found) found = Unseen();
     if (!found) return ResetSelection();
-    if (found != SelControl) PutCornerColour(SelControl);
-    SelControl = found;
+    selection.Follow(*found);
     RaiseHandles();
 }
 
+/// A control for the selected element, which is kept until elements are shown again.
+Control* Anchors::Unseen() {
+    const dbLayoutElementRef element = SelectedElement(parts_);
+    return element && ElementsAreHidden(*parts_.selection.SelControl()) ? &ControlOf(*element) : nullptr;
+}
+
 void Anchors::Surround(const Rect& bounds) {
-    const Raised placing = drag_.Placing();
+    const Raised placing = parts_.drag.Placing();
     const std::array<Point, 8> places = HandlePlaces(bounds);
     for (std::size_t i = 0; i < Anchor.size(); ++i)
         Anchor[i]->Move({places[i].x, places[i].y, HandleSize, HandleSize});

@@ -9,21 +9,18 @@
 
 namespace ornavo {
 
-class LayoutHost;
-class ShapePoints;
-
 class Anchors {
 public:
-    /// The handles become children of the window, hidden; the listener hears their mouse.
-    Anchors(QWidget& window, ControlEvents* listener, DragState& drag, Windows& windows);
-    ~Anchors();  // the selection goes with its window
+    /// The handles become children of the canvas, hidden; the listener hears their mouse.
+    Anchors(CanvasParts& parts, ControlEvents* listener);
     Anchors(const Anchors&) = delete;
     Anchors& operator=(const Anchors&) = delete;
 
-    /// Handles and Mover around the control, which it gives back. Without `keepSelection` the control becomes
-    /// the selection and the handles show. Nothing, or a control that is hidden, hides the handles.
-    Control* PlaceAnchors(Control* control, bool keepSelection);
-    /// Hides handles and Mover, and the properties panel unless KeepPropertiesOpen holds it, once.
+    /// Handles and Mover around the selected control; hidden where there is none, or where it is hidden.
+    void PlaceAnchors();
+    /// The control becomes the selection, and the handles show. One that is hidden hides the handles.
+    void SelectWithAnchors(Control& control);
+    /// Hides handles and Mover, and the properties panel unless KeepPropertiesOpen holds it.
     void HideAnchors();
     /// Nothing is selected any more.
     void ResetSelection();
@@ -31,18 +28,19 @@ public:
     void HideSelectionTools();
     /// After a composition, which deals all slots anew: the selection is again the control whose Tag is
     /// SelKey, or nothing. The handles stay where they are, in front.
-    void FollowSelection(LayoutHost& host, ShapePoints& points);
+    void FollowSelection();
 
-    std::array<PictureBox*, 8> Anchor;  // clockwise from the top left; owned by the window
+    std::array<PictureBox*, 8> Anchor;  // clockwise from the top left; owned by the canvas
     Control& Mover;                     // the selection's bounds; see-through for eye and mouse
 
 private:
+    void HideProperties();
+    Control* Unseen();
     void Surround(const Rect& bounds);
     void ShowHandles(bool visible);
     void RaiseHandles();
 
-    DragState& drag_;
-    Windows& windows_;
+    CanvasParts& parts_;
 };
 
 }  // namespace ornavo

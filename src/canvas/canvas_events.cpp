@@ -11,7 +11,6 @@
 #include "canvas/sample_clicks.h"
 #include "canvas/shape_gestures.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "render/sample_families.h"
 
 namespace ornavo {
@@ -36,7 +35,7 @@ const Gesture& GestureOf(const Control& control) {
     if (FindSample(control.Name)) return OfSample;
     if (control.Name == "Anchor") return OfHandle;
     if (control.Name == "cPoint") return OfPoint;
-    return control.Name == "cPointMover" ? OfCorner : None;
+    return IsCorner(control) ? OfCorner : None;
 }
 
 QPoint OnScreen(const Control& control, const Mouse& mouse) {
@@ -71,7 +70,7 @@ void CanvasEvents::MouseMove(Control& control, const Mouse& mouse) {
         return MouseUp(control, {button_, mouse.shift, mouse.x, mouse.y});
     }
     Drag(control, mouse);
-    if (SelControl) readOut_.ShowBeside(lastPlace_, *SelControl);
+    if (parts_.selection.SelControl()) readOut_.ShowBeside(lastPlace_, parts_.selection);
 }
 
 void CanvasEvents::Drag(Control& control, const Mouse& mouse) {

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "canvas/drag_state.h"
+#include "editor/selection.h"
 #include "editor/windows.h"
 #include "platform/form.h"
 
@@ -24,6 +25,7 @@ struct CanvasParts {
     ShapePoints& points;
     Windows& windows;
     DragState& drag;
+    Selection& selection;
     QTimer& tmrShowProperties;
     std::function<void()> showGrid;       // paints the surface anew
     std::function<void()> composed = {};  // after each composition, where somebody wants to hear of it

@@ -8,7 +8,6 @@
 #include "canvas/element_families.h"
 #include "canvas/element_menu.h"
 #include "canvas/gesture_math.h"
-#include "editor/selection.h"
 #include "render/layout_host.h"
 #include "render/view_switches.h"
 
@@ -43,7 +42,7 @@ void Element_MouseDown(CanvasParts& parts, Control& control, const Mouse& mouse)
     const ElementDrag& element = DragOf(control);
     if (element.resetsWhilePlacing || !parts.drag.IsPlacing()) parts.anchors.ResetSelection();
     if (parts.drag.IsPlacing()) return;
-    parts.anchors.PlaceAnchors(&Selectable(parts, control), false);
+    parts.anchors.SelectWithAnchors(Selectable(parts, control));
     if (mouse.button == RightButton) {
         PopupElementMenu(parts, control.mapToGlobal(QPoint(mouse.x, mouse.y)), FamilyOf(control)->isStandard);
         return;
@@ -54,33 +53,36 @@ void Element_MouseDown(CanvasParts& parts, Control& control, const Mouse& mouse)
 void Element_MouseMove(CanvasParts& parts, Control& control, const Mouse& mouse) {
     const ElementDrag& element = DragOf(control);
     DragState& drag = parts.drag;
-    if (drag.IsPlacing() || !drag.Is(element.kind) || !SelControl) return;
+    Control* dragged = parts.selection.SelControl();
+    if (drag.IsPlacing() || !drag.Is(element.kind) || !dragged) return;
     const Rect from = parts.anchors.Mover.Bounds();
     const std::optional<Point> to = DragStep({from.left, from.top}, drag.Way(mouse), element.deadZone,
                                              {viewSwitches.SnapGrid, viewSwitches.GridX, viewSwitches.GridY});
     if (!to) return;
-    const Rect now = SelControl->Bounds();
-    SelControl->Move({to->x, to->y, now.width, now.height});
+    const Rect now = dragged->Bounds();
+    dragged->Move({to->x, to->y, now.width, now.height});
     ScrollBarFollows(parts);
     const Raised placing = drag.Placing();
-    parts.anchors.PlaceAnchors(SelControl, true);
+    parts.anchors.PlaceAnchors();
     MarkDirty(parts);
 }
 
 void Element_MouseUp(CanvasParts& parts, Control& control, const Mouse&) {
     if (parts.drag.IsPlacing()) return;
     parts.drag.End();
-    const bool isWritten = SelControl && !SelKey.empty();
+    const Control* selected = parts.selection.SelControl();
+    const bool isWritten = selected && !parts.selection.SelKey().empty();
     if (isWritten) WriteSelectedBounds(parts);
     if (!isWritten && DragOf(control).kind == DragElement) return;
-    if (SelControl) parts.windows.properties().Open();
+    if (selected) parts.windows.properties().Open();
     FocusForm(parts);
 }
 
 void FinishDrag(CanvasParts& parts) {
     if (!parts.drag.MouseIsDown()) return;
     parts.drag.End();
-    if (SelControl && FamilyOf(*SelControl)) WriteSelectedBounds(parts);
+    const Control* selected = parts.selection.SelControl();
+    if (selected && FamilyOf(*selected)) WriteSelectedBounds(parts);
 }
 
 }  // namespace ornavo

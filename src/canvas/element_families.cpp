@@ -5,7 +5,6 @@
 
 #include "base/failure.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "render/kiosk_panel.h"
 #include "render/layout_host.h"
 #include "render/search_letters.h"
@@ -37,29 +36,33 @@ bool ElementsAreHidden(const Control& control) {
     return !viewSwitches.ShowElements && FamilyOf(control);
 }
 
+dbLayoutElementRef SelectedElement(const CanvasParts& parts) {
+    if (!parts.selection.SelControl() || !objCurrentLayout) return nullptr;
+    return objCurrentLayout->dbLayoutElements->Find(parts.selection.SelKey());
+}
+
 void ScrollBarFollows(CanvasParts& parts) {
-    if (SelControl != &parts.host.Scrollframe) return;
+    if (parts.selection.SelControl() != &parts.host.Scrollframe) return;
     TileButton& bar = parts.host.ScrollBar;
     bar.SetBackColor(0);
     bar.Refresh();
-    bar.Move(ScrollBarRect(SelControl->Bounds()));
+    bar.Move(ScrollBarRect(parts.host.Scrollframe.Bounds()));
     bar.ZOrder();
     bar.setVisible(true);
 }
 
 void PanelFollows(CanvasParts& parts) {
     if (!objCurrentLayout) return;
-    if (const dbLayoutElementRef main = objCurrentLayout->dbLayoutElements->Find(SelKey))
+    if (const dbLayoutElementRef main = SelectedElement(parts))
         DrawMainBackground(parts.host, main->StretchBackground);
     LayoutKioskPanel();
     SetupSearchLetters();
 }
 
 void WriteSelectedBounds(CanvasParts& parts) {
-    if (!SelControl || !objCurrentLayout) return;
     const Raised placing = parts.drag.Placing();
-    if (const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(SelKey))
-        Attempt([&] { WriteElementBounds(*element, SelControl->Bounds(), TargetFrame); });
+    if (const dbLayoutElementRef element = SelectedElement(parts))
+        Attempt([&] { WriteElementBounds(*element, parts.selection.SelControl()->Bounds(), TargetFrame); });
 }
 
 void FocusForm(CanvasParts& parts) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "canvas/canvas_parts.h"
+#include "document/dblayouts.h"
 #include "render/element_kinds.h"
 
 namespace ornavo {
@@ -12,6 +13,9 @@ namespace ornavo {
 Control* ElementControl(LayoutHost& host, const std::string& key);
 /// Whether the control stands for an element while the view shows none.
 bool ElementsAreHidden(const Control& control);
+
+/// Null where none is selected, and for a corner.
+dbLayoutElementRef SelectedElement(const CanvasParts& parts);
 
 /// What follows the selected control's bounds: the bar of a scroll frame.
 void ScrollBarFollows(CanvasParts& parts);

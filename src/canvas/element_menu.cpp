@@ -6,25 +6,25 @@
 #include <array>
 
 #include "base/failure.h"
+#include "canvas/element_families.h"
 #include "canvas/new_elements.h"
 #include "canvas/picture_items.h"
 #include "canvas/removal.h"
 #include "canvas/window_menu.h"
 #include "document/current_skin.h"
 #include "document/layout_edits.h"
-#include "editor/selection.h"
 #include "platform/control.h"
 
 namespace ornavo {
 namespace {
 
 void BringToFront(CanvasParts& parts) {
-    BringElementToFront(*objCurrentLayout, SelControl->Tag);
+    BringElementToFront(*objCurrentLayout, parts.selection.SelKey());
     parts.canvas.UpdateCurrentLayout();
 }
 
 void SendToBack(CanvasParts& parts) {
-    SendElementToBack(*objCurrentLayout, SelControl->Tag);
+    SendElementToBack(*objCurrentLayout, parts.selection.SelKey());
     parts.canvas.UpdateCurrentLayout();
 }
 
@@ -62,8 +62,7 @@ void PopupElementMenu(CanvasParts& parts, const QPoint& at, bool isStandard) {
 void mnuElementSub_Click(CanvasParts& parts, int index) {
     const auto row = std::find_if(mnuElementSub.begin(), mnuElementSub.end(),
                                   [&](const MenuRow& one) { return one.index == index; });
-    if (row == mnuElementSub.end() || !row->effect || !SelControl || !objCurrentLayout) return;
-    if (!objCurrentLayout->dbLayoutElements->Find(SelControl->Tag)) return;
+    if (row == mnuElementSub.end() || !row->effect || !SelectedElement(parts)) return;
     Attempt([&] { row->effect(parts); });
 }
 

@@ -15,7 +15,6 @@
 #include "canvas/window_menu.h"
 #include "document/current_skin.h"
 #include "editor/open_skin.h"
-#include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "editor/skin_drop.h"
 #include "platform/pictures.h"
@@ -38,12 +37,15 @@ frm_Ornavo::frm_Ornavo(Windows& windows, std::string version)
     : Form(nullptr, "frm_Ornavo", Qt::Window),
       windows_(windows),
       version_(std::move(version)),
-      parts_{
-          *this, *this, host_, anchors_, points_, windows, drag_, tmrShowProperties, [this] { ShowGrid(); }},
+      selection_([](Control& corner, bool selected) {
+          corner.SetBackColor(selected ? PointBlinkColor : PointColor);
+      }),
+      parts_{*this,   *this, host_,      anchors_,          points_,
+             windows, drag_, selection_, tmrShowProperties, [this] { ShowGrid(); }},
       events_(parts_),
       host_(*this, &events_),
       points_(*this, &events_),
-      anchors_(*this, &events_, drag_, windows),
+      anchors_(parts_, &events_),
       welcome_(*this, windows) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -127,12 +129,14 @@ void frm_Ornavo::tmrResizer_Timer() {
     ShowGrid();
     if (!SkinIsOpen() || !IsActivated) return;
     UpdateCurrentLayout();
-    if (SelControl && FamilyOf(*SelControl)) PlaceAnchors(SelControl, false);
+    if (Control* selected = selection_.SelControl(); selected && FamilyOf(*selected))
+        SelectWithAnchors(*selected);
 }
 
 void frm_Ornavo::tmrSelector_Timer() {
-    if (!SelControl || SelControl->Name != "cPointMover") return;
-    SelControl->SetBackColor(SelControl->BackColor() == PointColor ? PointBlinkColor : PointColor);
+    if (!selection_.IsCorner()) return;
+    Control& corner = *selection_.SelControl();
+    corner.SetBackColor(corner.BackColor() == PointColor ? PointBlinkColor : PointColor);
 }
 
 void frm_Ornavo::UpdateCurrentLayout() {
@@ -143,7 +147,7 @@ void frm_Ornavo::UpdateCurrentLayout() {
     else
         HideSelectionTools();
     ComposeLayout(*this, objCurrentLayout, objSkin->SkinWidth, objSkin->SkinHeight);
-    anchors_.FollowSelection(host_, points_);
+    anchors_.FollowSelection();
     ShowWelcome();
     if (parts_.composed) parts_.composed();
 }
@@ -169,17 +173,9 @@ void frm_Ornavo::ApplicationStateChanged(Qt::ApplicationState state) {
     if (state == Qt::ApplicationActive && shows && PicturesChanged()) UpdateCurrentLayout();
 }
 
-void frm_Ornavo::ResetSelection() {
-    anchors_.ResetSelection();
-}
-
 void frm_Ornavo::HideSelectionTools() {
     anchors_.HideSelectionTools();
     tmrShowProperties.stop();
-}
-
-Control* frm_Ornavo::PlaceAnchors(Control* control, bool keepSelection) {
-    return anchors_.PlaceAnchors(control, keepSelection);
 }
 
 void frm_Ornavo::UpdateCaption() {

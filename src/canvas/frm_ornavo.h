@@ -36,9 +36,11 @@ public:
     void UpdateCurrentLayout() override;
     void UpdateCaption() override;
     void ResetFormToOriginal() override;
-    void ResetSelection() override;
+    void ResetSelection() override { anchors_.ResetSelection(); }
     void HideSelectionTools() override;
-    Control* PlaceAnchors(Control* control, bool keepSelection) override;
+    void PlaceAnchors() override { anchors_.PlaceAnchors(); }
+    void SelectWithAnchors(Control& control) override { anchors_.SelectWithAnchors(control); }
+    Selection& selection() override { return selection_; }
 
     int ScaleWidth() const override { return Form::ScaleWidth(); }
     int ScaleHeight() const override { return Form::ScaleHeight(); }
@@ -84,6 +86,7 @@ private:
     std::string problem_;   // why the skin of the command line could not be opened
     std::string notFound_;  // the command line, when it leads to no skin
     DragState drag_;
+    Selection selection_;
     CanvasParts parts_;
     CanvasEvents events_;
     LayoutHost host_;

@@ -14,7 +14,6 @@
 #include "canvas/new_elements.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "editor/skin_drop.h"
 #include "platform/panel_scale.h"
@@ -229,11 +228,13 @@ void frm_Toolbox::Switch(QCheckBox* box, bool& viewSwitch, void (frm_Toolbox::*r
 }
 
 void frm_Toolbox::ShowElementsChanged() {
-    if (SelControl && ElementsAreHidden(*SelControl)) parts_.anchors.ResetSelection();
+    if (const Control* selected = parts_.selection.SelControl(); selected && ElementsAreHidden(*selected))
+        parts_.anchors.ResetSelection();
     if (!viewSwitches.ShowElements) parts_.anchors.HideAnchors();
     Recompose();
     // What was added unseen is shown as the selection now.
-    if (SelControl && FamilyOf(*SelControl)) parts_.anchors.PlaceAnchors(SelControl, false);
+    if (Control* selected = parts_.selection.SelControl(); selected && FamilyOf(*selected))
+        parts_.anchors.SelectWithAnchors(*selected);
 }
 
 void frm_Toolbox::RepaintGrid() {

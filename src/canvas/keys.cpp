@@ -17,7 +17,6 @@
 #include "canvas/window_menu.h"
 #include "document/current_skin.h"
 #include "document/shape_edits.h"
-#include "editor/selection.h"
 #include "render/layout_host.h"
 
 namespace ornavo {
@@ -37,36 +36,38 @@ void Save(CanvasParts& parts, const Point&, int) {
 }
 
 void NudgeCorner(CanvasParts& parts, const Point& direction, int shift) {
-    const Rect from = SelControl->Bounds();
+    Control& corner = *parts.selection.SelControl();
+    const Rect from = corner.Bounds();
     const std::optional<Point> to =
         CornerStep({.handle = {from.left, from.top},
                     .down = {0, 0},
                     .pointer = CornerNudge(direction, shift),
                     .canvas = {parts.form.ScaleWidth(), parts.form.ScaleHeight()}});
     if (!to) return;
-    SelControl->Move({to->x, to->y, from.width, from.height});
-    Attempt([&] { MovePoint(parts, OrderOfTag(SelControl->Tag), to->x + CornerReach, to->y + CornerReach); });
+    corner.Move({to->x, to->y, from.width, from.height});
+    Attempt([&] { MovePoint(parts, OrderOfTag(corner.Tag), to->x + CornerReach, to->y + CornerReach); });
     parts.tmrShowProperties.start();
     MarkDirty(parts);
 }
 
 void NudgeElement(CanvasParts& parts, const Point& direction, int shift) {
-    SelControl->Move(NudgeStep(SelControl->Bounds(), direction, shift));
+    Control& control = *parts.selection.SelControl();
+    control.Move(NudgeStep(control.Bounds(), direction, shift));
     WriteSelectedBounds(parts);
-    if (SelControl == &parts.host.pMain) PanelFollows(parts);
+    if (&control == &parts.host.pMain) PanelFollows(parts);
     ScrollBarFollows(parts);
-    parts.anchors.PlaceAnchors(SelControl, true);
+    parts.anchors.PlaceAnchors();
     parts.tmrShowProperties.start();
     MarkDirty(parts);
 }
 
 void Nudge(CanvasParts& parts, const Point& direction, int shift) {
-    if (SelControl->Name == "cPointMover") NudgeCorner(parts, direction, shift);
-    if (FamilyOf(*SelControl)) NudgeElement(parts, direction, shift);
+    if (parts.selection.IsCorner()) NudgeCorner(parts, direction, shift);
+    if (FamilyOf(*parts.selection.SelControl())) NudgeElement(parts, direction, shift);
 }
 
 void Delete(CanvasParts& parts, const Point&, int shift) {
-    const ElementFamily* family = FamilyOf(*SelControl);
+    const ElementFamily* family = FamilyOf(*parts.selection.SelControl());
     // The standard elements take the key as an arrow that leads nowhere.
     if (family && family->isStandard) return NudgeElement(parts, {0, 0}, shift);
     RemoveSelected(parts);
@@ -74,11 +75,12 @@ void Delete(CanvasParts& parts, const Point&, int shift) {
 
 void PopupMenu(CanvasParts& parts, const Point&, int) {
     if (parts.drag.MouseIsDown()) return;
-    const ElementFamily* family = SelControl ? FamilyOf(*SelControl) : nullptr;
+    const Control* control = parts.selection.SelControl();
+    const ElementFamily* family = control ? FamilyOf(*control) : nullptr;
     const QWidget& place =
-        SelControl && SelControl->window() == &parts.form ? static_cast<QWidget&>(*SelControl) : parts.form;
+        control && control->window() == &parts.form ? static_cast<const QWidget&>(*control) : parts.form;
     const QPoint middle = place.mapToGlobal(place.rect().center());
-    if (family && !ElementsAreHidden(*SelControl))
+    if (family && !ElementsAreHidden(*control))
         PopupElementMenu(parts, middle, family->isStandard);
     else
         PopupWindowMenu(parts, middle);
@@ -115,7 +117,8 @@ bool Form_KeyDown(CanvasParts& parts, int qtKey, int shift) {
     const auto row =
         std::find_if(Keys.begin(), Keys.end(), [&](const KeyRow& one) { return one.key == qtKey; });
     if (row == Keys.end() || (row->shift != AnyShift && row->shift != shift)) return false;
-    if (row->needsSelection && (!SelControl || ElementsAreHidden(*SelControl))) return false;
+    const Control* control = parts.selection.SelControl();
+    if (row->needsSelection && (!control || ElementsAreHidden(*control))) return false;
     row->effect(parts, row->direction, shift);
     return true;
 }

@@ -8,7 +8,6 @@
 #include "document/codes.h"
 #include "document/current_skin.h"
 #include "document/layout_edits.h"
-#include "editor/selection.h"
 #include "render/redraw.h"
 
 namespace ornavo {
@@ -56,9 +55,9 @@ void CopyFields(dbLayoutElement& clone, const dbLayoutElement& source) {
 void SelectNewElement(CanvasParts& parts, dbLayoutElement& element) {
     objSkin->Dirty = true;
     parts.canvas.UpdateCurrentLayout();
-    SelControl = &ControlOf(element);
-    SelKey = element.Key;
-    parts.canvas.PlaceAnchors(SelControl, false);
+    Control& control = ControlOf(element);
+    parts.selection.Select(control);
+    parts.canvas.SelectWithAnchors(control);
     parts.windows.properties().UnloadProperties();
     parts.windows.properties().Open();
     FocusForm(parts);
@@ -76,9 +75,8 @@ void AddElement(CanvasParts& parts, int elementType) {
 }
 
 void CloneElement(CanvasParts& parts) {
-    if (!LayoutIsOpen() || !SelControl) return;
-    const dbLayoutElementRef source = objCurrentLayout->dbLayoutElements->Find(SelControl->Tag);
-    if (!source) return;
+    const dbLayoutElementRef source = SelectedElement(parts);
+    if (!LayoutIsOpen() || !source) return;
     const dbLayoutElementRef clone =
         AddNumberedElement(*objCurrentLayout, GetTopOrder(*objCurrentLayout), source->ElementType);
     if (!clone) return;

@@ -9,9 +9,9 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "canvas/anchors.h"
+#include "canvas/element_families.h"
 #include "canvas/shape_points.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "platform/picture_bytes.h"
 #include "render/layout_host.h"
 #include "render/redraw.h"
@@ -20,16 +20,11 @@
 namespace ornavo {
 namespace {
 
-dbLayoutElementRef SelectedElement() {
-    return SelControl && objCurrentLayout ? objCurrentLayout->dbLayoutElements->Find(SelControl->Tag)
-                                          : nullptr;
-}
-
 /// Hides what belongs to the editor and not to the layout, while it lives.
 class ToolsHidden {
 public:
     explicit ToolsHidden(CanvasParts& parts) {
-        Hide(SelControl);
+        Hide(parts.selection.SelControl());
         Hide(&parts.anchors.Mover);
         for (Control* handle : parts.anchors.Anchor) Hide(handle);
         HideAll(parts.points.cPoint);
@@ -72,7 +67,7 @@ QImage PixelsOf(QWidget& canvas, const Rect& bounds) {
 Size PicRealSize;
 
 void ResetToOriginalSize(CanvasParts& parts) {
-    const dbLayoutElementRef element = SelectedElement();
+    const dbLayoutElementRef element = SelectedElement(parts);
     if (!element) return;
     if (const PictureRef picture = LoadSkinPicture(element->PicNormal))
         PicRealSize = {picture->image.width(), picture->image.height()};
@@ -80,23 +75,23 @@ void ResetToOriginalSize(CanvasParts& parts) {
     element->WidthX = PicRealSize.width;
     element->HeightY = PicRealSize.height;
     parts.canvas.UpdateCurrentLayout();
-    parts.anchors.PlaceAnchors(SelControl, true);
+    parts.anchors.PlaceAnchors();
 }
 
 void UseBackgroundAsPicture(CanvasParts& parts) {
-    const dbLayoutElementRef element = SelectedElement();
+    const dbLayoutElementRef element = SelectedElement(parts);
     if (!element || objSkin->SkinName.empty()) return;
     const std::string name = CleanFileName(element->ElementName) + "_up.jpg";
     MakePath(objSkin->SkinFolder());  // a new skin has none before its first save
     {
         const ToolsHidden hidden(parts);
-        const QImage picCopyBackground = PixelsOf(parts.form, SelControl->Bounds());
+        const QImage picCopyBackground = PixelsOf(parts.form, parts.selection.SelControl()->Bounds());
         ReplaceFileItself(OnDisk(objSkin->SkinFolder() + name),
                           FileBytesOf(picCopyBackground, FileKind::Jpeg));
     }
     element->PicNormal = name;
     Attempt([&] { RedrawElement(*element); });
-    parts.anchors.PlaceAnchors(SelControl, true);
+    parts.anchors.PlaceAnchors();
 }
 
 }  // namespace ornavo

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "canvas/corner_math.h"
+#include "platform/control.h"
 #include "platform/fonts.h"
 
 namespace ornavo {
@@ -16,9 +17,9 @@ namespace {
 constexpr QPoint BesidePointer = {18, 22};
 constexpr int Margin = 3;
 
-QString NumbersOf(const Control& control) {
-    const Rect at = control.Bounds();
-    if (control.Name == "cPointMover")
+QString NumbersOf(const Selection& dragged) {
+    const Rect at = dragged.SelControl()->Bounds();
+    if (dragged.IsCorner())
         return QStringLiteral("%1, %2").arg(at.left + CornerReach).arg(at.top + CornerReach);
     return QStringLiteral("%1, %2   %3 \u00D7 %4").arg(at.left).arg(at.top).arg(at.width).arg(at.height);
 }
@@ -48,11 +49,11 @@ ReadOut::ReadOut(QWidget& window) : QLabel(&window, Qt::ToolTip | Qt::WindowTran
     setFont(ScreenFont({}));
 }
 
-void ReadOut::ShowBeside(const QPoint& pointer, Control& control) {
-    setText(NumbersOf(control));
+void ReadOut::ShowBeside(const QPoint& pointer, const Selection& dragged) {
+    setText(NumbersOf(dragged));
     const QSize wanted = sizeHint();
     setGeometry(QRect(PlaceBeside(pointer, wanted), wanted));
-    control.installEventFilter(this);  // once, however often it is asked for
+    dragged.SelControl()->installEventFilter(this);  // once, however often it is asked for
     show();
 }
 

@@ -4,7 +4,7 @@
 
 #include <QLabel>
 
-#include "platform/control.h"
+#include "editor/selection.h"
 
 namespace ornavo {
 
@@ -14,7 +14,7 @@ class ReadOut : public QLabel {
 public:
     explicit ReadOut(QWidget& window);
     /// `pointer`: on the screen.
-    void ShowBeside(const QPoint& pointer, Control& control);
+    void ShowBeside(const QPoint& pointer, const Selection& dragged);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

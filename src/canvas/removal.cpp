@@ -6,28 +6,24 @@
 #include "base/failure.h"
 #include "canvas/anchors.h"
 #include "canvas/element_families.h"
-#include "canvas/shape_points.h"
 #include "document/current_skin.h"
 #include "document/layout_edits.h"
 #include "document/shape_edits.h"
-#include "editor/selection.h"
 #include "render/layout_host.h"
 
 namespace ornavo {
 namespace {
 
 void RemoveCorner(CanvasParts& parts) {
-    Control& corner = *SelControl;
-    Attempt([&] { DeleteShapePoint(*objCurrentLayout, corner.Tag); });
-    corner.SetBackColor(PointColor);
-    SelControl = nullptr;
+    Attempt([&] { DeleteShapePoint(*objCurrentLayout, parts.selection.SelKey()); });
+    parts.selection.ForgetControl();
     objSkin->Dirty = true;
     parts.canvas.UpdateCurrentLayout();
     parts.windows.properties().ShowProperties();
 }
 
 void RemoveElement(CanvasParts& parts) {
-    Control& control = *SelControl;
+    Control& control = *parts.selection.SelControl();
     Attempt([&] { DeleteElement(*objCurrentLayout, control.Tag); });
     parts.anchors.HideAnchors();
     control.setVisible(false);
@@ -36,15 +32,15 @@ void RemoveElement(CanvasParts& parts) {
         parts.host.pInfo.Released(control.Index);
     else
         parts.host.Element.Released(control.Index);
-    SelControl = nullptr;
+    parts.selection.ForgetControl();
     objSkin->Dirty = true;
 }
 
 }  // namespace
 
 void RemoveSelected(CanvasParts& parts) {
-    const ElementFamily* family = FamilyOf(*SelControl);
-    const bool isCorner = SelControl->Name == "cPointMover";
+    const ElementFamily* family = FamilyOf(*parts.selection.SelControl());
+    const bool isCorner = parts.selection.IsCorner();
     if (!isCorner && (!family || family->isStandard)) return;
     if (isCorner)
         RemoveCorner(parts);

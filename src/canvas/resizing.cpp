@@ -4,7 +4,6 @@
 #include "canvas/anchors.h"
 #include "canvas/element_families.h"
 #include "canvas/gesture_math.h"
-#include "editor/selection.h"
 #include "render/view_switches.h"
 
 namespace ornavo {
@@ -15,21 +14,23 @@ void Anchor_MouseDown(CanvasParts& parts, Control&, const Mouse& mouse) {
 
 void Anchor_MouseMove(CanvasParts& parts, Control& anchor, const Mouse& mouse) {
     const DragState& drag = parts.drag;
-    if (!(drag.Is(DragAnchor) || drag.Is(DragScrollframe)) || !SelControl) return;
+    Control* resized = parts.selection.SelControl();
+    if (!(drag.Is(DragAnchor) || drag.Is(DragScrollframe)) || !resized) return;
     const Grid grid = {viewSwitches.SnapGrid, viewSwitches.GridX, viewSwitches.GridY};
-    SelControl->Move(ResizeStep(anchor.Index, parts.anchors.Mover.Bounds(), drag.Way(mouse), grid));
+    resized->Move(ResizeStep(anchor.Index, parts.anchors.Mover.Bounds(), drag.Way(mouse), grid));
     ScrollBarFollows(parts);
-    parts.anchors.PlaceAnchors(SelControl, true);
+    parts.anchors.PlaceAnchors();
     MarkDirty(parts);
 }
 
 void Anchor_MouseUp(CanvasParts& parts, Control&, const Mouse&) {
     parts.drag.End();
-    if (!SelControl || SelKey.empty()) {
+    const Selection& selection = parts.selection;
+    if (!selection.SelControl() || selection.SelKey().empty()) {
         parts.anchors.HideAnchors();
     } else {
         WriteSelectedBounds(parts);
-        if (SelKey == "Main") PanelFollows(parts);
+        if (selection.SelKey() == "Main") PanelFollows(parts);
         parts.windows.properties().Open();
     }
     FocusForm(parts);

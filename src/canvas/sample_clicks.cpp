@@ -2,7 +2,6 @@
 #include "canvas/sample_clicks.h"
 
 #include "canvas/anchors.h"
-#include "editor/selection.h"
 #include "render/layout_host.h"
 #include "render/sample_families.h"
 
@@ -10,8 +9,7 @@ namespace ornavo {
 void Sample_MouseUp(CanvasParts& parts, Control& control, const Mouse& mouse) {
     if (!control.rect().contains(mouse.x, mouse.y)) return;
     parts.anchors.ResetSelection();
-    SelControl = &SelectedBy(control, parts.host.sample, *FindSample(control.Name));
-    SelKey.clear();  // a deleted element leaves its key
+    parts.selection.SelectSample(SelectedBy(control, parts.host.sample, *FindSample(control.Name)));
     parts.windows.properties().Open();
 }
 

@@ -7,7 +7,6 @@
 #include "canvas/anchors.h"
 #include "canvas/element_families.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 
 namespace ornavo {
 namespace {
@@ -27,14 +26,15 @@ void StepSelection(CanvasParts& parts, int step) {
     const std::vector<Control*> shown = ShownElements(parts.host);
     if (shown.empty()) return;
     const auto count = std::ssize(shown);
-    const auto found = std::find(shown.begin(), shown.end(), SelControl) - shown.begin();
+    const auto found = std::find(shown.begin(), shown.end(), parts.selection.SelControl()) - shown.begin();
     const auto from = found < count ? found : (step > 0 ? count - 1 : 0);
     parts.windows.properties().DrawPendingEdits();  // of the element that is left
-    KeepPropertiesOpen = true;
-    parts.anchors.ResetSelection();
-    KeepPropertiesOpen = false;
+    {
+        const Raised open = parts.selection.KeepPropertiesOpen();
+        parts.anchors.ResetSelection();
+    }
     Control* next = shown[static_cast<std::size_t>((from + step + count) % count)];
-    parts.anchors.PlaceAnchors(next, false);
+    parts.anchors.SelectWithAnchors(*next);
     QAccessibleEvent told(next, QAccessible::Focus);
     QAccessible::updateAccessibility(&told);
     parts.tmrShowProperties.start();

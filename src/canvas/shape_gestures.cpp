@@ -7,7 +7,6 @@
 #include "canvas/shape_points.h"
 #include "document/current_skin.h"
 #include "document/shape_edits.h"
-#include "editor/selection.h"
 #include "render/target.h"
 #include "render/view_switches.h"
 
@@ -39,16 +38,17 @@ void InsertWithFreeKey(dbPoints& points, const dbPointRef& point, int after) {
     points.InsertObject(point, after);
 }
 
-dbPointRef SelectedPoint() {
-    if (!SelControl || SelControl->Name != "cPointMover" || !TargetLayout) return nullptr;
-    return TargetLayout->dbPoints->GetFromOrder(OrderOfTag(SelKey));
+dbPointRef SelectedPoint(const Selection& selection) {
+    if (!selection.IsCorner() || !TargetLayout) return nullptr;
+    return TargetLayout->dbPoints->GetFromOrder(OrderOfTag(selection.SelKey()));
 }
 
 /// Orders have changed and controls were dealt anew: the selection stays with its corner.
-void SelectAgain(ShapePoints& points, const dbPoint& selected) {
-    SelControl = points.FindCorner(selected.Order);
-    SelKey = SelControl ? SelControl->Tag : "";
-    if (SelControl) SelControl->SetBackColor(PointBlinkColor);
+void SelectAgain(CanvasParts& parts, const dbPoint& selected) {
+    if (Control* corner = parts.points.FindCorner(selected.Order))
+        parts.selection.Select(*corner);
+    else
+        parts.selection.Clear();
 }
 
 void RemoveCorner(CanvasParts& parts, const std::string& tag) {
@@ -56,17 +56,14 @@ void RemoveCorner(CanvasParts& parts, const std::string& tag) {
     objSkin->Dirty = true;
     parts.canvas.ResetSelection();
     parts.canvas.UpdateCurrentLayout();
-    SelControl = nullptr;
-    SelKey.clear();
+    parts.selection.Clear();
     parts.windows.properties().Hide();
 }
 
 void GrabCorner(CanvasParts& parts, Control& corner, const Mouse& mouse) {
     parts.drag.Begin(DragCorner, mouse);
     parts.canvas.ResetSelection();
-    SelControl = &corner;
-    SelKey = corner.Tag;
-    corner.SetBackColor(PointBlinkColor);
+    parts.selection.Select(corner);
     parts.form.setFocus();
 }
 
@@ -93,7 +90,7 @@ bool AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToL
         y += std::min(side->Y1(), side->Y2());
     }
     dbPoints& points = *TargetLayout->dbPoints;
-    const dbPointRef selected = SelectedPoint();
+    const dbPointRef selected = SelectedPoint(parts.selection);
     const bool added = Attempt([&] {
         const dbPoint& neighbour = *objCurrentLayout->dbPoints->Item(index);
         InsertWithFreeKey(points, NewPoint(neighbour, x, y, points.Count() + 1), index);
@@ -103,7 +100,7 @@ bool AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToL
     MarkDirty(parts);
     parts.points.ShowShapePoints();
     if (selected) {
-        SelectAgain(parts.points, *selected);
+        SelectAgain(parts, *selected);
         parts.windows.properties().ShowProperties();
     }
     return true;

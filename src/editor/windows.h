@@ -10,6 +10,7 @@
 namespace ornavo {
 
 class Control;
+class Selection;
 
 /// By the main window.
 class Canvas {
@@ -20,9 +21,11 @@ public:
     virtual void ResetFormToOriginal() = 0;
     virtual void ResetSelection() = 0;
     virtual void HideSelectionTools() = 0;  // handles and properties panel
-    /// Places the handles round the control and gives it back; without `keepSelection` it becomes the
-    /// selection.
-    virtual Control* PlaceAnchors(Control* control, bool keepSelection) = 0;
+    /// Places the handles around the selected control; without one, or where it is hidden, they go.
+    virtual void PlaceAnchors() = 0;
+    /// The control becomes the selection and shows the handles; if it is hidden, they go and it doesn't.
+    virtual void SelectWithAnchors(Control& control) = 0;
+    virtual Selection& selection() = 0;
 };
 
 /// By the properties panel.

@@ -14,7 +14,6 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "picture/picture_saving.h"
 #include "picture/presets.h"
@@ -130,7 +129,7 @@ void frm_PictureEditor::Form_Load() {
 
 void frm_PictureEditor::LoadSource() {
     const PictureRef picture = LoadSkinPicture(editPicture_);
-    const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(SelKey);
+    const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(selKey_);
     const Ground ground = GroundOf(element);
     const QImage flat = picture ? Flattened(picture->image, ground.colour) : QImage();
     const bool loaded = !flat.isNull() && source_.CreateFromPicture(flat.constBits(), flat.width(),

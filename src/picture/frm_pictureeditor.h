@@ -34,6 +34,8 @@ public:
     void SetEditPicture(const std::string& picture);
     const std::string& FinalName() const { return finalName_; }
     void SetFinalName(const std::string& name);
+    /// The key of the element whose picture it is; "" for none.
+    void SetSelKey(const std::string& key) { selKey_ = key; }
     bool IsCanceled() const { return isCanceled_; }
     void ShowModal();
 
@@ -82,7 +84,7 @@ private:
     void ShowNotice(const std::string& failure = {});
 
     std::string picture_;  // as the skin names it
-    std::string editPicture_, finalName_, finalNameBackup_, presetName_;
+    std::string editPicture_, selKey_, finalName_, finalNameBackup_, presetName_;
     std::string loss_;  // what of the picture the result can't hold
     bool isLoading_ = false, isCanceled_ = true;
     cDIBSection source_, result_;

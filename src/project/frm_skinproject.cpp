@@ -231,8 +231,7 @@ bool frm_SkinProject::SaveSkin() {
 
 void frm_SkinProject::btn_SkinProperties_Click() {
     canvas_.ResetSelection();
-    SelControl = btn_SkinProperties;
-    SelKey.clear();
+    canvas_.selection().SelectSample(*btn_SkinProperties);
     windows_.properties().Open();
 }
 

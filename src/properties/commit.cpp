@@ -9,7 +9,6 @@
 #include "base/text.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "properties/live_update.h"
 #include "properties/panel_parts.h"
 #include "properties/rows.h"
@@ -99,12 +98,13 @@ void ShowElement(PanelParts& parts, int listIndex) {
     const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Item(listIndex + 1);
     parts.panel.DrawPendingEdits();  // of the element that is left
     parts.BoundObject = element;
-    KeepPropertiesOpen = true;
-    parts.canvas.ResetSelection();
-    KeepPropertiesOpen = false;
-    SelControl = &ControlOf(*element);
-    SelKey = element->Key;
-    if (element->Visible) SelControl = parts.canvas.PlaceAnchors(SelControl, false);
+    {
+        const Raised open = parts.selection.KeepPropertiesOpen();
+        parts.canvas.ResetSelection();
+    }
+    Control& control = ControlOf(*element);
+    parts.selection.Select(control);
+    if (element->Visible) parts.canvas.SelectWithAnchors(control);
     parts.panel.ShowProperties();
 }
 

@@ -8,7 +8,6 @@
 #include "base/failure.h"
 #include "document/current_skin.h"
 #include "document/shape_edits.h"
-#include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "platform/panel_scale.h"
 #include "properties/choosers.h"
@@ -38,7 +37,7 @@ frm_Properties::frm_Properties(QWidget* owner, Windows& windows, Canvas& canvas)
       scroll_(this),
       sheet_(scroll_),
       pools_(sheet_, *this),
-      parts_{*this, canvas, windows, pools_, tmrUpdate} {
+      parts_{*this, canvas, canvas.selection(), windows, pools_, tmrUpdate} {
     setWindowTitle(QStringLiteral("Properties"));
     setAttribute(Qt::WA_ShowWithoutActivating);
     scroll_.setFrameShape(QFrame::NoFrame);
@@ -101,7 +100,7 @@ void frm_Properties::DrawPendingEdits() {
 }
 
 void frm_Properties::ShowProperties() {
-    if (!SelControl) return;
+    if (!parts_.selection.SelControl()) return;
     const Raised building(parts_.IsBuilding);
     sheet_.setUpdatesEnabled(false);
     const RowValue* focused = sheet_.Focused();
@@ -111,15 +110,16 @@ void frm_Properties::ShowProperties() {
     // A row that is hidden would hand the focus on to the next one, all the way down.
     if (focused) focused->control->clearFocus();
     UnloadProperties();
-    Attempt([&] { Build(SheetOf(*SelControl)); });
+    Attempt([&] { Build(SheetOf(parts_.selection)); });
     if (focused) sheet_.Focus(key);
     if (const RowValue* again = sheet_.Focused())
         if (auto* text = dynamic_cast<QLineEdit*>(again->control)) text->setCursorPosition(cursor);
     sheet_.setUpdatesEnabled(true);
 }
 
-Sheet frm_Properties::SheetOf(const Control& control) {
-    if (control.Name == "cPointMover") {
+Sheet frm_Properties::SheetOf(const Selection& selection) {
+    const Control& control = *selection.SelControl();
+    if (selection.IsCorner()) {
         const dbPointRef point = objCurrentLayout->dbPoints->GetFromOrder(OrderOfTag(control.Tag));
         parts_.BoundObject = point;
         return point ? PointSheet(*point) : Sheet();

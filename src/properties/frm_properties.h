@@ -36,7 +36,7 @@ protected:
 
 private:
     void Form_Load();
-    Sheet SheetOf(const Control& control);
+    Sheet SheetOf(const Selection& selection);
     void Build(const Sheet& sheet);
     void FitHeight(int rows);
     int MostHeight() const;

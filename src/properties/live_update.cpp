@@ -3,7 +3,6 @@
 
 #include "base/failure.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "properties/panel_parts.h"
 #include "render/element_kinds.h"
 #include "render/redraw.h"
@@ -14,10 +13,9 @@ namespace {
 
 /// The panel stays open under the user's hands, though what it shows may be hidden by the edit.
 void KeepSelection(PanelParts& parts) {
-    if (!SelControl) return;
-    KeepPropertiesOpen = true;
-    SelControl = parts.canvas.PlaceAnchors(SelControl, true);
-    KeepPropertiesOpen = false;
+    if (!parts.selection.SelControl()) return;
+    const Raised open = parts.selection.KeepPropertiesOpen();
+    parts.canvas.PlaceAnchors();
 }
 
 void RedrawBoundElement(PanelParts& parts) {
@@ -27,8 +25,9 @@ void RedrawBoundElement(PanelParts& parts) {
 }
 
 void RedrawSelected(PanelParts& parts) {
-    if (SelControl && FamilyOf(*SelControl)) return RedrawBoundElement(parts);
-    const SampleFamily* family = SelControl ? FindSample(SelControl->Name) : nullptr;
+    const Control* selected = parts.selection.SelControl();
+    if (selected && FamilyOf(*selected)) return RedrawBoundElement(parts);
+    const SampleFamily* family = selected ? FindSample(selected->Name) : nullptr;
     if (!family || !RedrawSample(*family)) UpdateCurrentLayout(parts);
 }
 
@@ -43,9 +42,9 @@ void tmrUpdate_Timer(PanelParts& parts) {
 
 void UpdateCurrentLayout(PanelParts& parts) {
     objSkin->Dirty = true;
-    KeepPropertiesOpen = true;  // what the composition leaves without a control is no reason to close either
+    // What the composition leaves without a control is no reason to close either.
+    const Raised open = parts.selection.KeepPropertiesOpen();
     parts.canvas.UpdateCurrentLayout();
-    KeepPropertiesOpen = false;
     KeepSelection(parts);
 }
 

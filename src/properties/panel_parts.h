@@ -4,6 +4,7 @@
 
 #include <QTimer>
 
+#include "editor/selection.h"
 #include "editor/windows.h"
 #include "properties/row_binding.h"
 #include "properties/row_pools.h"
@@ -13,6 +14,7 @@ namespace ornavo {
 struct PanelParts {
     PropertiesPanel& panel;
     Canvas& canvas;
+    Selection& selection;
     Windows& windows;
     RowPools& pools;
     QTimer& tmrUpdate;        // 100 ms after the last edit, one shot

@@ -10,7 +10,6 @@
 
 #include "app/program.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "platform/settings.h"
 
 namespace ornavo::testing {
@@ -51,7 +50,6 @@ TEST(Panels, AreCutUnderNoFontOfTheDesktop) {
         for (const QWidget* window : QApplication::topLevelWidgets())
             EXPECT_EQ(window->windowType() == Qt::Tool ? Cut(*window) : "", "") << pixels;
         program.properties().Hide();
-        SelControl = nullptr;
     }
     QApplication::setFont(before);
 }

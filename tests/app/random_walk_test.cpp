@@ -15,7 +15,6 @@
 #include "app/program.h"
 #include "canvas/element_menu.h"
 #include "document/current_skin.h"
-#include "editor/selection.h"
 #include "platform/settings.h"
 #include "render/view_switches.h"
 #include "support/scripted_prompts.h"
@@ -248,7 +247,8 @@ public:
     }
 
     void Check() {
-        ASSERT_EQ(SelControl ? SelControl->Tag : "", model_->SelectedKey());
+        const Control* selected = canvas().selection().SelControl();
+        ASSERT_EQ(selected ? selected->Tag : "", model_->SelectedKey());
         ASSERT_EQ(objSkin->Dirty, model_->dirty);
         ASSERT_EQ(objCurrentLayout->Key, model_->current().key);
         std::set<std::string> keys;

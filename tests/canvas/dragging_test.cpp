@@ -40,22 +40,22 @@ TEST_F(DraggingTest, EachFamilyFollowsThePointerAndIsWrittenAtTheRelease) {
         const int x = before.left + 10, y = before.top + 9;
         objSkin->Dirty = false;
         Press(x, y);
-        ASSERT_NE(SelControl, nullptr) << key;
-        EXPECT_EQ(SelKey, key);
+        ASSERT_NE(SelControl(), nullptr) << key;
+        EXPECT_EQ(SelKey(), key);
         EXPECT_FALSE(objSkin->Dirty);
         EXPECT_FALSE(windows_.panel.shown) << "the sheet is filled at the release";
         MoveTo(x + 7, y + 4);
         MoveTo(x + 31, y + 113);
-        EXPECT_EQ(SelControl->Bounds(),
+        EXPECT_EQ(SelControl()->Bounds(),
                   (Rect{before.left + 31, before.top + 113, before.width, before.height}));
-        EXPECT_EQ(anchors().Mover.Bounds(), SelControl->Bounds());
+        EXPECT_EQ(anchors().Mover.Bounds(), SelControl()->Bounds());
         EXPECT_EQ(Fields(e), before) << "the model waits";
         EXPECT_TRUE(objSkin->Dirty);
         Release(x + 31, y + 113);
         EXPECT_EQ(Fields(e), (Rect{before.left + 31, before.top + 113, before.width, before.height}));
         EXPECT_TRUE(windows_.panel.shown);
         MoveTo(x + 60, y + 100);
-        EXPECT_EQ(SelControl->Bounds().left, before.left + 31) << "released";
+        EXPECT_EQ(SelControl()->Bounds().left, before.left + 31) << "released";
     }
     EXPECT_EQ(windows_.panel.opened, 5);
     EXPECT_EQ(host().ScrollBar.Bounds(), (Rect{681, 178, 40, 150}));
@@ -104,7 +104,7 @@ TEST_F(DraggingTest, HandlesStandAroundTheSelectionAndWinThePress) {
     }
     const QPoint corner = anchors().Anchor[4]->geometry().center();
     Drag(corner, {-5, -3});
-    EXPECT_EQ(SelKey, "Button1") << "though it lies over the other one";
+    EXPECT_EQ(SelKey(), "Button1") << "though it lies over the other one";
     EXPECT_EQ(Fields(e), (Rect{200, 100, 95, 77}));
 }
 
@@ -117,7 +117,7 @@ TEST_F(DraggingTest, ARightPressOnAHandleSizesAndALostSelectionHidesThem) {
     Release(313, 140, Qt::RightButton);
     EXPECT_EQ(e.WidthX, 110);
     Press(313, 140);
-    SelKey.clear();
+    form_->selection().SelectSample(*SelControl());
     Release(313, 140);
     EXPECT_FALSE(anchors().Anchor[0]->isVisible());
     EXPECT_EQ(e.WidthX, 110);
@@ -144,7 +144,7 @@ TEST_F(DraggingTest, TheMenuOffersWhatTheFamilyAllows) {
         const std::map<int, bool> wanted = {{5, c.all}, {11, c.all}, {21, true},
                                             {22, true}, {31, c.all}, {32, c.all}};
         EXPECT_EQ(enabled, wanted) << c.key;
-        EXPECT_EQ(SelKey, c.key);
+        EXPECT_EQ(SelKey(), c.key);
         Release(at.left + 5, at.top + 5, Qt::RightButton);
     }
 }

@@ -43,13 +43,13 @@ TEST_F(ToolboxTest, WhatIsAddedOrClonedIsSelectedAndHasASheetOfItsOwn) {
          {toolbox.btn_AddButton, toolbox.btn_AddGraphic, toolbox.btn_AddVolume, toolbox.btn_AddInfo}) {
         QApplication::setActiveWindow(&toolbox);
         Click(add);
-        EXPECT_EQ(SelKey, Last().Key);
-        ASSERT_TRUE(SelControl);
-        EXPECT_EQ(SelControl->Tag, SelKey);
+        EXPECT_EQ(SelKey(), Last().Key);
+        ASSERT_TRUE(SelControl());
+        EXPECT_EQ(SelControl()->Tag, SelKey());
         EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == form_.get(); }, 1000))
             << "arrows and Delete reach it";
     }
-    EXPECT_EQ(SelControl->Bounds(), (Rect{100, 20, 400, 50}));
+    EXPECT_EQ(SelControl()->Bounds(), (Rect{100, 20, 400, 50}));
     dbLayoutElement& source = Element("Info1");
     source.ElementName = "Song";
     source.Font = std::make_shared<Font>();
@@ -59,7 +59,7 @@ TEST_F(ToolboxTest, WhatIsAddedOrClonedIsSelectedAndHasASheetOfItsOwn) {
     EXPECT_EQ(clone.Key + ", " + clone.ElementName + ", " + clone.InfoField, "Info2, Clone of Song, Now");
     EXPECT_EQ(clone.Order, 5);
     EXPECT_EQ(clone.Font, source.Font) << "one font serves both";
-    EXPECT_EQ(SelKey, "Info2");
+    EXPECT_EQ(SelKey(), "Info2");
     EXPECT_EQ(windows_.panel.unloaded, 5);
     EXPECT_EQ(windows_.panel.opened, 5);
 }
@@ -68,7 +68,7 @@ TEST_F(ToolboxTest, WhatCannotBeAddedOrClonedChangesNothing) {
     Add("Main", TypeMain, {100, 100, 200, 200});
     Compose();
     CloneElement(form_->parts());
-    form_->PlaceAnchors(&form_->host().pMain, false);
+    form_->SelectWithAnchors(form_->host().pMain);
     CloneElement(form_->parts());
     AddElement(form_->parts(), 0);
     AddElement(form_->parts(), 5);
@@ -87,11 +87,11 @@ TEST_F(ToolboxTest, WhatCannotBeAddedOrClonedChangesNothing) {
 TEST_F(ToolboxTest, WhatIsAddedUnseenIsTheSelectionAllTheSame) {
     toolbox.chk_ShowElements->click();
     Click(toolbox.btn_AddButton);
-    EXPECT_EQ(SelKey, "Button1");
-    EXPECT_TRUE(SelControl && SelControl->isHidden() && windows_.panel.shown);
+    EXPECT_EQ(SelKey(), "Button1");
+    EXPECT_TRUE(SelControl() && SelControl()->isHidden() && windows_.panel.shown);
     Compose();
     toolbox.chk_ShowElements->click();
-    EXPECT_EQ(SelKey, "Button1");
+    EXPECT_EQ(SelKey(), "Button1");
     EXPECT_TRUE(anchors().Anchor[0]->isVisible());
 }
 
@@ -124,7 +124,7 @@ TEST_F(ToolboxTest, SwitchesShowOnTheCanvas) {
     Add("Button1", TypeButton, {10, 10, 20, 20});
     objCurrentLayout->AddDummyPoints();
     Compose();
-    form_->PlaceAnchors(&form_->host().Element[1], false);
+    form_->SelectWithAnchors(form_->host().Element[1]);
     toolbox.chk_ShowElements->click();
     EXPECT_FALSE(form_->host().Element[1].isVisible());
     EXPECT_FALSE(form_->parts().anchors.Anchor[0]->isVisible());

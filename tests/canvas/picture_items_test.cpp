@@ -42,8 +42,8 @@ TEST_F(PictureItemsTest, TheBackgroundBecomesThePictureWithoutTheElementAndTheTo
     viewSwitches.ShowLines = true;
     viewSwitches.ShowShape = viewSwitches.ShowGrid = false;
     Compose();
-    form_->PlaceAnchors(&host().Element[1], false);  // its handles lie within the other
-    form_->PlaceAnchors(&host().Element[2], false);
+    form_->SelectWithAnchors(host().Element[1]);  // its handles lie within the other
+    form_->SelectWithAnchors(host().Element[2]);
     const QColor ground = form_->grab({95, 90, 1, 1}).toImage().pixelColor(0, 0);
     objSkin->Dirty = false;
     mnuElementSub_Click(form_->parts(), MenuBackgroundPicture);

@@ -29,14 +29,14 @@ TEST_F(SampleClicksTest, AClickOpensItsFamilyWithoutHandles) {
                  {sample.lbl_Kiosk, sample.lbl_Kiosk},   {sample.lbl_SL[27], sample.lbl_SL[0]}};
     for (const auto& c : cases) {
         Click(Bare.x(), Bare.y());
-        ASSERT_EQ(SelKey, "Main");
+        ASSERT_EQ(SelKey(), "Main");
         windows_.panel = {};
         const QPoint at = In(c.pressed);
         Press(at.x(), at.y());
-        EXPECT_EQ(SelKey, "Main") << "nothing before the release";
+        EXPECT_EQ(SelKey(), "Main") << "nothing before the release";
         Release(at.x(), at.y());
-        EXPECT_EQ(SelControl, &c.selected) << c.pressed.Name;
-        EXPECT_EQ(SelKey, "") << c.pressed.Name;
+        EXPECT_EQ(SelControl(), &c.selected) << c.pressed.Name;
+        EXPECT_EQ(SelKey(), "") << c.pressed.Name;
         EXPECT_EQ(windows_.panel.opened, 1) << c.pressed.Name;
         EXPECT_FALSE(anchors().Anchor[0]->isVisible()) << c.pressed.Name;
         objSkin->Dirty = false;
@@ -44,7 +44,7 @@ TEST_F(SampleClicksTest, AClickOpensItsFamilyWithoutHandles) {
         Key(Qt::Key_Delete);
         EXPECT_FALSE(objSkin->Dirty) << "no key moves it";
         Compose();
-        EXPECT_EQ(SelControl, &c.selected) << "nor does a composition let it go";
+        EXPECT_EQ(SelControl(), &c.selected) << "nor does a composition let it go";
     }
 }
 
@@ -56,13 +56,13 @@ TEST_F(SampleClicksTest, WhatOnlyAdornsThePanelLeavesThePressToIt) {
     for (const QPoint& at : {betweenKeys, shadow}) {
         anchors().ResetSelection();
         Click(at.x(), at.y());
-        EXPECT_EQ(SelKey, "Main");
+        EXPECT_EQ(SelKey(), "Main");
     }
     const QPoint song = In(host().sample.but_Song);
     anchors().ResetSelection();
     Press(song.x(), song.y());
     Release(Bare.x(), Bare.y());
-    EXPECT_EQ(SelControl, nullptr) << "released elsewhere";
+    EXPECT_EQ(SelControl(), nullptr) << "released elsewhere";
 }
 
 TEST_F(SampleClicksTest, TheSampleFollowsThePanelsSize) {

@@ -117,9 +117,9 @@ TEST_F(ShapeTest, ANewCornerIsAlignedAsItsNeighbour) {
 
 TEST_F(ShapeTest, ADraggedCornerTakesItsPointAndBothSidesAlong) {
     Press(200, 150);
-    EXPECT_EQ(SelKey, "K1");
-    EXPECT_EQ(SelControl, &Points().cPointMover[1]);
-    EXPECT_EQ(SelControl->BackColor(), PointBlinkColor);
+    EXPECT_EQ(SelKey(), "K1");
+    EXPECT_EQ(SelControl(), &Points().cPointMover[1]);
+    EXPECT_EQ(SelControl()->BackColor(), PointBlinkColor);
     EXPECT_FALSE(objSkin->Dirty) << "a press moves nothing";
     MoveTo(190, 170);
     EXPECT_EQ(Sides(), "1:190,170-200,450 2:200,450-600,450 3:600,450-600,150 4:600,150-190,170 ");
@@ -127,7 +127,7 @@ TEST_F(ShapeTest, ADraggedCornerTakesItsPointAndBothSidesAlong) {
     MoveTo(-60, 170);
     EXPECT_EQ(PointOf(1).X, 0);
     EXPECT_EQ(Points().cPointMover[1].Bounds().left, -2);
-    cPointMover_MouseMove(form_->parts(), *SelControl, {1, 0, 2000, 2000});
+    cPointMover_MouseMove(form_->parts(), *SelControl(), {1, 0, 2000, 2000});
     EXPECT_EQ(PointOf(1).X, 799);
     EXPECT_EQ(PointOf(1).Y, 599);
     Release(799, 599);
@@ -137,13 +137,13 @@ TEST_F(ShapeTest, ADraggedCornerTakesItsPointAndBothSidesAlong) {
 
 TEST_F(ShapeTest, TheSelectionStaysWithItsCornerWhenAnotherIsInserted) {
     Click(200, 450);
-    ASSERT_EQ(SelKey, "K2");
+    ASSERT_EQ(SelKey(), "K2");
     Click(200, 300);
-    EXPECT_EQ(SelKey, "K3");
+    EXPECT_EQ(SelKey(), "K3");
     EXPECT_EQ(windows_.panel.sheets, 1) << "which shows its number";
-    ASSERT_TRUE(SelControl);
-    EXPECT_EQ(SelControl->Bounds(), (Rect{198, 448, 5, 5}));
-    EXPECT_EQ(SelControl->BackColor(), PointBlinkColor);
+    ASSERT_TRUE(SelControl());
+    EXPECT_EQ(SelControl()->Bounds(), (Rect{198, 448, 5, 5}));
+    EXPECT_EQ(SelControl()->BackColor(), PointBlinkColor);
     EXPECT_EQ(Points().cPointMover[2].BackColor(), PointColor);
 }
 
@@ -152,7 +152,7 @@ TEST_F(ShapeTest, WhatLiesUnderADiagonalStaysClickable) {
     PointOf(2).X = PointOf(3).X = 600;  // the first side runs from 200, 150 to 600, 450
     Compose();
     Click(480, 200);
-    EXPECT_EQ(SelKey, "Button1");
+    EXPECT_EQ(SelKey(), "Button1");
     Click(403, 299);
     EXPECT_EQ(objCurrentLayout->dbPoints->Count(), 5) << "within 3 pixels of the line";
     EXPECT_EQ(PointOf(2).X, 403);
@@ -172,7 +172,7 @@ TEST_F(ShapeTest, CornersFarOutsideAndWithoutAPlaceDoNoHarm) {
     EXPECT_EQ(Points().cPointMover[4].Tag, "");
     EXPECT_EQ(Points().cPoint[3].Tag, "3");
     Click(450, 150);
-    EXPECT_EQ(SelKey, "Button1");
+    EXPECT_EQ(SelKey(), "Button1");
     MovePoint(form_->parts(), 3, 500, 400);
     EXPECT_EQ(Points().cPoint[2].X2(), 500);
     EXPECT_EQ(Points().cPoint[3].X1(), 500);

@@ -10,7 +10,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "editor/selection.h"
 #include "editor/settings_keys.h"
 #include "picture/presets.h"
 #include "support/failure_number.h"
@@ -23,10 +22,9 @@ namespace {
 
 class PictureEditorTest : public SkinTest {
 protected:
-    PictureEditorTest() { SelKey.clear(); }
-    ~PictureEditorTest() override { SelKey.clear(); }
     void Open(const char* picture, const char* finalName = "a") {
         form_ = std::make_unique<frm_PictureEditor>(nullptr);
+        form_->SetSelKey(selKey_);
         form_->SetFinalName(finalName);
         form_->SetEditPicture(picture);
         form_->Form_Load();
@@ -51,6 +49,7 @@ protected:
     QString Notice() const { return form_->lbl_Notice->text(); }
 
     ScriptedPrompts prompts_;
+    std::string selKey_;
     std::unique_ptr<frm_PictureEditor> form_;
 };
 
@@ -176,7 +175,7 @@ TEST_F(PictureEditorTest, TellsWhatIsLost) {
     ASSERT_TRUE(half.save(Path("half.png")));
     Add("E1", 1, {0, 0, 10, 10}).BackgroundColor = Rgb(10, 20, 30);
     for (const auto& [key, ground] : {std::pair{"E1", qRgb(10, 20, 30)}, {"", qRgb(255, 255, 255)}}) {
-        SelKey = key;
+        selKey_ = key;
         Open("half.png");
         EXPECT_TRUE(Notice().contains("transparent")) << key;
         EXPECT_EQ(Seen(form_->picSource, 0, 0), qRgb(255, 0, 0));
@@ -195,7 +194,7 @@ TEST_F(PictureEditorTest, WhatIsClearStaysClearForItsElement) {
     element.UseTransparency = true;
     element.TransparentColor = Rgb(1, 254, 3);
     element.BackgroundColor = Rgb(0, 0, 20);
-    SelKey = "E1";
+    selKey_ = "E1";
     const QRgb colours[] = {red, qRgba(0, 0, 0, 127), qRgba(200, 200, 200, 128), key};
     const auto open = [&](bool topLeft, const std::vector<int>& order) {
         QImage picture(4, 1, QImage::Format_ARGB32);

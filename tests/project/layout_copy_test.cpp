@@ -145,9 +145,9 @@ TEST_F(PanelTest, TheSheetOfTheWholeSkin) {
     OpenBlue();
     const int resets = canvas_.reset;
     Click(panel_->btn_SkinProperties);
-    EXPECT_TRUE(windows_.panel.shown && SelControl == panel_->btn_SkinProperties);
+    EXPECT_TRUE(windows_.panel.shown && canvas_.selection().SelControl() == panel_->btn_SkinProperties);
     EXPECT_EQ(canvas_.reset, resets + 1);
-    EXPECT_EQ(SelKey, "");
+    EXPECT_EQ(canvas_.selection().SelKey(), "");
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // An edit's three moments: in the model, waiting, drawn; what waits for nothing, and what is refused.
-#include "editor/selection.h"
 #include "properties/row_edit_fixture.h"
 
 namespace ornavo::testing {
@@ -26,7 +25,7 @@ public:
 TEST_F(CommitTest, EachKeyReachesTheModelAndTheLastOneTheCanvas) {
     Select("Button1");
     RowText& box = *Box("LeftX");
-    Moves moves(*SelControl);
+    Moves moves(*SelControl());
     Type(box, "4");
     for (int i = 0; i < 200; ++i) {
         Press(box, i % 2 ? Qt::Key_Backspace : Qt::Key_5);
@@ -36,8 +35,8 @@ TEST_F(CommitTest, EachKeyReachesTheModelAndTheLastOneTheCanvas) {
     EXPECT_FALSE(objSkin->Dirty);
     Tick();
     EXPECT_EQ(moves.count, 1);
-    EXPECT_EQ(SelControl->Bounds().left, 4);
-    EXPECT_EQ(form_->parts().anchors.Mover.Bounds(), SelControl->Bounds());
+    EXPECT_EQ(SelControl()->Bounds().left, 4);
+    EXPECT_EQ(form_->parts().anchors.Mover.Bounds(), SelControl()->Bounds());
     EXPECT_TRUE(objSkin->Dirty);
     Press(box, Qt::Key_Return);
     EXPECT_TRUE(timer().isActive());
@@ -90,7 +89,7 @@ TEST_F(CommitTest, TypesThatCannotBe) {
     Press(*Combo("ElementType"), Qt::Key_Down);
     EXPECT_EQ(Combo("ActionType"), nullptr);
     EXPECT_NE(Check("Dragger"), nullptr);
-    EXPECT_EQ(SelKey, "Button1");
+    EXPECT_EQ(SelKey(), "Button1");
     EXPECT_TRUE(panel_->focusWidget() == Combo("ElementType"));
 }
 
@@ -100,13 +99,13 @@ TEST_F(CommitTest, TheListOfElementsLeadsToOne) {
     Element("Info1").Visible = false;
     Compose();
     Combo("ShowElement")->setCurrentIndex(TypeInfo);
-    EXPECT_EQ(SelKey, "Info1");
+    EXPECT_EQ(SelKey(), "Info1");
     EXPECT_TRUE(anchors().Anchor[0]->isHidden());
     EXPECT_NE(Box("CapScrollSpeed"), nullptr);
     EXPECT_EQ(ControlOf(Element("Button1")).Bounds().left, 450);
     Press(*Check("Visible"), Qt::Key_Space);
     Tick();
-    EXPECT_FALSE(SelControl->isHidden());
+    EXPECT_FALSE(SelControl()->isHidden());
 }
 
 TEST_F(CommitTest, WhatHasNoControlOfItsOwnIsDrawnToo) {
@@ -126,25 +125,25 @@ TEST_F(CommitTest, WhatHasNoControlOfItsOwnIsDrawnToo) {
     Select("Button1");
     Type(*Box("ElementName"), "Play");
     EXPECT_EQ(Combo("ShowElement")->currentText(), "Play");
-    SelControl = nullptr;
+    form_->selection().Clear();
 }
 
 TEST_F(CommitTest, ThePanelStaysUnderTheUsersHands) {
     Select("Info1");
     Press(*Check("Visible"), Qt::Key_Space);
     Tick();
-    EXPECT_TRUE(SelControl->isHidden());
+    EXPECT_TRUE(SelControl()->isHidden());
     EXPECT_TRUE(panel_->isVisible());
     Press(*Check("Visible"), Qt::Key_Space);
     Type(*Box("WidthX"), "0");
     Tick();
-    EXPECT_TRUE(SelControl->isHidden());
+    EXPECT_TRUE(SelControl()->isHidden());
     EXPECT_TRUE(panel_->isVisible());
     Type(*Box("WidthX"), "60");
     Tick();
-    EXPECT_FALSE(SelControl->isHidden());
-    EXPECT_EQ(SelControl->Bounds().width, 60);
-    EXPECT_FALSE(KeepPropertiesOpen);
+    EXPECT_FALSE(SelControl()->isHidden());
+    EXPECT_EQ(SelControl()->Bounds().width, 60);
+    EXPECT_FALSE(form_->selection().KeepsPropertiesOpen());
 }
 
 TEST_F(CommitTest, AnotherCommandFinishesWhatWaits) {
@@ -178,7 +177,7 @@ TEST_F(CommitTest, AnotherLayoutLeavesNothingWaiting) {
     EXPECT_TRUE(objSkin->Dirty);
     EXPECT_FALSE(timer().isActive());
     EXPECT_FALSE(panel_->isVisible());
-    EXPECT_EQ(SelControl, nullptr);
+    EXPECT_EQ(SelControl(), nullptr);
 }
 
 TEST_F(CommitTest, AnEditedKeyColourStands) {

@@ -173,11 +173,11 @@ protected:
         SCOPED_TRACE(row.first);
         const Snapshot before = SnapshotOf(*objSkin);
         const QImage picture = Canvas(Part());
-        const std::string selected = SelKey, preference(GetClass(row.first));
+        const std::string selected = SelKey(), preference(GetClass(row.first));
         objSkin->Dirty = false;
         const std::string expected = Edit(row);
         if (row.first == "ShowElement") {
-            EXPECT_NE(SelKey, selected);
+            EXPECT_NE(SelKey(), selected);
             return;
         }
         EXPECT_EQ(timer().isActive(), !Undrawn[static_cast<int>(row.second)].contains(row.first));
@@ -188,8 +188,8 @@ protected:
     }
     /// What the edit may change. Other controls of a sample's family wait for the next composition.
     QRect Part() {
-        if (!GetParam().isSample || SelControl == &skinButton_) return form_->rect();
-        return {SelControl->mapTo(form_.get(), QPoint()), SelControl->size()};
+        if (!GetParam().isSample || SelControl() == &skinButton_) return form_->rect();
+        return {SelControl()->mapTo(form_.get(), QPoint()), SelControl()->size()};
     }
 
     Control skinButton_{nullptr, "btn_SkinProperties"};

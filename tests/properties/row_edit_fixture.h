@@ -95,15 +95,14 @@ protected:
 
     void Select(Control& control) {
         form_->ResetSelection();
-        form_->PlaceAnchors(&control, false);
+        form_->SelectWithAnchors(control);
         Open();
     }
     void Select(const char* element) { Select(ControlOf(Element(element))); }
     /// A sample control, as a click on it does.
     void SelectSample(Control& control) {
         form_->ResetSelection();
-        SelControl = &control;
-        SelKey.clear();
+        form_->selection().SelectSample(control);
         Open();
     }
     void Open() {

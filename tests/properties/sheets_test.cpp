@@ -37,7 +37,6 @@ QStringList Names(const std::array<std::string_view, N>& names) {
 /// A control of any name is selected.
 class SheetTest : public RowEditTest {
 protected:
-    ~SheetTest() override { SelControl = nullptr; }
     void Select(const char* name, const char* tag = "") {
         selected_.Name = name;
         selected_.Tag = *tag ? tag : selected_.Name == "pMain" ? "Main" : "Button1";
@@ -291,7 +290,7 @@ TEST_F(SheetTest, APointIsFoundByItsOrder) {
 
 TEST_F(SheetTest, NothingSelectedKeepsTheOldRows) {
     Select("lbl_Kiosk");
-    SelControl = nullptr;
+    form_->selection().Clear();
     panel_->ShowProperties();
     EXPECT_NE(Box("LA_TextColor.Value"), nullptr);
 }

@@ -24,17 +24,11 @@ protected:
     EditingTest() {
         objSkin->SkinWidth = 800;
         objSkin->SkinHeight = 600;
-        SelControl = nullptr;
-        SelKey.clear();
-        KeepPropertiesOpen = false;
         form_ = std::make_unique<frm_Ornavo>(windows_, "0.1");
         form_->Start("");
         Compose();
     }
-    ~EditingTest() override {
-        SelControl = nullptr;
-        TargetLayout.reset();
-    }
+    ~EditingTest() override { TargetLayout.reset(); }
     void Compose() {
         form_->UpdateCurrentLayout();
         form_->tmrResizer.stop();
@@ -55,6 +49,8 @@ protected:
         for (QWidget* sample : host().pMain.findChildren<QWidget*>()) sample->hide();
     }
     LayoutHost& host() { return form_->host(); }
+    Control* SelControl() { return form_->selection().SelControl(); }
+    const std::string& SelKey() { return form_->selection().SelKey(); }
     Anchors& anchors() { return form_->parts().anchors; }
 
     void Press(int x, int y, Qt::MouseButton button = Qt::LeftButton) {

@@ -39,7 +39,6 @@ protected:
         window.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
-    ~PanelTest() override { SelControl = nullptr; }
 
     fs::path Root() const { return fs::canonical(folder_.path().toStdString()); }
     fs::path Settings(const char* skin) const { return Root() / "Skins" / skin / "SkinSettings.xml"; }

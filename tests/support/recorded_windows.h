@@ -14,11 +14,16 @@ public:
     void UpdateCurrentLayout() override { composed = objCurrentLayout; }
     void UpdateCaption() override {}
     void ResetFormToOriginal() override { ++sized; }
-    void ResetSelection() override { SelControl = nullptr, ++reset; }
+    void ResetSelection() override { selection_.Clear(), ++reset; }
     void HideSelectionTools() override {}
-    Control* PlaceAnchors(Control* control, bool) override { return control; }
+    void PlaceAnchors() override {}
+    void SelectWithAnchors(Control&) override {}
+    Selection& selection() override { return selection_; }
     dbLayoutRef composed;  // the last one
     int sized = 0, reset = 0;
+
+private:
+    Selection selection_{[](Control&, bool) {}};
 };
 
 class RecordedPanel : public PropertiesPanel {
