@@ -62,25 +62,18 @@ void ChoosePicture(PanelParts& parts, RowText& box) {
     box.SetText(MakeSkinRelative(path));
 }
 
-RowText& BoxOf(PanelParts& parts, const ButtonTag& tag) {
-    if (tag.row < 1 || tag.row > parts.pools.tbx_Prop.Top())
-        throw Failure(9, "Properties", "Subscript out of range");
-    return parts.pools.tbx_Prop[tag.row];
-}
-
 }  // namespace
 
-void btn_Prop_Click(PanelParts& parts, int index) {
-    const ButtonTag tag = ButtonTag::Of(parts.pools.btn_Prop[index].Tag);
-    RowText& box = BoxOf(parts, tag);
-    if (tag.kind == KindColour) ChooseColour(box);
-    if (tag.kind == KindFont) ChooseFont(parts, box);
-    if (tag.kind == KindPicture) ChoosePicture(parts, box);
+void Choose(PanelParts& parts, const RowButton& button) {
+    RowText& box = *button.box;
+    if (button.kind == KindColour) ChooseColour(box);
+    if (button.kind == KindFont) ChooseFont(parts, box);
+    if (button.kind == KindPicture) ChoosePicture(parts, box);
     GiveKeyboardTo(box.window());
 }
 
-void btn_PicEdit_Click(PanelParts& parts, int index) {
-    RowText& box = BoxOf(parts, ButtonTag::Of(parts.pools.btn_PicEdit[index].Tag));
+void EditPicture(PanelParts& parts, const RowButton& button) {
+    RowText& box = *button.box;
     std::string path = box.Text();
     if (TrimBlanks(path).empty()) return;
     const bool edited = parts.windows.EditPicture(GetBaseName(path), path);

@@ -5,9 +5,11 @@
 namespace ornavo {
 
 struct PanelParts;
+class RowButton;
 
-// `index` is that of the button in its pool.
-void btn_Prop_Click(PanelParts& parts, int index);
-void btn_PicEdit_Click(PanelParts& parts, int index);
+/// What the button's kind asks for. The keyboard is then the panel's again.
+void Choose(PanelParts& parts, const RowButton& button);
+/// The picture that the button's box names is edited; nothing where it names none.
+void EditPicture(PanelParts& parts, const RowButton& button);
 
 }  // namespace ornavo

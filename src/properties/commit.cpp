@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
+#include "properties/choosers.h"
 #include "properties/live_update.h"
 #include "properties/panel_parts.h"
 #include "properties/rows.h"
@@ -121,25 +122,24 @@ void TellName(PanelParts& parts) {
 
 }  // namespace
 
-void tbx_Prop_Change(PanelParts& parts, int index) {
-    if (parts.IsBuilding) return;
-    RowText& box = parts.pools.tbx_Prop[index];
+void RowEdits::tbx_Prop_Change(RowText& box) {
+    if (parts_.IsBuilding) return;
     const std::string key = box.Tag;
     if (IsColourRow(key) && !ShowColour(box)) return;
     if (!GetClass(key).empty() && GetMethod(key) == "Font") return;
-    Write(parts, key, box.Text());
+    Write(parts_, key, box.Text());
     TakeKeyColour(key);
-    if (key == "ElementName") TellName(parts);
-    if (!IsOneOf(key, UndrawnTexts)) parts.tmrUpdate.start();
+    if (key == "ElementName") TellName(parts_);
+    if (!IsOneOf(key, UndrawnTexts)) parts_.tmrUpdate.start();
 }
 
-void tbx_Prop_KeyPress(PanelParts& parts, int index) {
-    TakeWebColour(parts.pools.tbx_Prop[index]);
-    tbx_Prop_Change(parts, index);
+void RowEdits::tbx_Prop_KeyPress(RowText& box) {
+    TakeWebColour(box);
+    tbx_Prop_Change(box);
 }
 
-void tbx_Prop_LostFocus(PanelParts& parts, int index) {
-    RowText& box = parts.pools.tbx_Prop[index];
+void RowEdits::tbx_Prop_LostFocus(RowText& box) {
+    if (parts_.IsBuilding) return;
     TakeWebColour(box);
     const std::string_view preference = GetClass(box.Tag);
     if (preference.empty()) return;
@@ -148,30 +148,36 @@ void tbx_Prop_LostFocus(PanelParts& parts, int index) {
     if (pref->value.IsEmpty() || pref->value == Value("")) box.setText(QStringLiteral("0"));
 }
 
-void chk_Boolean_Click(PanelParts& parts, int index) {
-    if (parts.IsBuilding) return;
-    const RowCheck& box = parts.pools.chk_Boolean[index];
+void RowEdits::chk_Boolean_Click(RowCheck& box) {
+    if (parts_.IsBuilding) return;
     const std::string key = box.Tag;
-    Write(parts, key, box.Value());
-    if (!IsOneOf(key, UndrawnTicks)) parts.tmrUpdate.start();
+    Write(parts_, key, box.Value());
+    if (!IsOneOf(key, UndrawnTicks)) parts_.tmrUpdate.start();
     const std::string_view preference = GetClass(key);
     if (IsOneOf(preference.empty() ? std::string_view(key) : preference, RebuildingTicks))
-        parts.panel.ShowProperties();
+        parts_.panel.ShowProperties();
 }
 
-void cboProp_Click(PanelParts& parts, int index) {
-    if (parts.IsBuilding) return;
-    RowCombo& combo = parts.pools.cboProp(index);
+void RowEdits::cboProp_Click(RowCombo& combo) {
+    if (parts_.IsBuilding) return;
     const std::string key = combo.Tag;
     if (key == "ShowElement") {
-        Attempt([&] { ShowElement(parts, combo.ListIndex()); });
+        Attempt([&] { ShowElement(parts_, combo.ListIndex()); });
         return;
     }
-    if (key == "ElementType" && !MayChangeType(parts, combo)) return;
-    Write(parts, key, combo.ListIndex());
-    parts.tmrUpdate.start();
-    if (key == "ElementType") UpdateCurrentLayout(parts);
-    if (IsOneOf(key, RebuildingLists)) parts.panel.ShowProperties();
+    if (key == "ElementType" && !MayChangeType(parts_, combo)) return;
+    Write(parts_, key, combo.ListIndex());
+    parts_.tmrUpdate.start();
+    if (key == "ElementType") UpdateCurrentLayout(parts_);
+    if (IsOneOf(key, RebuildingLists)) parts_.panel.ShowProperties();
+}
+
+void RowEdits::btn_Prop_Click(RowButton& button) {
+    Choose(parts_, button);
+}
+
+void RowEdits::btn_PicEdit_Click(RowButton& button) {
+    EditPicture(parts_, button);
 }
 
 }  // namespace ornavo

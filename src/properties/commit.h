@@ -3,15 +3,27 @@
 // that the model can't hold leaves it as it was, without a word.
 #pragma once
 
+#include "properties/row_pools.h"
+
 namespace ornavo {
 
 struct PanelParts;
 
-// `index` is that of the control in its pool.
-void tbx_Prop_Change(PanelParts& parts, int index);
-void tbx_Prop_KeyPress(PanelParts& parts, int index);  // Enter
-void tbx_Prop_LostFocus(PanelParts& parts, int index);
-void chk_Boolean_Click(PanelParts& parts, int index);
-void cboProp_Click(PanelParts& parts, int index);
+/// Listens to the rows. What changes while they are built is no edit.
+class RowEdits : public RowEvents {
+public:
+    explicit RowEdits(PanelParts& parts) : parts_(parts) {}
+
+    void tbx_Prop_Change(RowText& box) override;
+    void tbx_Prop_KeyPress(RowText& box) override;
+    void tbx_Prop_LostFocus(RowText& box) override;
+    void chk_Boolean_Click(RowCheck& box) override;
+    void cboProp_Click(RowCombo& combo) override;
+    void btn_Prop_Click(RowButton& button) override;
+    void btn_PicEdit_Click(RowButton& button) override;
+
+private:
+    PanelParts& parts_;
+};
 
 }  // namespace ornavo

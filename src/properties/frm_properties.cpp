@@ -10,8 +10,6 @@
 #include "document/shape_edits.h"
 #include "editor/settings_keys.h"
 #include "platform/panel_scale.h"
-#include "properties/choosers.h"
-#include "properties/commit.h"
 #include "properties/element_sheet.h"
 #include "properties/live_update.h"
 #include "properties/pref_sheet.h"
@@ -34,10 +32,11 @@ int FrameHeight(const QWidget& window) {
 
 frm_Properties::frm_Properties(QWidget* owner, Windows& windows, Canvas& canvas)
     : Form(owner, "frm_Properties", Qt::Tool),
+      parts_{*this, canvas, canvas.selection(), windows, pools_, tmrUpdate},
+      edits_(parts_),
       scroll_(this),
       sheet_(scroll_),
-      pools_(sheet_, *this),
-      parts_{*this, canvas, canvas.selection(), windows, pools_, tmrUpdate} {
+      pools_(sheet_, edits_) {
     setWindowTitle(QStringLiteral("Properties"));
     setAttribute(Qt::WA_ShowWithoutActivating);
     scroll_.setFrameShape(QFrame::NoFrame);
@@ -95,7 +94,7 @@ void frm_Properties::Hide() {
 void frm_Properties::DrawPendingEdits() {
     // Whatever asks does so in place of leaving the row.
     if (const RowValue* focused = sheet_.Focused())
-        if (const auto* box = dynamic_cast<RowText*>(focused->control)) FocusLost(box->Index);
+        if (auto* box = dynamic_cast<RowText*>(focused->control)) edits_.tbx_Prop_LostFocus(*box);
     if (tmrUpdate.isActive()) tmrUpdate_Timer(parts_);
 }
 
@@ -166,41 +165,6 @@ void frm_Properties::FitHeight(int rows) {
 void frm_Properties::UnloadProperties() {
     sheet_.SetValues({});
     pools_.UnloadProperties();
-}
-
-void frm_Properties::TextChanged(int index) {
-    tbx_Prop_Change(parts_, index);
-}
-
-void frm_Properties::EnterPressed(int index) {
-    tbx_Prop_KeyPress(parts_, index);
-}
-
-void frm_Properties::FocusLost(int index) {
-    if (!parts_.IsBuilding) tbx_Prop_LostFocus(parts_, index);
-}
-
-void frm_Properties::ButtonWanted(int index) {
-    for (int i = 1; i <= pools_.btn_Prop.Top(); ++i) {
-        TileCommand& button = pools_.btn_Prop[i];
-        if (!button.Tag.empty() && ButtonTag::Of(button.Tag).row == index) return button.PerformClick();
-    }
-}
-
-void frm_Properties::CheckClicked(int index) {
-    chk_Boolean_Click(parts_, index);
-}
-
-void frm_Properties::ComboClicked(int index) {
-    cboProp_Click(parts_, index);
-}
-
-void frm_Properties::ButtonClicked(int index) {
-    btn_Prop_Click(parts_, index);
-}
-
-void frm_Properties::PicEditClicked(int index) {
-    btn_PicEdit_Click(parts_, index);
 }
 
 }  // namespace ornavo

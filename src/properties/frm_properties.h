@@ -6,13 +6,14 @@
 #include <QTimer>
 
 #include "platform/form.h"
+#include "properties/commit.h"
 #include "properties/panel_parts.h"
 #include "properties/row_sheet.h"
 #include "properties/sheet_row.h"
 
 namespace ornavo {
 
-class frm_Properties : public Form, public PropertiesPanel, private RowEvents {
+class frm_Properties : public Form, public PropertiesPanel {
     Q_OBJECT
 public:
     /// Owned by `owner`, the main window; null for none.
@@ -41,20 +42,12 @@ private:
     void FitHeight(int rows);
     int MostHeight() const;
 
-    void TextChanged(int index) override;
-    void EnterPressed(int index) override;
-    void FocusLost(int index) override;
-    void ButtonWanted(int index) override;
-    void CheckClicked(int index) override;
-    void ComboClicked(int index) override;
-    void ButtonClicked(int index) override;
-    void PicEditClicked(int index) override;
-
     QPoint home_, shown_;  // the corner that the user chose, and where the height of the sheet has put it
+    PanelParts parts_;
+    RowEdits edits_;  // outlives the rows, which tell it of a lost focus as they go
     QScrollArea scroll_;
     RowSheet sheet_;
     RowPools pools_;
-    PanelParts parts_;
 };
 
 }  // namespace ornavo

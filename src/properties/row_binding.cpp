@@ -2,20 +2,11 @@
 #include "properties/row_binding.h"
 
 #include "base/failure.h"
-#include "base/numbers.h"
 #include "document/current_skin.h"
 #include "document/fields.h"
 
 namespace ornavo {
 namespace {
-
-constexpr std::size_t Digits = 4;
-
-/// Four digits with leading zeros; a longer number is cut on the left.
-std::string FourDigits(int number) {
-    const std::string digits = "000" + std::to_string(number);
-    return digits.substr(digits.size() - Digits);
-}
 
 /// Calls `use` with the object that the key belongs to and the name of its member.
 template <class Use>
@@ -51,16 +42,6 @@ void SetRowValue(const BoundObjectRef& bound, std::string_view key, const Value&
         SetField(owner, member, value);
         return 0;
     });
-}
-
-std::string ButtonTag::Text() const {
-    return FourDigits(kind) + FourDigits(row) + key;
-}
-
-ButtonTag ButtonTag::Of(std::string_view text) {
-    if (text.size() < 2 * Digits) throw Failure(13, "Properties", "Type mismatch");
-    return {ToLong(ToNumber(text.substr(0, Digits))), ToLong(ToNumber(text.substr(Digits, Digits))),
-            std::string(text.substr(2 * Digits))};
 }
 
 }  // namespace ornavo

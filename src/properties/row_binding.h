@@ -22,14 +22,4 @@ Value GetRowValue(const BoundObjectRef& bound, std::string_view key);
 /// Converts as every assignment to a field does: a Failure leaves the field as it was.
 void SetRowValue(const BoundObjectRef& bound, std::string_view key, const Value& value);
 
-/// What the Tag of a row's button says: kind and row with four digits each, then the key.
-struct ButtonTag {
-    int kind = 0;
-    int row = 0;  // index of the row's text box
-    std::string key;
-
-    std::string Text() const;
-    static ButtonTag Of(std::string_view text);  // Failure 13 for what is no such Tag
-};
-
 }  // namespace ornavo

@@ -50,7 +50,7 @@ private:
 
 }  // namespace
 
-RowLabel::RowLabel(QWidget* sheet, int index) : QLabel(sheet), Index(index) {
+RowLabel::RowLabel(QWidget* sheet) : QLabel(sheet) {
     TellReaders<RowLabel, AccessibleLabel>();
     setObjectName(QStringLiteral("lbl_Prop"));
     setTextFormat(Qt::PlainText);
@@ -72,7 +72,7 @@ void RowLabel::Show(const QString& caption, bool heading, int width) {
     setBackgroundRole(heading ? QPalette::Mid : QPalette::Window);
 }
 
-RowText::RowText(QWidget* sheet, int index) : QLineEdit(sheet), Index(index) {
+RowText::RowText(QWidget* sheet) : QLineEdit(sheet) {
     setObjectName(QStringLiteral("tbx_Prop"));
     setValidator(new OneLine(this));
     setFrame(false);
@@ -101,7 +101,7 @@ bool RowText::event(QEvent* event) {
     return QLineEdit::event(event);
 }
 
-RowCheck::RowCheck(QWidget* sheet, int index) : QCheckBox(sheet), Index(index) {
+RowCheck::RowCheck(QWidget* sheet) : QCheckBox(sheet) {
     setObjectName(QStringLiteral("chk_Boolean"));
     hide();
 }
@@ -113,7 +113,7 @@ void RowCheck::paintEvent(QPaintEvent*) {
     painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, box);
 }
 
-RowCombo::RowCombo(QWidget* frame, int index) : QComboBox(frame), Index(index) {
+RowCombo::RowCombo(QWidget* frame) : QComboBox(frame) {
     setObjectName(QStringLiteral("cboProp"));
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(ListRows);
@@ -135,7 +135,7 @@ void RowCombo::wheelEvent(QWheelEvent* event) {
 }
 
 RowFrame::RowFrame(QWidget* sheet, int index)
-    : Control(sheet, "cboPic", index), cboProp(*new RowCombo(this, index)) {
+    : Control(sheet, "cboPic", index), cboProp(*new RowCombo(this)) {
     hide();
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controls of a row, each with the Tag that binds it and its index in its pool.
+// The controls of a row, each with the Tag that binds it.
 #pragma once
 
 #include <QCheckBox>
@@ -8,6 +8,7 @@
 #include <QLineEdit>
 
 #include "platform/control.h"
+#include "platform/tile_command.h"
 
 namespace ornavo {
 
@@ -15,7 +16,7 @@ inline constexpr Colour WindowBackground = ColourOf(0x80000005);
 
 class RowLabel : public QLabel {
 public:
-    RowLabel(QWidget* sheet, int index);
+    explicit RowLabel(QWidget* sheet);
     /// A heading is bold on a ground of its own; a caption that is too long for `width` pixels is narrowed,
     /// and its tool tip has what is cut all the same.
     void Show(const QString& caption, bool heading, int width);
@@ -23,15 +24,24 @@ public:
     bool IsHeading() const { return heading_; }
 
     std::string Tag;
-    const int Index;
 
 private:
     bool heading_ = false;
 };
 
+class RowText;
+
+/// Fills its box by a dialog of the row's kind.
+class RowButton : public TileCommand {
+public:
+    using TileCommand::TileCommand;
+    int kind = 0;
+    RowText* box = nullptr;
+};
+
 class RowText : public QLineEdit {
 public:
-    RowText(QWidget* sheet, int index);
+    explicit RowText(QWidget* sheet);
 
     std::string Text() const { return text().toStdString(); }
     void SetText(std::string_view text);  // shown from its start
@@ -43,8 +53,8 @@ public:
 
     /// The tool tip when it is wanted, made from the text as it then is; null for none.
     std::function<QString(std::string_view text)> Tip;
+    RowButton* button = nullptr;  // that fills it; null for none
     std::string Tag;
-    const int Index;
 
 protected:
     bool event(QEvent*) override;
@@ -55,12 +65,11 @@ private:
 
 class RowCheck : public QCheckBox {
 public:
-    RowCheck(QWidget* sheet, int index);
+    explicit RowCheck(QWidget* sheet);
     bool Value() const { return isChecked(); }
     void SetValue(bool value) { setChecked(value); }
 
     std::string Tag;
-    const int Index;
 
 protected:
     void paintEvent(QPaintEvent*) override;  // the style's own box is higher than a row
@@ -70,12 +79,11 @@ protected:
 /// The wheel changes it only while it has the focus.
 class RowCombo : public QComboBox {
 public:
-    RowCombo(QWidget* frame, int index);
+    explicit RowCombo(QWidget* frame);
     int ListIndex() const { return currentIndex(); }
     void SetListIndex(int index);  // what lies outside of the list selects nothing
 
     std::string Tag;
-    const int Index;
 
 protected:
     void wheelEvent(QWheelEvent*) override;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int ButtonWidth = 18, ButtonHeight = 16, EditPictureSize = 12;  // pixels
 
-/// Tells of a text box that is left, but not for a menu or a list of its own, and of the keys for its button.
+/// Tells of a text box that is left, but not for a menu or a list of its own, and presses its button by key.
 class BoxFilter : public QObject {
 public:
     BoxFilter(RowText& box, RowEvents& events) : QObject(&box), box_(box), events_(events) {
@@ -22,9 +22,9 @@ public:
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() == QEvent::FocusOut &&
             static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
-            events_.FocusLost(box_.Index);
+            events_.tbx_Prop_LostFocus(box_);
         if (event->type() != QEvent::KeyPress || !OpensButton(*static_cast<QKeyEvent*>(event))) return false;
-        events_.ButtonWanted(box_.Index);
+        if (box_.button) box_.button->PerformClick();
         return true;
     }
 
@@ -38,10 +38,10 @@ private:
     RowEvents& events_;
 };
 
-RowText* MakeText(QWidget& sheet, RowEvents& events, int index) {
-    auto* box = new RowText(&sheet, index);
-    QObject::connect(box, &QLineEdit::textChanged, box, [&events, index] { events.TextChanged(index); });
-    QObject::connect(box, &QLineEdit::returnPressed, box, [&events, index] { events.EnterPressed(index); });
+RowText* MakeText(QWidget& sheet, RowEvents& events) {
+    auto* box = new RowText(&sheet);
+    QObject::connect(box, &QLineEdit::textChanged, box, [&events, box] { events.tbx_Prop_Change(*box); });
+    QObject::connect(box, &QLineEdit::returnPressed, box, [&events, box] { events.tbx_Prop_KeyPress(*box); });
     new BoxFilter(*box, events);
     return box;
 }
@@ -49,18 +49,18 @@ RowText* MakeText(QWidget& sheet, RowEvents& events, int index) {
 RowFrame* MakeCombo(QWidget& sheet, RowEvents& events, int index) {
     auto* frame = new RowFrame(&sheet, index);
     QObject::connect(&frame->cboProp, &QComboBox::currentIndexChanged, frame,
-                     [&events, index] { events.ComboClicked(index); });
+                     [&events, frame] { events.cboProp_Click(frame->cboProp); });
     return frame;
 }
 
-RowCheck* MakeCheck(QWidget& sheet, RowEvents& events, int index) {
-    auto* box = new RowCheck(&sheet, index);
-    QObject::connect(box, &QCheckBox::toggled, box, [&events, index] { events.CheckClicked(index); });
+RowCheck* MakeCheck(QWidget& sheet, RowEvents& events) {
+    auto* box = new RowCheck(&sheet);
+    QObject::connect(box, &QCheckBox::toggled, box, [&events, box] { events.chk_Boolean_Click(*box); });
     return box;
 }
 
-TileCommand* MakeButton(QWidget& sheet, const char* name, int index, const char* tip) {
-    auto* button = new TileCommand(&sheet, name, index);
+RowButton* MakeButton(QWidget& sheet, const char* name, int index, const char* tip) {
+    auto* button = new RowButton(&sheet, name, index);
     button->setToolTip(QLatin1String(tip));
     // The Tab key walks the values; a row's button is pressed from its box.
     button->setFocusPolicy(Qt::NoFocus);
@@ -72,23 +72,23 @@ TileCommand* MakeButton(QWidget& sheet, const char* name, int index, const char*
 }  // namespace
 
 RowPools::RowPools(QWidget& sheet, RowEvents& events)
-    : lbl_Prop([&sheet](int index) { return new RowLabel(&sheet, index); }),
-      tbx_Prop([&sheet, &events](int index) { return MakeText(sheet, events, index); }),
+    : lbl_Prop([&sheet](int) { return new RowLabel(&sheet); }),
+      tbx_Prop([&sheet, &events](int) { return MakeText(sheet, events); }),
       cboPic([&sheet, &events](int index) { return MakeCombo(sheet, events, index); }),
-      chk_Boolean([&sheet, &events](int index) { return MakeCheck(sheet, events, index); }),
+      chk_Boolean([&sheet, &events](int) { return MakeCheck(sheet, events); }),
       btn_Prop([&sheet, &events](int index) {
-          TileCommand* button = MakeButton(sheet, "btn_Prop", index, "Select (F4)");
+          RowButton* button = MakeButton(sheet, "btn_Prop", index, "Select (F4)");
           button->SetCaption(QStringLiteral("..."));
           QObject::connect(button, &TileCommand::Click, button,
-                           [&events, index] { events.ButtonClicked(index); });
+                           [&events, button] { events.btn_Prop_Click(*button); });
           return button;
       }),
       btn_PicEdit([&sheet, &events](int index) {
-          TileCommand* button = MakeButton(sheet, "btn_PicEdit", index, "Edit Picture");
+          RowButton* button = MakeButton(sheet, "btn_PicEdit", index, "Edit Picture");
           button->SetPicture(QStringLiteral(":/pictures/edit_picture.png"),
                              PanelScale(sheet)(EditPictureSize));
           QObject::connect(button, &TileCommand::Click, button,
-                           [&events, index] { events.PicEditClicked(index); });
+                           [&events, button] { events.btn_PicEdit_Click(*button); });
           return button;
       }) {}
 
@@ -96,6 +96,7 @@ int RowPools::LoadTextbox() {
     const int index = tbx_Prop.GetFree();
     tbx_Prop[index].SetLocked(false);
     tbx_Prop[index].Tip = nullptr;
+    tbx_Prop[index].button = nullptr;
     tbx_Prop[index].SetBackColor(WindowBackground);
     return index;
 }

@@ -3,23 +3,21 @@
 #pragma once
 
 #include "platform/pool.h"
-#include "platform/tile_command.h"
 #include "properties/row_controls.h"
 
 namespace ornavo {
 
-/// The index is that of the control in its pool. Changes made by code arrive as well.
+/// Changes made by code arrive as well.
 class RowEvents {
 public:
     virtual ~RowEvents() = default;
-    virtual void TextChanged(int index) = 0;
-    virtual void EnterPressed(int index) = 0;
-    virtual void FocusLost(int index) = 0;
-    virtual void ButtonWanted(int index) = 0;  // by key, from a text box
-    virtual void CheckClicked(int index) = 0;
-    virtual void ComboClicked(int index) = 0;
-    virtual void ButtonClicked(int index) = 0;
-    virtual void PicEditClicked(int index) = 0;
+    virtual void tbx_Prop_Change(RowText& box) = 0;
+    virtual void tbx_Prop_KeyPress(RowText& box) = 0;  // Enter
+    virtual void tbx_Prop_LostFocus(RowText& box) = 0;
+    virtual void chk_Boolean_Click(RowCheck& box) = 0;
+    virtual void cboProp_Click(RowCombo& combo) = 0;
+    virtual void btn_Prop_Click(RowButton& button) = 0;
+    virtual void btn_PicEdit_Click(RowButton& button) = 0;
 };
 
 /// A control is free while its Tag is "". Slot 0 of each pool is the hidden template.
@@ -32,13 +30,13 @@ public:
     Pool<RowText> tbx_Prop;
     Pool<RowFrame> cboPic;  // each with its combo box
     Pool<RowCheck> chk_Boolean;
-    Pool<TileCommand> btn_Prop;
-    Pool<TileCommand> btn_PicEdit;
+    Pool<RowButton> btn_Prop;
+    Pool<RowButton> btn_PicEdit;
     RowCombo& cboProp(int index) const { return cboPic[index].cboProp; }
 
     // The index of a free one.
     int LoadLabel() { return lbl_Prop.GetFree(); }
-    int LoadTextbox();  // unlocked, white and without a tool tip
+    int LoadTextbox();  // unlocked, white, without tool tip and button
     int LoadCombo() { return cboPic.GetFree(); }
     int LoadCheckBox() { return chk_Boolean.GetFree(); }
     int LoadButton() { return btn_Prop.GetFree(); }

@@ -7,7 +7,6 @@
 #include "base/paths.h"
 #include "document/current_skin.h"
 #include "platform/shown.h"
-#include "properties/row_binding.h"
 
 namespace ornavo {
 namespace {
@@ -121,18 +120,20 @@ RowText& Rows::Box(const SheetRow& row, int width) {
     return box;
 }
 
-TileCommand& Rows::Button(TileCommand& button, const SheetRow& row, const RowText& box, int left) {
-    button.Tag = ButtonTag{row.kind, box.Index, row.key}.Text();
+void Rows::Place(RowButton& button, const SheetRow& row, RowText& box, int left) {
+    button.Tag = row.key;
+    button.kind = row.kind;
+    button.box = &box;
     button.setAccessibleName(Shown(row.caption) + ": " + button.toolTip());
     button.move(left, NextRowTop - 1);
     button.raise();
     button.show();
-    return button;
 }
 
-TileCommand& Rows::SelectButton(const SheetRow& row, const RowText& box) {
-    TileCommand& button = pools_.btn_Prop[pools_.LoadButton()];
-    return Button(button, row, box, scaleWidth_ - button.width());
+void Rows::SelectButton(const SheetRow& row, RowText& box) {
+    RowButton& button = pools_.btn_Prop[pools_.LoadButton()];
+    box.button = &button;
+    Place(button, row, box, scaleWidth_ - button.width());
 }
 
 void Rows::AddBoolean(const SheetRow& row) {
@@ -176,8 +177,8 @@ void Rows::AddPicture(const SheetRow& row) {
     const int buttonWidth = pools_.btn_Prop[0].width();
     RowText& box = Box(row, valueWidth_ - buttonWidth);
     SelectButton(row, box);
-    TileCommand& edit = pools_.btn_PicEdit[pools_.LoadPicEdit()];
-    Button(edit, row, box, scaleWidth_ - edit.width() - buttonWidth);
+    RowButton& edit = pools_.btn_PicEdit[pools_.LoadPicEdit()];
+    Place(edit, row, box, scaleWidth_ - edit.width() - buttonWidth);
     box.SetText(row.value.ToText());
     box.Tip = PicturePath;
 }

@@ -40,8 +40,8 @@ private:
     void FillList(RowCombo& combo, const SheetRow& row);
 
     RowText& Box(const SheetRow& row, int width);
-    TileCommand& Button(TileCommand& button, const SheetRow& row, const RowText& box, int left);
-    TileCommand& SelectButton(const SheetRow& row, const RowText& box);
+    void Place(RowButton& button, const SheetRow& row, RowText& box, int left);
+    void SelectButton(const SheetRow& row, RowText& box);
 
     RowPools& pools_;
     const PanelScale scale_;

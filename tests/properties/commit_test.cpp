@@ -211,11 +211,7 @@ TEST_F(CommitTest, WriteBacksOfAnInfo) {
 
 TEST_F(CommitTest, Choosing) {
     Select("Button1");
-    TileCommand* button = nullptr;
-    const auto click = [&](const char* key) {
-        ButtonKind(*Box(key), &button);
-        QTest::mouseClick(button, Qt::LeftButton);
-    };
+    const auto click = [&](const char* key) { QTest::mouseClick(Box(key)->button, Qt::LeftButton); };
     for (const char* key : {"TextColor", "Font", "PicOver"}) click(key);  // all cancelled
     EXPECT_FALSE(timer().isActive());
     EXPECT_EQ(prompts_.questions.at(0).title, "Open Picture");

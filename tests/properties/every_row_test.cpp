@@ -116,9 +116,8 @@ protected:
         if (kind == Kind::Tick) return EditTick(*Check(key));
         if (kind == Kind::List) return EditList(*Combo(key));
         RowText& box = *Box(key);
-        TileCommand* button = nullptr;
-        const int buttonKind = ButtonKind(box, &button);
-        if (buttonKind == KindFont) return EditFont(*button);
+        const int buttonKind = box.button ? box.button->kind : 0;
+        if (buttonKind == KindFont) return EditFont(*box.button);
         std::string text = Now(key) == "7" ? "8" : "7";
         if (buttonKind == KindPicture) text = "new.bmp";
         if (buttonKind == KindColour) text = Now(key) == "255" ? "65280" : "255";

@@ -124,17 +124,6 @@ protected:
         RowFrame* frame = Find(panel_->parts().pools.cboPic, key);
         return frame ? &frame->cboProp : nullptr;
     }
-    /// 0 for a row without a button.
-    int ButtonKind(const RowText& box, TileCommand** button = nullptr) {
-        Pool<TileCommand>& buttons = panel_->parts().pools.btn_Prop;
-        for (int i = 1; i <= buttons.Top(); ++i) {
-            if (buttons[i].Tag.empty() || ButtonTag::Of(buttons[i].Tag).row != box.Index) continue;
-            if (button) *button = &buttons[i];
-            return ButtonTag::Of(buttons[i].Tag).kind;
-        }
-        return 0;
-    }
-
     void Press(QWidget& row, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         row.setFocus();
         QTest::keyClick(panel_->windowHandle(), key, modifiers);

@@ -47,7 +47,7 @@ protected:
     Control selected_{nullptr, ""};
 };
 
-TEST(RowKeys, SplitAtTheFirstPointAndJoinInAButtonsTag) {
+TEST(RowKeys, SplitAtTheFirstPoint) {
     const struct {
         const char *key, *owner, *member;
     } keys[] = {
@@ -56,13 +56,6 @@ TEST(RowKeys, SplitAtTheFirstPointAndJoinInAButtonsTag) {
         EXPECT_EQ(GetClass(row.key), row.owner) << row.key;
         EXPECT_EQ(GetMethod(row.key), row.member) << row.key;
     }
-    EXPECT_EQ((ButtonTag{KindColour, 12, "TextColor"}.Text()), "00010012TextColor");
-    EXPECT_EQ((ButtonTag{KindFont, 12345, "Font"}.Text()), "00042345Font");
-    const ButtonTag read = ButtonTag::Of("00050007SP_A.Value");
-    EXPECT_EQ(read.kind, KindPicture);
-    EXPECT_EQ(read.row, 7);
-    EXPECT_EQ(read.key, "SP_A.Value");
-    EXPECT_THROW(ButtonTag::Of("0005"), Failure);
 }
 
 TEST(ElementRows, ComeAndGoWithActionTypeAndInfoType) {
@@ -194,10 +187,10 @@ TEST_F(SheetTest, ARowsControlsShowItsValueAndStandInItsPlace) {
     EXPECT_EQ(over.y() % RowPitch, 0);
     const int right = panel_->ScaleWidth();
     int found = 0;
-    for (const Pool<TileCommand>* pool : {&pools().btn_Prop, &pools().btn_PicEdit})
+    for (const Pool<RowButton>* pool : {&pools().btn_Prop, &pools().btn_PicEdit})
         for (int i = 1; i <= pool->Top(); ++i) {
-            const TileCommand& button = (*pool)[i];
-            if (button.Tag != ButtonTag{KindPicture, over.Index, "PicOver"}.Text()) continue;
+            const RowButton& button = (*pool)[i];
+            if (button.Tag != "PicOver" || button.box != &over || button.kind != KindPicture) continue;
             ++found;
             const bool edits = pool == &pools().btn_PicEdit;
             EXPECT_EQ(button.toolTip(), edits ? "Edit Picture" : "Select (F4)");
@@ -224,7 +217,7 @@ TEST_F(SheetTest, TipsTellWhatIsNotSeen) {
         QCoreApplication::sendEvent(Box(key), &event);
         EXPECT_EQ(Box(key)->toolTip(), tip) << key;
     }
-    RowLabel label(panel_.get(), 1);
+    RowLabel label(panel_.get());
     label.Show(" A <b>caption</b> that is cut", false, 40);
     EXPECT_EQ(label.toolTip(), "<pre>A &lt;b&gt;caption&lt;/b&gt; that is cut</pre>");
     label.Show(" A", false, 40);
