@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Start and stop of the editor.
+#include <QFileInfo>
 #include <QIcon>
 #include <cstdio>
 #include <string_view>
@@ -33,7 +34,7 @@ std::string CommandLine(const QStringList& arguments) {
 }
 
 std::filesystem::path PathOf(const QString& path) {
-    return std::filesystem::path(path.toStdString());
+    return QFileInfo(path).filesystemFilePath();
 }
 
 std::string FolderWithSamples(const std::string& data) {

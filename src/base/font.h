@@ -20,9 +20,4 @@ struct Font {
 
 using FontRef = std::shared_ptr<Font>;  // fonts of the model are shared by reference
 
-/// Copies Name, Size, Bold, Italic, Underline and Strikethrough.
-inline void CopyFont(Font& target, const Font& source) {
-    target = source;
-}
-
 }  // namespace ornavo

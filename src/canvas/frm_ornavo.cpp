@@ -19,6 +19,7 @@
 #include "editor/skin_drop.h"
 #include "platform/pictures.h"
 #include "platform/prompts.h"
+#include "platform/shown.h"
 #include "render/compose.h"
 
 namespace ornavo {
@@ -80,11 +81,9 @@ void frm_Ornavo::SetTimers() {
 }
 
 void frm_Ornavo::Form_Load() {
-    GetScreenMetrics();
     const Raised loading(IsLoading);
-    const ScreenMetrics& metrics = screenMetrics();
-    setMinimumSize(LeastTwips / TwipsPerPixel - 2 * metrics.SM_CXFRAME,
-                   LeastTwips / TwipsPerPixel - 2 * metrics.SM_CYFRAME - metrics.SM_CYSIZE - 1);
+    setMinimumSize(LeastTwips / TwipsPerPixel - 2 * screenMetrics.SM_CXFRAME,
+                   LeastTwips / TwipsPerPixel - 2 * screenMetrics.SM_CYFRAME - screenMetrics.SM_CYSIZE - 1);
     MoveTwips({settings::OrnavoLeft.ReadOrStandard(), settings::OrnavoTop.ReadOrStandard(),
                settings::OrnavoWidth.ReadOrStandard(), settings::OrnavoHeight.ReadOrStandard()});
     SetWindowState(settings::OrnavoWindowState.ReadOrStandard());
@@ -179,13 +178,12 @@ void frm_Ornavo::HideSelectionTools() {
 }
 
 void frm_Ornavo::UpdateCaption() {
-    QString caption = QString::fromStdString("Ornavo " + version_ + " (BETA)");
+    QString caption = Shown("Ornavo " + version_ + " (BETA)");
     if (SkinIsOpen())
-        caption =
-            QStringLiteral("Ornavo -> %1 -> %2%3 -> Current Size: %4x%5")
-                .arg(QString::fromStdString(objSkin->SkinName),
-                     QString::fromStdString(objCurrentLayout->LayoutName), QString(objSkin->Dirty ? "*" : ""),
-                     QString::number(ScaleWidth()), QString::number(ScaleHeight()));
+        caption = QStringLiteral("Ornavo -> %1 -> %2%3 -> Current Size: %4x%5")
+                      .arg(Shown(objSkin->SkinName), Shown(objCurrentLayout->LayoutName),
+                           QString(objSkin->Dirty ? "*" : ""), QString::number(ScaleWidth()),
+                           QString::number(ScaleHeight()));
     setWindowTitle(caption);
 }
 

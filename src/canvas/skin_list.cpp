@@ -10,6 +10,7 @@
 #include "document/skin_preview.h"
 #include "platform/control.h"
 #include "platform/pictures.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
@@ -17,10 +18,6 @@ namespace {
 constexpr int FolderRole = Qt::UserRole, PictureRole = Qt::UserRole + 1;
 constexpr QSize PictureSize = {136, 102};
 constexpr int Margin = 8, NameGap = 4, Corner = 4;
-
-QString Shown(const std::filesystem::path& path) {
-    return QString::fromStdString(ToText(path));
-}
 
 /// Of a tile, pixels.
 QSize SizeOf(const QFontMetrics& font) {
@@ -102,9 +99,9 @@ QSize SkinList::TileSize() const {
 }
 
 void SkinList::AddSkin(const std::filesystem::path& folder) {
-    auto* item = new QListWidgetItem(Shown(folder.filename()), this);
-    item->setData(FolderRole, Shown(folder));
-    item->setToolTip(PlainTip(Shown(folder)));
+    auto* item = new QListWidgetItem(Shown(ToText(folder.filename())), this);
+    item->setData(FolderRole, Shown(ToText(folder)));
+    item->setToolTip(PlainTip(Shown(ToText(folder))));
 }
 
 void SkinList::LoadPicture(int row) {

@@ -7,6 +7,7 @@
 #include "base/paths.h"
 #include "editor/open_skin.h"
 #include "editor/windows.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
@@ -18,7 +19,7 @@ QString TitleOf(const std::string& skin, bool found) {
     if (skin.empty()) return QStringLiteral("No skin is open");
     return (found ? QStringLiteral("Skin \u201c%1\u201d has no layout")
                   : QStringLiteral("No skin \u201c%1\u201d was found"))
-        .arg(QString::fromStdString(skin));
+        .arg(Shown(skin));
 }
 
 QString HintFor(bool found) {

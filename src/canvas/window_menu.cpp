@@ -2,13 +2,14 @@
 #include "canvas/window_menu.h"
 
 #include <QMenu>
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
 
 void AddLines(QMenu& menu, Windows& windows) {
     for (const WindowLine& line : windows.Lines()) {
-        QAction* item = menu.addAction(QString::fromStdString(line.caption));
+        QAction* item = menu.addAction(Shown(line.caption));
         item->setCheckable(true);
         item->setChecked(line.isShown());
         QObject::connect(item, &QAction::triggered, &menu, line.toggle);

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "document/fields.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
@@ -21,7 +22,7 @@ std::string Scalar(const Value& value) {
     if (value.Is<bool>()) return value.As<bool>() ? "true" : "false";
     if (value.Is<std::int32_t>()) return std::to_string(value.As<std::int32_t>());
     if (value.Is<double>()) return Scalar(QJsonValue(value.As<double>()));
-    return Scalar(QJsonValue(QString::fromStdString(value.ToText())));
+    return Scalar(QJsonValue(Shown(value.ToText())));
 }
 
 }  // namespace

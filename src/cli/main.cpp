@@ -7,6 +7,7 @@
 
 #include "base/failure.h"
 #include "cli/commands.h"
+#include "platform/shown.h"
 #include "platform/startup.h"
 
 namespace ornavo {
@@ -75,7 +76,7 @@ int RunCommand(const Command& command, const QStringList& words) {
     try {
         return command.run(arguments);
     } catch (const UsageError& error) {
-        return Misused(QString::fromStdString(error.description()));
+        return Misused(Shown(error.description()));
     }
 }
 

@@ -9,6 +9,7 @@
 #include "platform/clock.h"
 #include "platform/form.h"
 #include "platform/prompts.h"
+#include "platform/shown.h"
 #include "playback/info_show.h"
 #include "render/compose.h"
 #include "render/layout_host.h"
@@ -85,7 +86,7 @@ class GivenClock : public Clock {
 public:
     explicit GivenClock(const std::string& text) {
         if (text.empty()) return;
-        now_ = QDateTime(QDate(2000, 1, 1), QTime::fromString(QString::fromStdString(text), "HH:mm:ss"));
+        now_ = QDateTime(QDate(2000, 1, 1), QTime::fromString(Shown(text), "HH:mm:ss"));
         if (!now_.isValid()) throw UsageError("--time is HH:MM:SS");
         UseClock(this);
     }
@@ -134,8 +135,7 @@ int Render(const Arguments& arguments) {
     if (preview) InfoShow().Begin(target.host(), *objCurrentLayout);
     QImage picture = target.grab().toImage();
     if (preview) picture = Cut(picture, *objCurrentLayout, soft);
-    if (!picture.save(QString::fromStdString(out), "PNG"))
-        throw Failure(75, "Render", out + " can't be written.");
+    if (!picture.save(Shown(out), "PNG")) throw Failure(75, "Render", out + " can't be written.");
     return 0;
 }
 

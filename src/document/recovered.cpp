@@ -18,7 +18,7 @@ constexpr std::size_t KeptTexts = 10;
 constexpr std::size_t StampLength = 23;  // of "2026-01-31 23-59-59-999"
 
 std::string StampOf(const fs::path& file) {
-    const std::string name = file.stem().string();
+    const std::string name = ToText(file.stem());
     return name.size() < StampLength ? name : name.substr(name.size() - StampLength);
 }
 

@@ -10,16 +10,15 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "document/dbskin.h"
 #include "editor/open_skin.h"
 
 namespace ornavo {
 namespace {
 
-constexpr const char* SettingsFile = "SkinSettings.xml";  // in any case
-
 bool IsSkin(const std::string& path) {
-    if (FolderExists(path)) return FileExists(WithSeparator(path) + SettingsFile);
-    return EqualText(GetFileName(path), SettingsFile) && FileExists(path);
+    if (FolderExists(path)) return FileExists(WithSeparator(path) + std::string(SettingsFileName));
+    return EqualText(GetFileName(path), SettingsFileName) && FileExists(path);
 }
 
 /// The skin's folder or settings file that a drag brings; "" if it brings something else.

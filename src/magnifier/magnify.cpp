@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "magnifier/magnify.h"
 
-#include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 #include <cmath>
 
 #include "base/failure.h"
@@ -21,7 +21,7 @@ Magnify::Magnify(QWidget* parent, PixelSource& desktop, PixelSource& own)
     setAttribute(Qt::WA_OpaquePaintEvent);
     SetBorderStyle(1);
     tmr.setInterval(Milliseconds);
-    connect(&tmr, &QTimer::timeout, this, &Magnify::tmr_Timer);
+    connect(&tmr, &QTimer::timeout, this, &Magnify::Capture);
 }
 
 void Magnify::SetZoom(int zoom) {
@@ -59,12 +59,6 @@ int Magnify::ScaleHeight() const {
     return static_cast<int>(std::lround(contentsRect().height() * devicePixelRatioF()));
 }
 
-void Magnify::Clear() {
-    picture_.fill(ScreenColour(BackColor));
-    view_ = {};
-    update();
-}
-
 /// False if the source refuses to be read.
 bool Magnify::See(PixelSource& source, View& view) const {
     view = {{ScaleWidth(), ScaleHeight()}, zoom_, BackColor, {}, {}};
@@ -92,36 +86,10 @@ void Magnify::Capture() {
     update();
 }
 
-void Magnify::tmr_Timer() {
-    Capture();
-    if (Events) emit Tick();
-}
-
-void Magnify::mousePressEvent(QMouseEvent* event) {
-    emit MouseDown(event);
-}
-
-void Magnify::mouseMoveEvent(QMouseEvent* event) {
-    emit MouseMove(event);
-}
-
-void Magnify::mouseReleaseEvent(QMouseEvent* event) {
-    emit MouseUp(event);
-    emit Click();
-}
-
-void Magnify::mouseDoubleClickEvent(QMouseEvent*) {
-    emit DblClick();
-}
-
 void Magnify::wheelEvent(QWheelEvent* event) {
     turned_ += event->angleDelta().y();
     StepZoom(turned_ / WheelStep);
     turned_ %= WheelStep;
-}
-
-void Magnify::resizeEvent(QResizeEvent*) {
-    emit Resize();
 }
 
 void Magnify::showEvent(QShowEvent*) {

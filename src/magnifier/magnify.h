@@ -20,41 +20,23 @@ public:
     Magnify(QWidget* parent, PixelSource& desktop, PixelSource& own);
 
     Colour BackColor = ColourOf(0x8000000C);  // of what lies beyond the screens' edges
-    bool Events = false;                      // whether Tick is raised
 
     int Zoom() const { return zoom_; }
     void SetZoom(int zoom);  // the next tick shows it; Failure 380 if it is none of Zooms
     void StepZoom(int by);   // along Zooms, as far as they go
     bool Frozen() const { return frozen_; }
-    void SetFrozen(bool frozen);  // the last picture stays
-    int Interval() const { return tmr.interval(); }
-    void SetInterval(int milliseconds) { tmr.setInterval(milliseconds); }
-    int BorderStyle() const { return frameShape() == NoFrame ? 0 : 1; }
+    void SetFrozen(bool frozen);     // the last picture stays
     void SetBorderStyle(int style);  // 0 none, 1 a line
     int ScaleWidth() const;          // of the inside, in device pixels
     int ScaleHeight() const;
-    const QImage& Picture() const { return picture_; }
-    void Clear();
 
     QTimer tmr;  // runs while the control is seen and not frozen
 
 signals:
-    void Click();
-    void DblClick();
-    void MouseDown(QMouseEvent* event);
-    void MouseMove(QMouseEvent* event);
-    void MouseUp(QMouseEvent* event);
-    void Resize();
-    void Tick();
     void StateChanged();  // the zoom, or whether it is frozen
 
 protected:
-    void mousePressEvent(QMouseEvent*) override;
-    void mouseMoveEvent(QMouseEvent*) override;
-    void mouseReleaseEvent(QMouseEvent*) override;
-    void mouseDoubleClickEvent(QMouseEvent*) override;
     void wheelEvent(QWheelEvent*) override;
-    void resizeEvent(QResizeEvent*) override;
     void showEvent(QShowEvent*) override;
     void hideEvent(QHideEvent*) override;
     void paintEvent(QPaintEvent*) override;
@@ -71,7 +53,6 @@ private:
     };
     bool See(PixelSource& source, View& view) const;
     void Capture();
-    void tmr_Timer();
 
     PixelSource& desktop_;
     PixelSource& own_;

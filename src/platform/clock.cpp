@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/clock.h"
 
-#include <chrono>
-
 namespace ornavo {
 namespace {
 
@@ -13,12 +11,6 @@ const Clock* current = &realClock;
 
 QDateTime Clock::Now() const {
     return QDateTime::currentDateTime();
-}
-
-std::int64_t Clock::Milliseconds() const {
-    using std::chrono::steady_clock;
-    return std::chrono::duration_cast<std::chrono::milliseconds>(steady_clock::now().time_since_epoch())
-        .count();
 }
 
 const Clock& clock() {

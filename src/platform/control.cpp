@@ -8,6 +8,7 @@
 
 #include "base/failure.h"
 #include "platform/accessible.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
@@ -56,7 +57,7 @@ int ShiftOf(Qt::KeyboardModifiers modifiers) {
 Control::Control(QWidget* parent, std::string name, int index)
     : QWidget(parent), Name(std::move(name)), Index(index) {
     TellReaders<Control, AccessibleControl>();
-    setObjectName(QString::fromStdString(Name));
+    setObjectName(Shown(Name));
     setMouseTracking(true);
 }
 

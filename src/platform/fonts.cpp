@@ -73,7 +73,7 @@ QFont NewScreenFont(const Font& font) {
     const bool symbols = IsSymbolFont(face);
     const StandIn* standIn = StandInOf(face);
     QFont screen;
-    QStringList faces = {symbols ? QString(SymbolFace) : QString::fromStdString(face)};
+    QStringList faces = {symbols ? QString(SymbolFace) : Shown(face)};
     if (standIn) faces << standIn->used;
     screen.setFamilies(faces << LastResort);
     screen.setPixelSize(PixelSize(font.Size));

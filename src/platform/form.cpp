@@ -9,19 +9,19 @@
 #include <cmath>
 
 #include "platform/places.h"
+#include "platform/shown.h"
 
 namespace ornavo {
 namespace {
 
 constexpr QSize Graspable = {64, 8};  // so much of the title must lie on a screen
-ScreenMetrics metrics;
 
 int FrameWidth() {
-    return 2 * metrics.SM_CXFRAME;
+    return 2 * screenMetrics.SM_CXFRAME;
 }
 
 int FrameHeight() {
-    return 2 * metrics.SM_CYFRAME + metrics.SM_CYSIZE + 1;
+    return 2 * screenMetrics.SM_CYFRAME + screenMetrics.SM_CYSIZE + 1;
 }
 
 int Pixels(int twips) {
@@ -40,28 +40,15 @@ bool CanBeGrasped(const QRect& title) {
 /// The corner of a window of that outer size, moved onto the first screen if its title can't be grasped.
 QPoint VisibleCorner(QPoint corner, const QSize& outer) {
     const QScreen* first = QGuiApplication::primaryScreen();
-    if (!first || CanBeGrasped({corner, QSize(outer.width(), metrics.SM_CYSIZE)})) return corner;
+    if (!first || CanBeGrasped({corner, QSize(outer.width(), screenMetrics.SM_CYSIZE)})) return corner;
     return WithinRoom(first->availableGeometry(), corner, outer);
 }
 
 }  // namespace
 
-const ScreenMetrics& screenMetrics() {
-    return metrics;
-}
-
-void GetScreenMetrics() {
-    const QScreen* first = QGuiApplication::primaryScreen();
-    if (!first) return;
-    metrics.SM_CXSCREEN = first->size().width();
-    metrics.SM_CYSCREEN = first->size().height();
-    metrics.SM_CXFULLSCREEN = first->availableSize().width();
-    metrics.SM_CYFULLSCREEN = first->availableSize().height() - metrics.SM_CYSIZE;
-}
-
 Form::Form(QWidget* owner, std::string name, Qt::WindowFlags flags)
     : QWidget(owner, flags), Name(std::move(name)) {
-    setObjectName(QString::fromStdString(Name));
+    setObjectName(Shown(Name));
 }
 
 Rect Form::TwipBounds() const {

@@ -12,11 +12,9 @@ namespace ornavo {
 
 /// The metrics of the old desktop, fixed so that saved rectangles mean the same everywhere (pixels).
 struct ScreenMetrics {
-    int SM_CXSCREEN = 0, SM_CYSCREEN = 0, SM_CXFULLSCREEN = 0, SM_CYFULLSCREEN = 0;
     int SM_CYSIZE = 20, SM_CYSMCAPTION = 19, SM_CXFRAME = 4, SM_CYFRAME = 4;
 };
-const ScreenMetrics& screenMetrics();
-void GetScreenMetrics();
+inline constexpr ScreenMetrics screenMetrics;
 
 inline constexpr int MostWindowPixels = 8192;  // each way, inside
 

@@ -10,6 +10,9 @@
 #include <list>
 #include <map>
 
+#include "base/paths.h"
+#include "platform/shown.h"
+
 namespace ornavo {
 namespace {
 
@@ -30,7 +33,7 @@ struct Stamp {
 
 struct Shelf {
     std::map<Stamp, std::weak_ptr<const Picture>> known;
-    std::map<std::string, fs::file_time_type>
+    std::map<fs::path, fs::file_time_type>
         seen;                    // files and their folders, as they were when first asked for
     std::list<PictureRef> kept;  // the last used in front
     std::int64_t keptBytes = 0;
@@ -45,7 +48,7 @@ Shelf& shelf() {
 bool StampOf(const fs::path& path, Stamp& stamp) {
     std::error_code error;
     if (!fs::is_regular_file(path, error) || error) return false;
-    stamp.path = path.string();
+    stamp.path = ToText(path);
     stamp.size = fs::file_size(path, error);
     if (error) return false;
     stamp.time = fs::last_write_time(path, error);
@@ -59,15 +62,15 @@ fs::file_time_type TimeOf(const fs::path& path) {
 }
 
 void Remember(const fs::path& path) {
-    const auto [at, isNew] = shelf().seen.try_emplace(path.string());
+    const auto [at, isNew] = shelf().seen.try_emplace(path);
     if (!isNew) return;
     at->second = TimeOf(path);
     const fs::path folder = path.parent_path();
-    shelf().seen.try_emplace(folder.string(), TimeOf(folder));
+    shelf().seen.try_emplace(folder, TimeOf(folder));
 }
 
 QString FileName(const fs::path& path) {
-    return QString::fromStdString(path.string());
+    return Shown(ToText(path));
 }
 
 std::int64_t PixelsOf(const QSize& size) {

@@ -2,6 +2,7 @@
 #include "platform/settings.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -10,6 +11,7 @@
 #include <memory>
 
 #include "base/numbers.h"
+#include "base/paths.h"
 #include "base/text.h"
 #include "platform/shown.h"
 
@@ -28,10 +30,9 @@ void CloseStore() {
 /// The file behind links; a stand-in for what is no file, which is neither waited for nor replaced.
 QString PlainFile(const QString& path) {
     namespace fs = std::filesystem;
-    const fs::path place = path.toStdString();
+    const fs::path place = QFileInfo(path).filesystemFilePath();
     std::error_code error;
-    if (fs::is_regular_file(place, error))
-        return QString::fromStdString(fs::canonical(place, error).string());
+    if (fs::is_regular_file(place, error)) return Shown(ToText(fs::canonical(place, error)));
     if (!fs::exists(fs::symlink_status(place, error))) return path;
     std::fprintf(stderr,
                  "ornavo: the settings %s are no plain file; they count as empty and are not written\n",

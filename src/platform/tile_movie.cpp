@@ -3,6 +3,9 @@
 
 #include <QImageReader>
 
+#include "base/paths.h"
+#include "platform/shown.h"
+
 namespace ornavo {
 namespace {
 
@@ -10,7 +13,7 @@ constexpr int ImagesInUse = 3;  // the decoder's, the movie's and ours
 
 std::filesystem::file_time_type TimeOf(const std::string& path) {
     std::error_code error;
-    return std::filesystem::last_write_time(path, error);
+    return std::filesystem::last_write_time(OnDisk(path), error);
 }
 
 }  // namespace
@@ -18,7 +21,7 @@ std::filesystem::file_time_type TimeOf(const std::string& path) {
 TileMovie::TileMovie(std::string path, std::function<void()> onFrame)
     : path_(std::move(path)), time_(TimeOf(path_)) {
     if (!IsAnimatedGIF(path_)) return;
-    const QString name = QString::fromStdString(path_);
+    const QString name = Shown(path_);
     QImageReader reader(name, "gif");
     memory_ = PictureMemory::Take(ImagesInUse * PixelsOfGif(path_));
     if (!memory_) return;

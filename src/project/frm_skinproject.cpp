@@ -16,6 +16,7 @@
 #include "editor/skin_drop.h"
 #include "platform/panel_scale.h"
 #include "platform/prompts.h"
+#include "platform/shown.h"
 #include "project/layout_copy.h"
 #include "project/layout_steps.h"
 
@@ -141,7 +142,7 @@ void frm_SkinProject::EnableLayoutButtons(bool enabled) {
 
 void frm_SkinProject::ShowSkinProject(std::string_view key) {
     EnableSkinControls(true);
-    tbx_SkinName->setText(QString::fromStdString(objSkin->SkinName));
+    tbx_SkinName->setText(Shown(objSkin->SkinName));
     tbx_SkinName->setCursorPosition(0);
     dbLayoutRef shown = objSkin->dbLayouts->Find(key);
     if (!shown && objSkin->dbLayouts->Count() > 0) shown = objSkin->dbLayouts->Item(1);
@@ -155,7 +156,7 @@ void frm_SkinProject::ShowSkinProject(std::string_view key) {
 void frm_SkinProject::ShowDamage() {
     lbl_Damage->setVisible(!objSkin->Damage.empty());
     QStringList lines;
-    for (const std::string& line : objSkin->Damage) lines += QString::fromStdString(line);
+    for (const std::string& line : objSkin->Damage) lines += Shown(line);
     const QString text = "Damaged file. " + lines.join(' ');
     lbl_Damage->setText(lbl_Damage->fontMetrics().elidedText(text, Qt::ElideRight, width() - 2 * Margin));
     lbl_Damage->setToolTip("The skin's file is damaged.\n" + lines.join('\n'));
@@ -184,7 +185,7 @@ void frm_SkinProject::FinishEdits() {
 }
 
 void frm_SkinProject::tbx_SkinName_LostFocus() {
-    const QString clean = QString::fromStdString(CleanFileName(tbx_SkinName->text().toStdString()));
+    const QString clean = Shown(CleanFileName(tbx_SkinName->text().toStdString()));
     if (clean != tbx_SkinName->text()) tbx_SkinName->setText(clean);
 }
 
@@ -223,7 +224,7 @@ bool frm_SkinProject::SaveSkin() {
         objSkin->SkinName = before;
         return false;
     }
-    tbx_SkinName->setText(QString::fromStdString(objSkin->SkinName));
+    tbx_SkinName->setText(Shown(objSkin->SkinName));
     ShowDamage();
     canvas_.UpdateCurrentLayout();
     return true;

@@ -5,6 +5,7 @@
 
 #include "base/failure.h"
 #include "base/paths.h"
+#include "document/dbskin.h"
 
 namespace ornavo {
 namespace {
@@ -49,7 +50,7 @@ void BringSamples(const fs::path& samples, const fs::path& ownFolder) {
         fs::remove_all(partial);
         fs::create_directories(partial);
         for (const fs::directory_entry& entry : fs::directory_iterator(samples))
-            if (fs::exists(entry.path() / "SkinSettings.xml"))
+            if (fs::exists(entry.path() / SettingsFileName))
                 fs::copy(entry.path(), partial / entry.path().filename(), fs::copy_options::recursive);
         fs::rename(partial, skins);
     } catch (const fs::filesystem_error& error) {

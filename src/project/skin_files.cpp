@@ -48,7 +48,7 @@ SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder) {
     const fs::path whole = fs::absolute(OnDisk(text), error);
     if (error)
         throw Failure(75, "PlaceOfSkin", "\"" + std::string(text) + "\" can't be found: " + error.message());
-    std::string folder = WithSeparator(whole.lexically_normal().string());
+    std::string folder = WithSeparator(ToText(whole.lexically_normal()));
     if (EqualText(GetFileName(folder), SettingsFileName))
         folder = GetParentFolderName(folder.substr(0, folder.size() - 1));
     folder.pop_back();

@@ -23,9 +23,8 @@ constexpr int LeastWidth = 200;      // pixels
 
 /// Title and frame, pixels. The desktop tells them only of a window that it has shown.
 int FrameHeight(const QWidget& window) {
-    const ScreenMetrics& metrics = screenMetrics();
     return std::max(window.frameGeometry().height() - window.height(),
-                    2 * metrics.SM_CYFRAME + metrics.SM_CYSMCAPTION);
+                    2 * screenMetrics.SM_CYFRAME + screenMetrics.SM_CYSMCAPTION);
 }
 
 }  // namespace

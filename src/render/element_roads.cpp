@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <iterator>
 
+#include "platform/shown.h"
 #include "render/standard_elements.h"
 #include "render/target.h"
 
@@ -20,8 +21,7 @@ constexpr QAccessible::Role Roles[] = {
 
 void TellElement(Control& control, const dbLayoutElement& element) {
     const auto type = static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table
-    if (type < std::size(Roles))
-        control.SetAccessible(Roles[type], QString::fromStdString(element.ElementName));
+    if (type < std::size(Roles)) control.SetAccessible(Roles[type], Shown(element.ElementName));
 }
 
 bool Claim(Control& control, const dbLayoutElement& element) {

@@ -8,6 +8,7 @@
 
 #include "base/failure.h"
 #include "base/text.h"
+#include "platform/shown.h"
 
 // The linker drops from a library what nobody names, and the resources name themselves only.
 static void InitResources() {
@@ -26,7 +27,7 @@ constexpr std::array<std::string_view, 28> Keys = {
 
 QImage Resource(const std::string& name) {
     static const bool ready = (InitResources(), true);
-    QImage image(QString::fromStdString(":/kiosk/" + name));
+    QImage image(Shown(":/kiosk/" + name));
     if (ready && !image.isNull()) image.convertTo(QImage::Format_ARGB32_Premultiplied);
     return image;
 }

@@ -117,7 +117,7 @@ const Plan OurPlan = {
     {"render", {"platform", "document", "base"}},
     {"playback", {"render", "platform", "document", "base"}},
     {"dialogs", {"platform", "base"}},
-    {"editor", {"platform", "base"}},
+    {"editor", {"platform", "document", "base"}},
     {"project", {"editor", "dialogs", "platform", "document", "base"}},
     {"canvas", {"editor", "render", "platform", "document", "base"}},
     {"preview", {"playback", "editor", "render", "platform", "document", "base"}},

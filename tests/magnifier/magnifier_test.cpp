@@ -179,17 +179,6 @@ TEST_F(MagnifyTest, WhereTheDesktopRefusesOurOwnWindowsAreShown) {
     EXPECT_EQ(Shown(0, 0), desktop.At(40, 40));
 }
 
-TEST_F(MagnifyTest, TicksAreToldOnlyWhenWanted) {
-    int ticks = 0;
-    QObject::connect(&magnify, &Magnify::Tick, &magnify, [&] { ++ticks; });
-    Show();
-    Fire();
-    EXPECT_EQ(ticks, 0);
-    magnify.Events = true;
-    Fire();
-    EXPECT_EQ(ticks, 1);
-}
-
 TEST(FrmMagnifier, StandsWhereItWasAndMarksTheMiddle) {
     Plane desktop, own;
     for (const char* key : {"Left", "Top", "Height"}) DeleteSetting("Magnifier", key);

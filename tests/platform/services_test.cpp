@@ -283,7 +283,6 @@ protected:
 };
 
 TEST(Forms, TwipsAreOutside) {
-    GetScreenMetrics();
     Window window;
     window.MoveTwips({1020, 135, 12120, 9435});
     EXPECT_EQ(window.ScaleWidth(), 800);
