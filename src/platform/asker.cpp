@@ -2,28 +2,49 @@
 #include "platform/asker.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QTimer>
 #include <QWindow>
 
 namespace ornavo {
 namespace {
 
-constexpr int Patience = 400;  // milliseconds
+constexpr int Patience = 400, Doubt = 30;  // milliseconds
+
+/// A desktop that sees a box go only later gives the keyboard to another window then. It is taken back once,
+/// unless the user has pressed a button there.
+class Watch : public QObject {
+public:
+    explicit Watch(QWidget* window) : QObject(window), window_(window) {
+        qApp->installEventFilter(this);
+        QTimer::singleShot(Patience, this, &QObject::deleteLater);
+        connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focus) {
+            // The press that gave another window the keyboard is heard after it.
+            if (focus && focus != window_->windowHandle())
+                QTimer::singleShot(Doubt, this, [this] { TakeBack(); });
+        });
+    }
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        pressed_ = pressed_ || event->type() == QEvent::MouseButtonPress;
+        return false;
+    }
+    void TakeBack() {
+        if (!pressed_ && !QApplication::activeModalWidget()) window_->activateWindow();
+        delete this;
+    }
+
+    QWidget* const window_;
+    bool pressed_ = false;
+};
 
 }  // namespace
 
 void GiveKeyboardTo(QWidget* window) {
     if (!window || !window->isVisible()) return;
     window->activateWindow();
-    // A desktop that sees the box go only later gives the keyboard to another window then.
-    auto* watch = new QObject(window);
-    QTimer::singleShot(Patience, watch, &QObject::deleteLater);
-    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, watch,
-                     [watch, window](const QWindow* focus) {
-                         if (!focus || focus == window->windowHandle()) return;
-                         QObject::disconnect(qApp, nullptr, watch, nullptr);
-                         if (!QApplication::activeModalWidget()) window->activateWindow();
-                     });
+    new Watch(window);
 }
 
 }  // namespace ornavo

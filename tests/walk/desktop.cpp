@@ -179,8 +179,11 @@ void Desktop::Resize(const QString& window, const QSize& inside) {
 }
 
 void Desktop::Activate(const QString& window) {
-    XDo({"windowactivate", window});
-    WaitFor("the focus", [&] { return Tool("xdotool", {"getwindowfocus"}).trimmed() == window; });
+    // Asked for again and again: after a box the program takes the keyboard back once.
+    WaitFor("the focus", [&] {
+        XDo({"windowactivate", window});
+        return Tool("xdotool", {"getwindowfocus"}).trimmed() == window;
+    });
 }
 
 QString Desktop::WindowAt(const QPoint& at) {
