@@ -8,10 +8,28 @@
 
 namespace ornavo {
 
-/// What went wrong, where and why. Number 513 is the program's own; the others are those of the
-/// conversions (6 overflow, 9 not found, 13 wrong type, 457 duplicate key, 53 file, 75 path).
+/// What went wrong, where and why.
 class Failure : public std::exception {
 public:
+    enum Number {
+        InvalidCall = 5,
+        Overflow = 6,
+        OutOfMemory = 7,
+        NotFound = 9,  // an index or a key
+        DivisionByZero = 11,
+        TypeMismatch = 13,
+        FileNotFound = 53,
+        FileExists = 58,
+        DiskFull = 61,
+        PathError = 75,
+        NothingSet = 91,  // an object that isn't there
+        InvalidValue = 380,
+        NoSuchField = 438,
+        DuplicateKey = 457,
+        Own = 513  // of the program itself
+    };
+    /// With the usual description of the number.
+    Failure(Number number, std::string source);
     Failure(int number, std::string source, std::string description)
         : number_(number), source_(std::move(source)), description_(std::move(description)) {}
     int number() const { return number_; }

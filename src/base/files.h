@@ -1,36 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Folders, existence, copies, and a file replaced whole. Every step that can fail goes through one
-// FileLayer, so that a test can let any of them fail.
+// Folders, existence, copies, and a file replaced whole. A failure says which file it was.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace ornavo {
-
-/// The single steps towards the disk. Each throws a Failure (53 file, 75 path, 61 disk full, 58 there
-/// already) with the system's reason; the functions below say which file it was. The base class is the
-/// real disk.
-class FileLayer {
-public:
-    virtual ~FileLayer() = default;
-    virtual int Create(const std::filesystem::path& path);  // a new file, refused if there is one
-    virtual void Write(int file, std::string_view bytes);   // all of them
-    virtual void Flush(int file);                           // down to the disk
-    virtual void Close(int file);
-    virtual void Rename(const std::filesystem::path& from, const std::filesystem::path& to);  // replaces
-    virtual void Remove(const std::filesystem::path& path);
-    virtual void MakeFolder(const std::filesystem::path& path);  // one level
-    virtual void FlushFolder(const std::filesystem::path& path);
-    virtual int Open(const std::filesystem::path& path);                    // to read; plain files only
-    virtual std::size_t ReadSome(int file, char* bytes, std::size_t size);  // 0 at the end
-    virtual std::string Read(const std::filesystem::path& path);            // the whole file
-};
-FileLayer& fileLayer();
-void UseFileLayer(FileLayer* layer);  // null: the real disk again
 
 bool FileExists(std::string_view path);  // a regular file, found as OnDisk finds; never fails
 bool FolderExists(std::string_view path);

@@ -40,7 +40,7 @@ public:
     void Insert(std::string_view key, Ref item, int before) {
         if (before < 1 || before > Count() + 1) throw NotFound();
         if (!byKey_.try_emplace(std::string(key), item).second)
-            throw Failure(457, "KeyedCollection",
+            throw Failure(Failure::DuplicateKey, "KeyedCollection",
                           "This key is already associated with an element of this collection");
         items_.insert(items_.begin() + (before - 1), Entry{std::string(key), std::move(item)});
     }
@@ -91,7 +91,7 @@ public:
     ConstIterator end() const { return ConstIterator(items_.end()); }
 
 private:
-    static Failure NotFound() { return Failure(9, "KeyedCollection", "Subscript out of range"); }
+    static Failure NotFound() { return Failure(Failure::NotFound, "KeyedCollection"); }
     void CheckPosition(int position) const {
         if (position < 1 || position > Count()) throw NotFound();
     }

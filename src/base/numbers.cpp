@@ -17,7 +17,7 @@ namespace {
 NumberSigns userSigns;
 
 Failure Overflow() {
-    return Failure(6, "Numbers", "Overflow");
+    return Failure(Failure::Overflow, "Numbers");
 }
 
 template <class Whole>
@@ -184,7 +184,7 @@ double ToNumber(std::string_view text) {
 double ToNumber(std::string_view text, const NumberSigns& signs) {
     if (const auto few = ReadFewDigits(text)) return *few;
     const auto number = ReadDecimal(text, signs);
-    if (!number) throw Failure(13, "Numbers", "Type mismatch");
+    if (!number) throw Failure(Failure::TypeMismatch, "Numbers");
     const auto value = number->Number();
     if (!value) throw Overflow();
     return *value;

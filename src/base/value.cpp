@@ -10,7 +10,7 @@ namespace ornavo {
 namespace {
 
 Failure Mismatch() {
-    return Failure(13, "Value", "Type mismatch");
+    return Failure(Failure::TypeMismatch, "Value");
 }
 
 /// The user's signs come first, since the text may be that of a number; a file from elsewhere has the English

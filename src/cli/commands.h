@@ -12,7 +12,8 @@ namespace ornavo {
 /// The words of the command line were wrong; exit 2.
 class UsageError : public Failure {
 public:
-    explicit UsageError(std::string reason) : Failure(5, "Command line", std::move(reason)) {}
+    explicit UsageError(std::string reason)
+        : Failure(Failure::InvalidCall, "Command line", std::move(reason)) {}
 };
 
 struct Arguments {

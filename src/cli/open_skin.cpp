@@ -32,7 +32,8 @@ std::string FolderOf(const std::string& skin) {
     if (!ContainsSeparator(skin) && NothingStandsAt(skin)) {
         const std::string skins = UserSkins();
         if (!FolderExists(skins + skin))
-            throw Failure(53, "Skin", "There is no skin \"" + skin + "\" here, and none in " + skins);
+            throw Failure(Failure::FileNotFound, "Skin",
+                          "There is no skin \"" + skin + "\" here, and none in " + skins);
         return WithSeparator(ToText(OnDisk(skins + skin)));
     }
     std::string path = ToText(std::filesystem::absolute(OnDisk(skin)).lexically_normal());
@@ -65,7 +66,7 @@ void OpenNamedSkin(const Arguments& arguments, bool upgraded) {
     objCurrentLayout = std::make_shared<dbLayout>();
     objSkin->SetBasePath(GetParentFolderName(bare));
     objSkin->SkinName = GetFileName(bare);
-    if (!objSkin->LoadSkin()) throw Failure(53, "Skin", file + " not found!");
+    if (!objSkin->LoadSkin()) throw Failure(Failure::FileNotFound, "Skin", file + " not found!");
     for (const std::string& line : objSkin->Damage) Tell(file + " is damaged: " + line);
     if (upgraded) objSkin->SetupSkinPrefs();
 }
@@ -73,7 +74,7 @@ void OpenNamedSkin(const Arguments& arguments, bool upgraded) {
 dbLayoutRef NamedLayout(const Arguments& arguments) {
     const std::string key = arguments.Need("layout");
     const dbLayoutRef layout = objSkin->dbLayouts->Find(key);
-    if (!layout) throw Failure(9, "Skin", "The skin has no layout '" + key + "'.");
+    if (!layout) throw Failure(Failure::NotFound, "Skin", "The skin has no layout '" + key + "'.");
     return layout;
 }
 

@@ -24,9 +24,9 @@ int SettingOf(const Arguments& arguments, const std::string& name) {
 }
 
 cDIBSection SourceOf(const std::string& name) {
-    if (!FileExists(name)) throw Failure(53, "Recolour", name + " not found!");
+    if (!FileExists(name)) throw Failure(Failure::FileNotFound, "Recolour", name + " not found!");
     const PictureRef picture = LoadPicture(OnDisk(name));
-    if (!picture) throw Failure(5, "Recolour", name + " is no picture that can be read.");
+    if (!picture) throw Failure(Failure::InvalidCall, "Recolour", name + " is no picture that can be read.");
     if (IsSeeThrough(picture->image))
         std::fprintf(stderr, "ornavo-cli: %s is transparent in places; they are put on white\n",
                      name.c_str());
@@ -34,7 +34,7 @@ cDIBSection SourceOf(const std::string& name) {
     cDIBSection source;
     if (flat.isNull() ||
         !source.CreateFromPicture(flat.constBits(), flat.width(), flat.height(), flat.bytesPerLine()))
-        throw Failure(7, "Recolour", "There is no memory for " + name);
+        throw Failure(Failure::OutOfMemory, "Recolour", "There is no memory for " + name);
     return source;
 }
 

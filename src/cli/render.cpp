@@ -112,7 +112,7 @@ std::string Words(const Size& size) {
 Size SizeToDraw(const Arguments& arguments) {
     const Size whole = NamedSize(arguments, MostWindowPixels);
     if (whole.width < 1 || whole.height < 1)
-        throw Failure(5, "Render", "The skin has no size; give one with --size.");
+        throw Failure(Failure::InvalidCall, "Render", "The skin has no size; give one with --size.");
     const Size size = {std::min(whole.width, MostWindowPixels), std::min(whole.height, MostWindowPixels)};
     if (size != whole) Tell("the skin is " + Words(whole) + " pixels; it is composed at " + Words(size));
     return size;
@@ -135,7 +135,8 @@ int Render(const Arguments& arguments) {
     if (preview) InfoShow().Begin(target.host(), *objCurrentLayout);
     QImage picture = target.grab().toImage();
     if (preview) picture = Cut(picture, *objCurrentLayout, soft);
-    if (!picture.save(Shown(out), "PNG")) throw Failure(75, "Render", out + " can't be written.");
+    if (!picture.save(Shown(out), "PNG"))
+        throw Failure(Failure::PathError, "Render", out + " can't be written.");
     return 0;
 }
 

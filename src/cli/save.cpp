@@ -29,9 +29,10 @@ bool IsDamaged() {
 /// where one is.
 void RefuseToReplace() {
     const std::string file = ToText(OnDisk(objSkin->SkinFile()));
-    if (IsDamaged()) throw Failure(58, "Save", file + " is damaged; --replace takes its place.");
+    if (IsDamaged())
+        throw Failure(Failure::FileExists, "Save", file + " is damaged; --replace takes its place.");
     if (!NothingStandsAt(file) && !IsSavedWhereItWas())
-        throw Failure(58, "Save", file + " is there already; --replace takes its place.");
+        throw Failure(Failure::FileExists, "Save", file + " is there already; --replace takes its place.");
 }
 
 }  // namespace

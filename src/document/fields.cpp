@@ -186,7 +186,7 @@ NameTable<T> ByName() {
 template <class T>
 const Field<T>& NamedField(std::string_view name) {
     if (const Field<T>* field = FindField<T>(name)) return *field;
-    throw Failure(438, "Fields", "There is no field \"" + std::string(name) + "\"");
+    throw Failure(Failure::NoSuchField, "Fields", "There is no field \"" + std::string(name) + "\"");
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int DuplicateKey = 457;
 constexpr std::array<std::string_view, 5> KeyWords = {"", "Button", "Graphic", "Volume", "Info"};
 
 void Renumber(dbLayoutElements& elements, std::int32_t first) {
@@ -40,7 +39,7 @@ dbLayoutElementRef AddNumberedElement(dbLayout& layout, std::int32_t order, std:
         try {
             return layout.dbLayoutElements->Add(order, word + std::to_string(i), elementType, 0);
         } catch (const Failure& failure) {
-            if (failure.number() != DuplicateKey) throw;
+            if (failure.number() != Failure::DuplicateKey) throw;
         }
     }
 }

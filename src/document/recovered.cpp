@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/failure.h"
+#include "base/file_layer.h"
 #include "base/files.h"
 #include "base/paths.h"
 

@@ -15,7 +15,7 @@ namespace {
 constexpr auto None = std::string_view::npos;
 
 Failure NoLine() {
-    return Failure(513, "WriteXML", "The value has no line");
+    return Failure(Failure::Own, "WriteXML", "The value has no line");
 }
 
 bool IsLetter(char c) {

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "base/failure.h"
+#include "base/file_layer.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"

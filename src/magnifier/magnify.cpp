@@ -26,7 +26,7 @@ Magnify::Magnify(QWidget* parent, PixelSource& desktop, PixelSource& own)
 
 void Magnify::SetZoom(int zoom) {
     if (std::find(std::begin(Zooms), std::end(Zooms), zoom) == std::end(Zooms))
-        throw Failure(380, "Magnify", "Invalid property value");
+        throw Failure(Failure::InvalidValue, "Magnify");
     zoom_ = zoom;
     emit StateChanged();
 }

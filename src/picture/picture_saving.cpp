@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "base/failure.h"
+#include "base/file_layer.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -45,7 +46,8 @@ fs::path FolderForSources() {
     const fs::path folder = OnDisk(OriginalFolder());
     std::error_code ignored;
     if (!fs::is_directory(fs::symlink_status(folder, ignored)))
-        throw Failure(75, "KeepSource", "The folder " + ToText(folder) + " could not be made.");
+        throw Failure(Failure::PathError, "KeepSource",
+                      "The folder " + ToText(folder) + " could not be made.");
     RemoveLeftScratchFiles(folder);
     return folder;
 }
@@ -55,7 +57,7 @@ class Keep {
 public:
     explicit Keep(const std::string& sourcePath) {
         const fs::path source = FindSkinPicture(sourcePath);
-        if (source.empty()) throw Failure(53, "KeepSource", sourcePath + " not found!");
+        if (source.empty()) throw Failure(Failure::FileNotFound, "KeepSource", sourcePath + " not found!");
         const fs::path kept = FolderForSources() / source.filename();
         std::error_code ignored;
         if (fs::is_regular_file(kept, ignored)) return;
@@ -110,9 +112,10 @@ void CreateDir(std::string_view path) {
 
 std::string TargetPath(std::string_view finalName, FileKind kind) {
     if (objSkin->SkinName.empty())
-        throw Failure(513, "TargetPath", "The skin has no name yet, and so no folder for pictures.");
+        throw Failure(Failure::Own, "TargetPath", "The skin has no name yet, and so no folder for pictures.");
     if (!IsPlainName(finalName))
-        throw Failure(513, "TargetPath", "\"" + std::string(finalName) + "\" can't be the name of a file.");
+        throw Failure(Failure::Own, "TargetPath",
+                      "\"" + std::string(finalName) + "\" can't be the name of a file.");
     return GetSkinPicturePath(finalName) + (kind == FileKind::Jpeg ? ".jpg" : ".bmp");
 }
 

@@ -49,7 +49,8 @@ std::vector<Preset> ReadPresets() {
 void AddPreset(const std::string& name, int hue, int saturation) {
     const int number = CountPresets() + 1;
     if (number > MostPresets)
-        throw Failure(513, "AddPreset", "There are " + NumberText(MostPresets) + " presets already.");
+        throw Failure(Failure::Own, "AddPreset",
+                      "There are " + NumberText(MostPresets) + " presets already.");
     Write({name, NumberText(hue), NumberText(saturation)}, number);
     settings::PresetCount.Write(number);
 }

@@ -13,13 +13,13 @@ bool InRange(std::int32_t setting) {
 }
 
 std::uint8_t ToByte(std::int32_t channel) {
-    if (!InRange(channel)) throw Failure(6, "cColourise", "Overflow");
+    if (!InRange(channel)) throw Failure(Failure::Overflow, "cColourise");
     return static_cast<std::uint8_t>(channel);
 }
 
 std::uint8_t& At(cDIBSection& picture, int x, int y) {
     if (x >= picture.BytesPerScanLine() || y >= picture.Height())
-        throw Failure(9, "cColourise", "The picture to write into is too small");
+        throw Failure(Failure::NotFound, "cColourise", "The picture to write into is too small");
     return picture.ScanLine(y)[x];
 }
 

@@ -22,7 +22,7 @@ constexpr int InfoHeaderBytes = 40;
 constexpr int BytesBeforeBits = FileHeaderBytes + InfoHeaderBytes + 4;  // 4: the first colour of no palette
 
 Failure NoPicture() {
-    return Failure(5, SourceName, "There is no picture");
+    return Failure(Failure::InvalidCall, SourceName, "There is no picture");
 }
 
 /// Little-endian numbers, one after the other.
@@ -115,7 +115,7 @@ cDIBSection cDIBSection::Resample(int NewHeight, int NewWidth) const {
     if (NewHeight == height_ && NewWidth == width_) return *this;
     cDIBSection result;
     if (!result.Create(NewWidth, NewHeight))
-        throw Failure(7, SourceName, "A picture of that size can't be made");
+        throw Failure(Failure::OutOfMemory, SourceName, "A picture of that size can't be made");
     const float xScale = ScaleOf(width_, NewWidth), yScale = ScaleOf(height_, NewHeight);
     for (int y = 0; y < NewHeight; ++y) {
         const Between row(y, yScale, height_);

@@ -43,7 +43,7 @@ std::string FileBytesOf(const QImage& picture, FileKind kind) {
     const bool written = !picture.isNull() && buffer.open(QIODevice::WriteOnly) &&
                          picture.save(&buffer, jpeg ? "JPG" : "BMP", jpeg ? EncoderQuality(BestQuality) : -1);
     if (!written)
-        throw Failure(5, "FileBytesOf",
+        throw Failure(Failure::InvalidCall, "FileBytesOf",
                       jpeg ? "There is no picture, or none of a size that a JPEG file can hold"
                            : "There is no picture, or none of a size that a BMP file can hold");
     return bytes.toStdString();

@@ -11,7 +11,7 @@ Prompts* current = nullptr;
 }  // namespace
 
 Prompts& prompts() {
-    if (!current) throw Failure(91, "Prompts", "There is nobody to ask");
+    if (!current) throw Failure(Failure::NothingSet, "Prompts", "There is nobody to ask");
     return *current;
 }
 

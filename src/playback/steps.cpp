@@ -71,7 +71,7 @@ Rect SeekBarRect(const SeekBar& bar, Size box, double position) {
 
 double SeekAt(const SeekBar& bar, int boxWidth, int x) {
     const double length = Length(bar, boxWidth);
-    if (length == 0) throw Failure(11, "Playback", "Division by zero");
+    if (length == 0) throw Failure(Failure::DivisionByZero, "Playback");
     const double along = std::min(std::max(static_cast<double>(x) - bar.left, 0.0), length);
     return along / length * SongLength;
 }

@@ -55,7 +55,7 @@ constexpr const char* InsertTitle = "Insert Layout to Skin";
 bool Read(dbSkin& skin, const char* title) {
     try {
         if (skin.LoadSkin()) return true;
-        throw Failure(53, title, skin.SkinFile() + " not found!");
+        throw Failure(Failure::FileNotFound, title, skin.SkinFile() + " not found!");
     } catch (const Failure& failure) {
         prompts().Message(failure.description(), title, Icon::Critical, Buttons::Ok);
         return false;

@@ -55,7 +55,7 @@ void BringSamples(const fs::path& samples, const fs::path& ownFolder) {
         fs::rename(partial, skins);
     } catch (const fs::filesystem_error& error) {
         fs::remove_all(partial, ignored);
-        throw Failure(75, "BringSamples",
+        throw Failure(Failure::PathError, "BringSamples",
                       "The sample skins can't be copied to " + ToText(skins) + ": " + error.code().message());
     }
 }

@@ -17,7 +17,7 @@ auto WithOwner(const BoundObjectRef& bound, std::string_view key, Use use) -> de
     if (const auto* element = std::get_if<dbLayoutElementRef>(&bound); element && *element)
         return use(**element, member);
     if (const auto* point = std::get_if<dbPointRef>(&bound); point && *point) return use(**point, member);
-    throw Failure(91, "Properties", "Nothing is bound");
+    throw Failure(Failure::NothingSet, "Properties", "Nothing is bound");
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ constexpr std::array<std::string_view, 19> SampleTexts = {
 };
 
 std::int32_t Absolute(std::int32_t value) {
-    if (value == std::numeric_limits<std::int32_t>::min()) throw Failure(6, "Composition", "Overflow");
+    if (value == std::numeric_limits<std::int32_t>::min()) throw Failure(Failure::Overflow, "Composition");
     return std::abs(value);
 }
 

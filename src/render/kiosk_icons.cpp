@@ -34,7 +34,7 @@ QImage Resource(const std::string& name) {
 
 PictureRef Read(const std::string& name, const char* extension) {
     Picture picture{Resource(name + extension), {}, Resource(name + "@2x" + extension)};
-    if (picture.image.isNull()) throw Failure(53, "img_Kiosk", "File not found");
+    if (picture.image.isNull()) throw Failure(Failure::FileNotFound, "img_Kiosk");
     return std::make_shared<Picture>(std::move(picture));
 }
 
@@ -44,7 +44,7 @@ PictureRef ImageList::Item(std::string_view key) const {
     static std::map<std::string_view, PictureRef> read;
     const auto known =
         std::find_if(Keys.begin(), Keys.end(), [&](std::string_view one) { return EqualText(one, key); });
-    if (known == Keys.end()) throw Failure(9, "img_Kiosk", "Element not found");
+    if (known == Keys.end()) throw Failure(Failure::NotFound, "img_Kiosk", "Element not found");
     PictureRef& picture = read[*known];
     if (!picture) picture = Read(std::string(*known), ".png");
     return picture;

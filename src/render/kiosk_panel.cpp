@@ -38,7 +38,7 @@ double Number(std::string_view key) {
 
 int Length(double pixels) {
     const int whole = ToLong(pixels);
-    if (whole < 0) throw Failure(380, "LayoutKioskPanel", "Invalid property value");
+    if (whole < 0) throw Failure(Failure::InvalidValue, "LayoutKioskPanel");
     return whole;
 }
 

@@ -30,7 +30,9 @@ double Floor(double value) {
 }
 
 double Divided(double dividend, double divisor) {
-    if (divisor == 0) throw Failure(11, "Placement", "Division by zero: the skin has no width or height");
+    if (divisor == 0)
+        throw Failure(Failure::DivisionByZero, "Placement",
+                      "Division by zero: the skin has no width or height");
     return dividend / divisor;
 }
 

@@ -183,7 +183,7 @@ void StyleLetter(const SampleFamily& family, TileButton& button) {
 void SetupSearchBox(TextBox& box) {
     Attempt([&] {
         const FontRef font = Pref("TB_Font").Font;
-        if (!font) throw Failure(91, "SetupSearchBox", "Object variable not set");
+        if (!font) throw Failure(Failure::NothingSet, "SetupSearchBox");
         box.SetFont(*font);
     });
     Attempt([&] { box.SetBackColor(Pref("TB_BackColor").value.ToLong()); });

@@ -28,7 +28,8 @@ PictureRef BackgroundPicture() {
     const std::string name = PrefText("SP_BackgroundPicture");
     if (name.empty()) return nullptr;
     PictureRef picture = LoadSkinPicture(name);
-    if (!picture) throw Failure(53, "Surface", "The background picture can't be loaded: " + name);
+    if (!picture)
+        throw Failure(Failure::FileNotFound, "Surface", "The background picture can't be loaded: " + name);
     return picture;
 }
 

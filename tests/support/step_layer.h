@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "base/failure.h"
-#include "base/files.h"
+#include "base/file_layer.h"
 
 namespace ornavo {
 
