@@ -10,9 +10,9 @@ namespace ornavo {
 namespace {
 
 int FlagsOf(const Label& label) {
-    const int across = label.Alignment == 1   ? Qt::AlignRight
-                       : label.Alignment == 2 ? Qt::AlignHCenter
-                                              : Qt::AlignLeft;
+    const int across = label.Alignment == RightAligned ? Qt::AlignRight
+                       : label.Alignment == Centred    ? Qt::AlignHCenter
+                                                       : Qt::AlignLeft;
     return across | Qt::AlignTop | (label.AutoSize ? 0 : Qt::TextWordWrap);
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/font.h"
+#include "platform/alignment.h"
 #include "platform/control.h"
 
 namespace ornavo {
@@ -17,8 +18,8 @@ public:
                           // take effect at Refresh
     ornavo::Font Font;
     Colour ForeColor = 0;
-    int Alignment = 0;      // 0 left, 1 right, 2 centre
-    bool AutoSize = false;  // as large as the text, whose lines then are not broken
+    int Alignment = LeftAligned;  // AlignmentCode
+    bool AutoSize = false;        // as large as the text, whose lines then are not broken
 
     void Refresh() override;
 

@@ -160,18 +160,18 @@ int WholePixels(double distance) {
 int AlignedLeft(const TileLayer& layer, Size size, int width) {
     const double left = static_cast<double>(layer.Left);
     const double right = size.width - static_cast<double>(layer.RightTrim);
-    const double at = layer.Alignment == 0   ? left
-                      : layer.Alignment == 1 ? right - width
-                                             : (left + right - width) / 2;
+    const double at = layer.Alignment == LeftAligned    ? left
+                      : layer.Alignment == RightAligned ? right - width
+                                                        : (left + right - width) / 2;
     return WholePixels(std::floor(at));
 }
 
 /// Left is the way from the end that Alignment names, or from the middle.
 int PictureLeft(const TileLayer& layer, Size size, int width) {
     const auto left = static_cast<double>(layer.Left);
-    const double at = layer.Alignment == 0   ? left
-                      : layer.Alignment == 1 ? size.width - width - left
-                                             : (size.width - width) / 2.0 + left;
+    const double at = layer.Alignment == LeftAligned    ? left
+                      : layer.Alignment == RightAligned ? size.width - width - left
+                                                        : (size.width - width) / 2.0 + left;
     return WholePixels(std::floor(at));
 }
 
@@ -215,7 +215,7 @@ void PaintLayer(QPainter& painter, const TileState& state, const TileLayer& laye
 
 TileLayer& TileLayers::Add(std::string_view key) {
     for (const TileLayer& layer : layers_)
-        if (EqualText(layer.Key, key)) throw Failure(457, "TileButton", "This key is already in use");
+        if (EqualText(layer.Key, key)) throw Failure(Failure::DuplicateKey, "TileButton");
     layers_.emplace_back().Key = key;
     return layers_.back();
 }
@@ -223,7 +223,7 @@ TileLayer& TileLayers::Add(std::string_view key) {
 TileLayer& TileLayers::Item(std::string_view key) {
     for (TileLayer& layer : layers_)
         if (EqualText(layer.Key, key)) return layer;
-    throw Failure(9, "TileButton", "Subscript out of range");
+    throw Failure(Failure::NotFound, "TileButton");
 }
 
 void TileLayers::Remove(std::string_view key) {

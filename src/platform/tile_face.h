@@ -10,6 +10,7 @@
 #include "base/colour.h"
 #include "base/font.h"
 #include "base/geometry.h"
+#include "platform/alignment.h"
 #include "platform/pictures.h"
 
 namespace ornavo {
@@ -25,7 +26,7 @@ struct TileLayer {
     bool IsText = true;
     ornavo::Font Font;
     Colour ForeColor = 0;
-    int Alignment = 2;        // 0 left, 1 right, 2 centre
+    int Alignment = Centred;  // AlignmentCode
     float Left = 0, Top = 0;  // pixels from the button's left and top
     float RightTrim = 0;      // pixels at the right end of the text area
     float Height = 0;         // pixels of the text area; its text starts at Top

@@ -11,7 +11,6 @@
 namespace ornavo {
 namespace {
 
-constexpr int RightAligned = 1, Centred = 2;
 constexpr int IconStep = 14;  // pixels from one small icon to the next
 constexpr int Stars = 5, FullStars = 4;
 
@@ -80,7 +79,7 @@ StarRow StarsFor(int alignment) {
 }
 
 void AddStars(TileButton& button) {
-    int alignment = 0;
+    int alignment = LeftAligned;
     TakeWhole(alignment, "SOD_IconsRateAlign");
     const StarRow row = StarsFor(alignment);
     for (int i = 0; i < Stars; ++i) {
