@@ -9,7 +9,6 @@
 
 #include "base/failure.h"
 #include "base/paths.h"
-#include "base/text.h"
 #include "editor/open_skin.h"
 #include "editor/selection.h"
 #include "editor/settings_keys.h"
@@ -213,17 +212,12 @@ bool frm_SkinProject::SaveSkin() {
     if (!btn_SaveSkin->isEnabled()) return false;
     FinishEdits();
     const std::string typed = tbx_SkinName->text().toStdString();
-    if (!IsPlainName(typed) || TrimBlanks(typed).empty()) {
+    if (!IsPlainName(typed)) {
         prompts().Message("Please enter a Skin name!", "Ornavo", Icon::Exclamation, Buttons::Ok);
         tbx_SkinName->setFocus();
         return false;
     }
-    const std::string before = objSkin->SkinName;
-    objSkin->SkinName = typed;
-    if (files_.Save() != SkinFiles::Saved::Yes) {
-        objSkin->SkinName = before;
-        return false;
-    }
+    if (!files_.SaveAs(typed)) return false;
     tbx_SkinName->setText(Shown(objSkin->SkinName));
     ShowDamage();
     canvas_.UpdateCurrentLayout();
@@ -284,13 +278,7 @@ void frm_SkinProject::lst_Layouts_AfterLabelEdit(const QString& key, const QStri
         return;
     }
     canvas_.ResetSelection();
-    try {
-        AddLayout(name);
-    } catch (const Failure&) {
-        prompts().Message("Layout already exists in current Skin!", "Layout already exists",
-                          Icon::Information, Buttons::Ok);
-        return;
-    }
+    if (!AddLayout(name)) return;
     canvas_.UpdateCurrentLayout();
     lst_Layouts->Add(*objCurrentLayout);
     EnableSkinControls(true);
@@ -298,12 +286,7 @@ void frm_SkinProject::lst_Layouts_AfterLabelEdit(const QString& key, const QStri
 
 frm_SkinProject::Unload frm_SkinProject::AskToSave() {
     FinishEdits();
-    if (!objSkin || !objSkin->Dirty) {
-        files_.KeepDropped();
-        return Unload::Done;
-    }
-    const Answer answer = prompts().Message("Save changes of current Skin before closing Ornavo?", SaveTitle,
-                                            Icon::Question, Buttons::YesNoCancel);
+    const Answer answer = AskAboutChanges();
     if (answer == Answer::Cancel) return Unload::Cancelled;
     if (answer == Answer::Yes) return SaveSkin() ? Unload::Done : Unload::SaveFailed;
     files_.KeepDropped();

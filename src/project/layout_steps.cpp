@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "project/layout_steps.h"
 
+#include "base/failure.h"
 #include "base/text.h"
 #include "document/current_skin.h"
 #include "platform/prompts.h"
@@ -15,10 +16,15 @@ void RenameLayout(std::string_view key, std::string_view name) {
     objSkin->dbLayouts->Item(key)->LayoutName = StorableLayoutName(name);
 }
 
-void AddLayout(std::string_view name) {
-    objCurrentLayout = objSkin->AddNewLayout(StorableLayoutName(name));
+bool AddLayout(std::string_view name) {
+    if (!Attempt([&] { objCurrentLayout = objSkin->AddNewLayout(StorableLayoutName(name)); })) {
+        prompts().Message("Layout already exists in current Skin!", "Layout already exists",
+                          Icon::Information, Buttons::Ok);
+        return false;
+    }
     objCurrentLayout->AddDummyPoints();
     objSkin->Dirty = true;
+    return true;
 }
 
 bool DeleteLayout(std::string_view key, std::string_view text) {

@@ -13,9 +13,9 @@ std::string StorableLayoutName(std::string_view name);
 
 /// Another name for the layout with the key, which itself stays.
 void RenameLayout(std::string_view key, std::string_view name);
-/// A new layout with the four corners becomes the current one. Failure 457 if its key is taken; nothing has
-/// changed then.
-void AddLayout(std::string_view name);
+/// A new layout with the four corners becomes the current one. If its key is taken the user is told so, and
+/// nothing has changed.
+bool AddLayout(std::string_view name);
 /// Removes the layout with the key after a question. "Standard" is locked. True if it is gone.
 bool DeleteLayout(std::string_view key, std::string_view text);
 

@@ -47,7 +47,8 @@ SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder) {
     std::error_code error;
     const fs::path whole = fs::absolute(OnDisk(text), error);
     if (error)
-        throw Failure(75, "PlaceOfSkin", "\"" + std::string(text) + "\" can't be found: " + error.message());
+        throw Failure(Failure::PathError, "PlaceOfSkin",
+                      "\"" + std::string(text) + "\" can't be found: " + error.message());
     std::string folder = WithSeparator(ToText(whole.lexically_normal()));
     if (EqualText(GetFileName(folder), SettingsFileName))
         folder = GetParentFolderName(folder.substr(0, folder.size() - 1));
@@ -57,6 +58,12 @@ SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder) {
 
 bool HoldsSkin(const SkinPlace& place) {
     return !NothingStandsAt(WithSeparator(place.basePath + place.skinName) + std::string(SettingsFileName));
+}
+
+Answer AskAboutChanges() {
+    if (!objSkin || !objSkin->Dirty) return Answer::No;
+    return prompts().Message("Save changes of current Skin before closing Ornavo?", SaveTitle, Icon::Question,
+                             Buttons::YesNoCancel);
 }
 
 SkinFiles::SkinFiles(std::string ownFolder, std::string dataFolder)
@@ -151,6 +158,13 @@ SkinFiles::Saved SkinFiles::Save() {
         home_ = FolderOf(*objSkin);
         RememberText();
     }
+    return saved;
+}
+
+bool SkinFiles::SaveAs(std::string_view name) {
+    const std::string before = std::exchange(objSkin->SkinName, std::string(name));
+    const bool saved = Save() == Saved::Yes;
+    if (!saved) objSkin->SkinName = before;
     return saved;
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "document/current_skin.h"
+#include "platform/prompts.h"
 
 namespace ornavo {
 
@@ -30,6 +31,9 @@ SkinPlace PlaceOfSkin(std::string_view text, std::string_view ownFolder);
 bool HoldsSkin(const SkinPlace& place);
 
 inline constexpr const char* SaveTitle = "Save current Skin";
+
+/// Whether changes of the current skin are to be saved before the program ends; No where there are none.
+Answer AskAboutChanges();
 
 class SkinFiles {
 public:
@@ -53,7 +57,9 @@ public:
     /// pictures are lost; about the same ones only once. A failure is told with path and reason; the model is
     /// then as it was.
     Saved Save();
-    /// The same for any skin that was read from `home`; it keeps pictures that are there.
+    /// The current skin under that name; false if it was not saved and has its old name.
+    bool SaveAs(std::string_view name);
+    /// As Save, for any skin that was read from `home`; it keeps pictures that are there.
     Saved SaveInto(dbSkin& skin, const std::filesystem::path& home);
     /// The current skin's text, as it stands, needs no keeping: it has just been read.
     void RememberText();
