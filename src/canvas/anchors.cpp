@@ -45,8 +45,7 @@ protected:
 
 }  // namespace
 
-Anchors::Anchors(CanvasParts& parts, ControlEvents* listener)
-    : Mover(*new Control(&parts.form, "Mover")), parts_(parts) {
+Anchors::Anchors(CanvasParts& parts, ControlEvents* listener) : Mover(&parts.form, "Mover"), parts_(parts) {
     for (std::size_t i = 0; i < Anchor.size(); ++i) {
         PictureBox* handle = new Handle(&parts.form, "Anchor", static_cast<int>(i));
         handle->SetBackColor(PointColor);

@@ -31,7 +31,7 @@ public:
     void FollowSelection();
 
     std::array<PictureBox*, 8> Anchor;  // clockwise from the top left; owned by the canvas
-    Control& Mover;                     // the selection's bounds; see-through for eye and mouse
+    Control Mover;                      // the selection's bounds; see-through for eye and mouse
 
 private:
     void HideProperties();

@@ -2,10 +2,10 @@
 #include "canvas/element_menu.h"
 
 #include <QMenu>
-#include <algorithm>
 #include <array>
 
 #include "base/failure.h"
+#include "base/find_row.h"
 #include "canvas/element_families.h"
 #include "canvas/new_elements.h"
 #include "canvas/picture_items.h"
@@ -60,9 +60,8 @@ void PopupElementMenu(CanvasParts& parts, const QPoint& at, bool isStandard) {
 }
 
 void mnuElementSub_Click(CanvasParts& parts, int index) {
-    const auto row = std::find_if(mnuElementSub.begin(), mnuElementSub.end(),
-                                  [&](const MenuRow& one) { return one.index == index; });
-    if (row == mnuElementSub.end() || !row->effect || !SelectedElement(parts)) return;
+    const MenuRow* row = FindRow(mnuElementSub, &MenuRow::index, index);
+    if (!row || !row->effect || !SelectedElement(parts)) return;
     Attempt([&] { row->effect(parts); });
 }
 

@@ -2,9 +2,9 @@
 #include "canvas/keys.h"
 
 #include <QTimer>
-#include <algorithm>
 #include <array>
 
+#include "base/find_row.h"
 #include "canvas/anchors.h"
 #include "canvas/corner_math.h"
 #include "canvas/dragging.h"
@@ -114,9 +114,8 @@ constexpr std::array Keys = {
 }  // namespace
 
 bool Form_KeyDown(CanvasParts& parts, int qtKey, int shift) {
-    const auto row =
-        std::find_if(Keys.begin(), Keys.end(), [&](const KeyRow& one) { return one.key == qtKey; });
-    if (row == Keys.end() || (row->shift != AnyShift && row->shift != shift)) return false;
+    const KeyRow* row = FindRow(Keys, &KeyRow::key, qtKey);
+    if (!row || (row->shift != AnyShift && row->shift != shift)) return false;
     const Control* control = parts.selection.SelControl();
     if (row->needsSelection && (!control || ElementsAreHidden(*control))) return false;
     row->effect(parts, row->direction, shift);

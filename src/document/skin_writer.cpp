@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <array>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -29,7 +30,8 @@ std::string Line(int tabs, std::string_view tag) {
 template <class T>
 class ValueLines {
 public:
-    ValueLines(int tabs, std::initializer_list<std::string_view> tags) {
+    template <class Tags = std::initializer_list<std::string_view>>
+    ValueLines(int tabs, const Tags& tags) {
         for (const std::string_view tag : tags)
             lines_.push_back(
                 {FindField<T>(tag)->append,
@@ -94,73 +96,26 @@ void AppendPoints(std::string& file, const dbPoints& points) {
 }
 
 /// Rotation and Resizer stand twice: so do the files that the jukebox knows.
-const ValueLines<dbLayoutElement>& ElementLines() {
-    static const ValueLines<dbLayoutElement> lines(5, {"Key",
-                                                       "ElementName",
-                                                       "Caption",
-                                                       "Order",
-                                                       "ElementType",
-                                                       "ActionType",
-                                                       "Value",
-                                                       "LeftX",
-                                                       "Visible",
-                                                       "TopY",
-                                                       "WidthX",
-                                                       "HeightY",
-                                                       "LockLeft",
-                                                       "StretchWidth",
-                                                       "LockTop",
-                                                       "LockRight",
-                                                       "StretchHeight",
-                                                       "LockBottom",
-                                                       "MarginLeft",
-                                                       "MarginRight",
-                                                       "MarginTop",
-                                                       "MarginBottom",
-                                                       "dbScript",
-                                                       "BorderColor",
-                                                       "ShowBorder",
-                                                       "IsSearch",
-                                                       "VolumeChangeable",
-                                                       "BackgroundColor",
-                                                       "PicNormal",
-                                                       "PicOn",
-                                                       "PicOver",
-                                                       "PicDown",
-                                                       "PicDisabled",
-                                                       "Rotation",
-                                                       "ShowSmooth",
-                                                       "Rotation",
-                                                       "StretchBackground",
-                                                       "UseTransparency",
-                                                       "UseTopLeftTransparency",
-                                                       "TransparentColor",
-                                                       "Dragger",
-                                                       "Resizer",
-                                                       "InfoType",
-                                                       "InfoField",
-                                                       "TextColor",
-                                                       "Seeker",
-                                                       "SeekerColor",
-                                                       "SeekLeftOffset",
-                                                       "SeekRightOffset",
-                                                       "SeekTopOffset",
-                                                       "SeekBottomOffset",
-                                                       "CaptionX",
-                                                       "CaptionY",
-                                                       "ShowShadow",
-                                                       "ShadowColor",
-                                                       "ShadowDistance",
-                                                       "Resizer",
-                                                       "CapScrollSpeed"});
-    return lines;
-}
+// clang-format off
+constexpr std::array<std::string_view, 58> ElementTags = {
+    "Key", "ElementName", "Caption", "Order", "ElementType", "ActionType", "Value", "LeftX", "Visible",
+    "TopY", "WidthX", "HeightY", "LockLeft", "StretchWidth", "LockTop", "LockRight", "StretchHeight",
+    "LockBottom", "MarginLeft", "MarginRight", "MarginTop", "MarginBottom", "dbScript", "BorderColor",
+    "ShowBorder", "IsSearch", "VolumeChangeable", "BackgroundColor", "PicNormal", "PicOn", "PicOver",
+    "PicDown", "PicDisabled", "Rotation", "ShowSmooth", "Rotation", "StretchBackground", "UseTransparency",
+    "UseTopLeftTransparency", "TransparentColor", "Dragger", "Resizer", "InfoType", "InfoField",
+    "TextColor", "Seeker", "SeekerColor", "SeekLeftOffset", "SeekRightOffset", "SeekTopOffset",
+    "SeekBottomOffset", "CaptionX", "CaptionY", "ShowShadow", "ShadowColor", "ShadowDistance", "Resizer",
+    "CapScrollSpeed",
+};
+// clang-format on
 
 void AppendElements(std::string& file, const dbLayoutElements& elements) {
+    static const ValueLines<dbLayoutElement> lines(5, ElementTags);
     file += Line(3, "Elements");
     for (const dbLayoutElementRef& element : InOrder(elements)) {
         file += Line(4, "Element");
-        ElementLines().Append(file, *element);
+        lines.Append(file, *element);
         AppendFont<5>(file, element->Font);
         file += Line(4, "/Element");
     }
@@ -208,12 +163,12 @@ std::string dbSkin::FileBytes() const {
 
 std::vector<std::string> dbSkin::SaveSkin(bool keepExisting) {
     if (SkinName.empty() || SkinName == "." || SkinName == ".." || ContainsSeparator(SkinName))
-        throw Failure(75, "SaveSkin", "A skin's folder can't be called \"" + SkinName + "\"");
+        throw Failure(Failure::PathError, "SaveSkin", "A skin's folder can't be called \"" + SkinName + "\"");
     Probation probation;
     probation.Set(SkinName, StorableSkinName(*this));
     const std::string folder = SkinFolder();
     if (!CreateFolderOnce(folder) && !MakePath(folder))
-        throw Failure(75, "SaveSkin", "The folder \"" + folder + "\" could not be made");
+        throw Failure(Failure::PathError, "SaveSkin", "The folder \"" + folder + "\" could not be made");
     RemoveLeftScratchFiles(OnDisk(folder));
     std::vector<std::string> failures = PackagePictures(*this, keepExisting, probation);
     ReplaceFileItself(OnDisk(SkinFile()), FileBytes());

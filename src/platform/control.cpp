@@ -7,6 +7,7 @@
 #include <array>
 
 #include "base/failure.h"
+#include "base/find_row.h"
 #include "platform/accessible.h"
 #include "platform/shown.h"
 
@@ -67,7 +68,7 @@ Rect Control::Bounds() const {
 }
 
 void Control::Move(const Rect& bounds) {
-    if (bounds.width < 0 || bounds.height < 0) throw Failure(380, Name, "Invalid property value");
+    if (bounds.width < 0 || bounds.height < 0) throw Failure(Failure::InvalidValue, Name);
     if (bounds == Bounds()) return;
     setGeometry(std::clamp(bounds.left, -MostPixels, MostPixels),
                 std::clamp(bounds.top, -MostPixels, MostPixels), std::min(bounds.width, MostPixels),
@@ -96,12 +97,10 @@ void Control::SetBackColor(Colour colour) {
 void Control::SetMousePointer(MousePointer shape) {
     if (shape == pointer_) return;
     pointer_ = shape;
-    const auto found = std::find_if(Pointers.begin(), Pointers.end(),
-                                    [shape](const Pointer& one) { return one.shape == shape; });
-    if (found == Pointers.end())
-        unsetCursor();
+    if (const Pointer* pointer = FindRow(Pointers, &Pointer::shape, shape))
+        setCursor(pointer->cursor);
     else
-        setCursor(found->cursor);
+        unsetCursor();
 }
 
 void Control::mousePressEvent(QMouseEvent* event) {

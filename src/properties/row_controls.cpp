@@ -86,7 +86,7 @@ void RowText::SetText(std::string_view text) {
 
 void RowText::SetBackColor(Colour colour) {
     if (colour == backColor_) return;
-    if (TranslateColor(colour) == -1) throw Failure(380, "tbx_Prop", "Invalid property value");
+    if (TranslateColor(colour) == -1) throw Failure(Failure::InvalidValue, "tbx_Prop");
     backColor_ = colour;
     if (colour == WindowBackground) return setPalette(QPalette());
     const QColor ground = ScreenColour(colour);
@@ -134,8 +134,7 @@ void RowCombo::wheelEvent(QWheelEvent* event) {
         event->ignore();
 }
 
-RowFrame::RowFrame(QWidget* sheet, int index)
-    : Control(sheet, "cboPic", index), cboProp(*new RowCombo(this)) {
+RowFrame::RowFrame(QWidget* sheet, int index) : Control(sheet, "cboPic", index), cboProp(this) {
     hide();
 }
 

@@ -93,7 +93,7 @@ protected:
 class RowFrame : public Control {
 public:
     RowFrame(QWidget* sheet, int index);
-    RowCombo& cboProp;
+    RowCombo cboProp;
 };
 
 }  // namespace ornavo

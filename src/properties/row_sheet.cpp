@@ -5,6 +5,7 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "base/find_row.h"
 #include "platform/panel_scale.h"
 
 namespace ornavo {
@@ -26,9 +27,8 @@ const RowValue* RowSheet::Focused() const {
 }
 
 void RowSheet::Focus(std::string_view key) {
-    const auto found =
-        std::find_if(values_.begin(), values_.end(), [&](const RowValue& value) { return value.key == key; });
-    if (found == values_.end()) return;
+    const RowValue* found = FindRow(values_, &RowValue::key, key);
+    if (!found) return;
     found->control->setFocus(Qt::OtherFocusReason);
     scroll_.ensureWidgetVisible(found->control, 0, PanelScale(*this)(RowPitch));
 }
