@@ -14,10 +14,6 @@ namespace {
 
 constexpr auto None = std::string_view::npos;
 
-Failure NoLine() {
-    return Failure(Failure::Own, "WriteXML", "The value has no line");
-}
-
 bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
@@ -121,20 +117,6 @@ double ConvNumeric(std::string_view value) {
     if (point > 0) Attempt([&] { whole = ToNumber(value.substr(1, point - 1)); });
     Attempt([&] { digits = ToLong(ToNumber(behind)); });
     return whole + digits / std::pow(10.0, static_cast<double>(behind.size()));
-}
-
-std::string GetNumericValue(const Value& value) {
-    const double number = value.Is<std::string>() ? ToNumber(value.As<std::string>()) : value.ToDouble();
-    std::string text;
-    if (AppendFraction(text, number)) return text;
-    return value.Is<double>() ? NumberText(number) : value.ToText();
-}
-
-std::string WriteXML(std::string_view tag, const Value& value) {
-    const std::string name = ToFileBytes(tag);
-    std::string line = std::string("<").append(name).append(">");
-    if (!AppendValue(line, value)) throw NoLine();
-    return line.append("</").append(name).append(">");
 }
 
 bool AppendValue(std::string& bytes, bool value) {

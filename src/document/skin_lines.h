@@ -33,14 +33,9 @@ bool IsMyNumeric(std::string_view value);
 /// The number of such a text; a part of it that is no number counts as 0. Never fails.
 double ConvNumeric(std::string_view value);
 
-/// A number as the file has it: plain, or "+", the floor, "." and up to four decimals above the floor.
-/// Failure 6 where the floor is beyond 32 bits, 13 where the value is no number.
-std::string GetNumericValue(const Value& value);
-/// The whole line, as bytes of the file. Failure 513 for a value that has none (false, "", empty).
-std::string WriteXML(std::string_view tag, const Value& value);
-
-/// Appends the bytes of a value. False, and nothing is appended, for a value that has no line.
-/// Failure 6 for a number whose floor is beyond 32 bits.
+/// Appends the bytes of a value; a number plain, or as "+", the floor, "." and up to four decimals above the
+/// floor. False, and nothing is appended, for a value that has no line (false, "", empty). Failure 6 for a
+/// number whose floor is beyond 32 bits.
 bool AppendValue(std::string& bytes, bool value);
 bool AppendValue(std::string& bytes, std::int32_t value);
 bool AppendValue(std::string& bytes, double value);
