@@ -15,7 +15,7 @@ namespace ornavo {
 namespace {
 
 constexpr QPoint BesidePointer = {18, 22};
-constexpr int Margin = 3;
+constexpr int TextMargin = 3;
 
 QString NumbersOf(const Selection& dragged) {
     const Rect at = dragged.SelControl()->Bounds();
@@ -45,7 +45,7 @@ ReadOut::ReadOut(QWidget& window) : QLabel(&window, Qt::ToolTip | Qt::WindowTran
     setForegroundRole(QPalette::ToolTipText);
     setAutoFillBackground(true);
     setFrameStyle(QFrame::Box | QFrame::Plain);
-    setMargin(Margin);
+    setMargin(TextMargin);
     setFont(ScreenFont({}));
 }
 

@@ -16,12 +16,12 @@ namespace ornavo {
 namespace {
 
 constexpr int FolderRole = Qt::UserRole, PictureRole = Qt::UserRole + 1;
-constexpr QSize PictureSize = {136, 102};
-constexpr int Margin = 8, NameGap = 4, Corner = 4;
+constexpr QSize ThumbnailSize = {136, 102};
+constexpr int TileMargin = 8, NameGap = 4, Corner = 4;
 
 /// Of a tile, pixels.
 QSize SizeOf(const QFontMetrics& font) {
-    return PictureSize + QSize(2 * Margin, 2 * Margin + NameGap + font.height());
+    return ThumbnailSize + QSize(2 * TileMargin, 2 * TileMargin + NameGap + font.height());
 }
 
 /// The picture, or while there is none the name's first letter on a plain ground.
@@ -58,8 +58,8 @@ public:
         painter->setPen(chosen ? QPen(colours.color(QPalette::Highlight), 2) : QPen(Qt::NoPen));
         painter->setBrush(colours.brush(QPalette::Button));
         if (chosen || over) painter->drawRoundedRect(tile, Corner, Corner);
-        QRect picture(QPoint(0, tile.top() + Margin - 2), PictureSize);
-        picture.moveLeft(tile.center().x() - PictureSize.width() / 2);
+        QRect picture(QPoint(0, tile.top() + TileMargin - 2), ThumbnailSize);
+        picture.moveLeft(tile.center().x() - ThumbnailSize.width() / 2);
         const QRect name(picture.left(), picture.bottom() + 1 + NameGap, picture.width(),
                          option.fontMetrics.height());
         painter->setFont(option.font);
@@ -107,7 +107,7 @@ void SkinList::AddSkin(const std::filesystem::path& folder) {
 void SkinList::LoadPicture(int row) {
     const qreal ratio = devicePixelRatioF();
     for (const auto& file : PreviewFiles(item(row)->data(FolderRole).toString().toStdString())) {
-        const QImage picture = LoadThumbnail(file, PictureSize * ratio);
+        const QImage picture = LoadThumbnail(file, ThumbnailSize * ratio);
         if (picture.isNull()) continue;
         QPixmap shown = QPixmap::fromImage(picture);
         shown.setDevicePixelRatio(ratio);

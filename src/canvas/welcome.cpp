@@ -12,7 +12,7 @@
 namespace ornavo {
 namespace {
 
-constexpr int LeastWidth = 400, Margin = 16, MostColumns = 6;
+constexpr int LeastWidth = 400, CardMargin = 16, MostColumns = 6;
 const QColor CardColour(250, 248, 244), EdgeColour(150, 144, 136), InkColour(52, 48, 44);
 
 QString TitleOf(const std::string& skin, bool found) {
@@ -47,8 +47,8 @@ WelcomeCard::WelcomeCard(QWidget& canvas, Windows& windows)
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Margin / 2);
+    column->setContentsMargins(CardMargin, CardMargin, CardMargin, CardMargin);
+    column->setSpacing(CardMargin / 2);
     column->addWidget(&lbl_Title);
     column->addWidget(&lbl_Hint);
     column->addWidget(&lst_Skins, 0, Qt::AlignHCenter);
@@ -83,16 +83,16 @@ void WelcomeCard::Leave() {
 }
 
 void WelcomeCard::Place() {
-    const QSize room = canvas_.size() - QSize(2 * Margin, 2 * Margin);
+    const QSize room = canvas_.size() - QSize(2 * CardMargin, 2 * CardMargin);
     lst_Skins.setVisible(lst_Skins.count() > 0);
     int width = LeastWidth;
     if (lst_Skins.count() > 0) {
         const int tile = lst_Skins.TileSize().width();
-        const int most = std::max(1, std::min((room.width() - 3 * Margin) / tile, MostColumns));
-        const int head = lbl_Title.sizeHint().height() + lbl_Hint.sizeHint().height() + 3 * Margin;
+        const int most = std::max(1, std::min((room.width() - 3 * CardMargin) / tile, MostColumns));
+        const int head = lbl_Title.sizeHint().height() + lbl_Hint.sizeHint().height() + 3 * CardMargin;
         lst_Skins.Arrange(std::min(most, lst_Skins.count()),
                           std::max(room.height() - head, lst_Skins.TileSize().height()));
-        width = std::max(width, lst_Skins.width() + 2 * Margin);
+        width = std::max(width, lst_Skins.width() + 2 * CardMargin);
     }
     resize(std::max(width, sizeHint().width()), sizeHint().height());
     move((canvas_.width() - this->width()) / 2, (canvas_.height() - height()) / 2);

@@ -6,17 +6,17 @@
 namespace ornavo {
 namespace {
 
-Prompts* current = nullptr;
+Prompts* answering = nullptr;
 
 }  // namespace
 
 Prompts& prompts() {
-    if (!current) throw Failure(Failure::NothingSet, "Prompts", "There is nobody to ask");
-    return *current;
+    if (!answering) throw Failure(Failure::NothingSet, "Prompts", "There is nobody to ask");
+    return *answering;
 }
 
 void UsePrompts(Prompts* answers) {
-    current = answers;
+    answering = answers;
 }
 
 }  // namespace ornavo

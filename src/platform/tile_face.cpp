@@ -180,13 +180,13 @@ void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer
     painter.save();
     painter.setFont(ScreenFont(layer.Font));
     const QString text = ShownText(layer.Font, layer.Text);
-    const QFontMetrics metrics = painter.fontMetrics();
-    const int width = metrics.horizontalAdvance(text);
+    const QFontMetrics font = painter.fontMetrics();
+    const int width = font.horizontalAdvance(text);
     const double end = size.width - static_cast<double>(layer.RightTrim);
     const int room = std::max(0, WholePixels(end - static_cast<double>(layer.Left)));
     const int left = WholePixels(std::trunc(layer.Left));
     const int top = WholePixels(std::round(layer.Top));
-    const QPoint at(AlignedLeft(layer, size, width), top + metrics.ascent());
+    const QPoint at(AlignedLeft(layer, size, width), top + font.ascent());
     const auto draw = [&](int offset, Colour colour) {
         if (width > room)  // what is too long ends where its area ends
             painter.setClipRect(QRect(left + offset, 0, room, size.height));

@@ -64,14 +64,15 @@ void ComposeScrollframe(dbLayoutElement& element, LayoutHost& host, bool) {
     ShowScrollframe(element, host);
 }
 
-using Road = void (*)(dbLayoutElement&, LayoutHost&, bool preview);
-constexpr std::array<Road, 7> Roads = {ComposeMain, ComposeButton,    ComposeButton,     ComposeButton,
-                                       ComposeInfo, ComposeSearchBox, ComposeScrollframe};
+using ComposeStep = void (*)(dbLayoutElement&, LayoutHost&, bool preview);
+constexpr std::array<ComposeStep, 7> Composings = {ComposeMain,       ComposeButton, ComposeButton,
+                                                   ComposeButton,     ComposeInfo,   ComposeSearchBox,
+                                                   ComposeScrollframe};
 
 void ComposeElement(dbLayoutElement& element, bool preview) {
     const auto type =
         static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table too
-    if (type < Roads.size()) Roads[type](element, TargetForm->host(), preview);
+    if (type < Composings.size()) Composings[type](element, TargetForm->host(), preview);
 }
 
 void SetTarget(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {

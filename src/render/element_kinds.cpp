@@ -8,7 +8,7 @@
 namespace ornavo {
 namespace {
 
-constexpr std::array Families = {
+constexpr std::array Kinds = {
     ElementFamily{"Element", ElementKind::Button, false},
     ElementFamily{"pMain", ElementKind::Main, true},
     ElementFamily{"pInfo", ElementKind::Info, false},
@@ -20,7 +20,7 @@ constexpr std::array Families = {
 }  // namespace
 
 const ElementFamily* FamilyOf(const Control& control) {
-    return FindRow(Families, &ElementFamily::control, control.Name);
+    return FindRow(Kinds, &ElementFamily::control, control.Name);
 }
 
 }  // namespace ornavo

@@ -56,9 +56,9 @@ void RedrawInfo(dbLayoutElement& element, LayoutHost& host) {
     box.setVisible(element.Visible);
 }
 
-using Road = void (*)(dbLayoutElement&, LayoutHost&);
-constexpr std::array<Road, 7> Roads = {RedrawMain, RedrawButton,  RedrawButton,   RedrawButton,
-                                       RedrawInfo, ShowSearchBox, ShowScrollframe};
+using RedrawStep = void (*)(dbLayoutElement&, LayoutHost&);
+constexpr std::array<RedrawStep, 7> Redraws = {RedrawMain, RedrawButton,  RedrawButton,   RedrawButton,
+                                               RedrawInfo, ShowSearchBox, ShowScrollframe};
 
 Control& HostOf(dbLayoutElement& element, LayoutHost& host) {
     switch (element.ElementType) {
@@ -86,7 +86,7 @@ Control& ControlOf(dbLayoutElement& element) {
 void RedrawElement(dbLayoutElement& element) {
     if (!viewSwitches.ShowElements) return;
     const auto type = static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table
-    if (type < Roads.size()) Roads[type](element, TargetForm->host());
+    if (type < Redraws.size()) Redraws[type](element, TargetForm->host());
 }
 
 bool RedrawSample(const SampleFamily& family) {

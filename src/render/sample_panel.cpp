@@ -6,7 +6,7 @@ namespace {
 
 constexpr Colour GuideColour = Rgb(128, 128, 128);
 constexpr Rect CaptionPlace = {64, 0, 0, 0};  // its top and size come with the layout and the text
-constexpr const char* Caption = "Songs by Artist";
+constexpr const char* PanelCaption = "Songs by Artist";
 constexpr int AddAllSize = 40;
 constexpr int KeyHeight = 32, KeyGap = 4;  // a key's caption starts 3 pixels below its top
 
@@ -27,7 +27,7 @@ SamplePanel::SamplePanel(PictureBox& panel, ControlEvents* listener)
     for (dbLine& line : kLine) line.BorderColor = GuideColour;
     for (Label* caption : {&lbl_Kiosk, &lbl_KioskShadow}) {
         caption->AutoSize = true;
-        caption->Caption = Caption;
+        caption->Caption = PanelCaption;
         caption->Move(CaptionPlace);
     }
     lbl_KioskShadow.Move({CaptionPlace.left + 1, CaptionPlace.top + 1, 0, 0});

@@ -49,7 +49,7 @@ void AddText(TileButton& button, const TextRow& row) {
 struct IconRow {
     std::string_view layer, image, align, left, top;
 };
-constexpr IconRow Icon = {"Icon", "Genre", "SO_IconsAlign", "SO_IconsX", "SO_IconsY"};
+constexpr IconRow GenreIcon = {"Icon", "Genre", "SO_IconsAlign", "SO_IconsX", "SO_IconsY"};
 constexpr IconRow Favorite = {"Favorite", "Favorite", "SOD_IconsUserAlign", "SOD_IconsUserX",
                               "SOD_IconsUserY"};
 constexpr IconRow Party = {"Party", "Party", "SOD_IconsUserAlign", "SOD_IconsUserX", "SOD_IconsUserY"};
@@ -102,7 +102,7 @@ void SetupSongLayers(TileButton& button, SongRow row) {
     const bool isOneLine = row == SongRow::OneLine;
     button.Elements.Clear();
     AddText(button, isOneLine ? SongOfOne : SongOfTwo);
-    AddIcon(button, Icon, isOneLine ? Icon.image : "");
+    AddIcon(button, GenreIcon, isOneLine ? GenreIcon.image : "");
     if (isOneLine) return;
     AddText(button, Artist);
     AddIcon(button, Favorite, Favorite.image);

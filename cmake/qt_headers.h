@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// What most rooms with windows include. Compiled once.
+#pragma once
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QTimer>
+#include <QWidget>
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
