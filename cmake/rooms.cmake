@@ -1,5 +1,6 @@
-# A room is one folder of src/ and one library. It links the rooms named and nothing else, so that a
-# way up the house does not compile. tests/house/ checks the same table against the #include lines.
+# A room is one folder of src/ and one library, which links the rooms named. All share one include path, so a way
+# up the house may compile: tests/house holds the #include lines to the same table, which it reads from rooms.txt.
+file(WRITE ${CMAKE_BINARY_DIR}/rooms.txt "")
 
 # ornavo_room(<room> [QT] <allowed rooms...>)
 function(ornavo_room room)
@@ -19,6 +20,8 @@ function(ornavo_room room)
             target_precompile_headers(ornavo_${room} REUSE_FROM ornavo_qt_headers)
         endif()
     endif()
+    string(JOIN " " line ${room} ${ARG_UNPARSED_ARGUMENTS})
+    file(APPEND ${CMAKE_BINARY_DIR}/rooms.txt "${line}\n")
     foreach(below IN LISTS ARG_UNPARSED_ARGUMENTS)
         target_link_libraries(ornavo_${room} ${scope} ornavo_${below})
     endforeach()
