@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "base/failure.h"
+#include "base/file_layer.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/paths.h"

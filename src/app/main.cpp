@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Start and stop of the editor.
+#include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
 #include <cstdio>

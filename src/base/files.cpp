@@ -11,8 +11,8 @@
 #ifdef _WIN32
 #include <process.h>
 #else
-#include <signal.h>
 #include <unistd.h>
+#include <csignal>
 #endif
 
 #include "base/file_layer.h"

@@ -44,7 +44,8 @@ Span Sized(Span span, int side, int way, bool snap, int spacing) {
 int HandlePlace(Span span, int side) {
     if (side < 0) return span.start - HandleSize;
     if (side > 0) return span.start + span.extent;
-    return ToLong(span.start + span.extent / 2.0 - HandleSize / 2);
+    constexpr int half = HandleSize / 2;  // of an odd size the smaller one
+    return ToLong(span.start + span.extent / 2.0 - half);
 }
 
 int Grown(int extent, int by) {

@@ -27,7 +27,7 @@ QSize SizeOf(const QFontMetrics& font) {
 /// The picture, or while there is none the name's first letter on a plain ground.
 void PaintPicture(QPainter& painter, const QRect& area, const QPalette& colours, const QModelIndex& index) {
     painter.fillRect(area, colours.color(QPalette::Midlight));
-    const QPixmap picture = index.data(PictureRole).value<QPixmap>();
+    const auto picture = index.data(PictureRole).value<QPixmap>();
     if (picture.isNull()) {
         QFont letter = painter.font();
         letter.setPixelSize(area.height() / 2);

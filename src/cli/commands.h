@@ -21,7 +21,7 @@ struct Arguments {
     std::string target;  // the picture to write
     std::map<std::string, std::string> options;
     bool Has(const std::string& name) const { return options.contains(name); }
-    std::string Get(const std::string& name, std::string standard = "") const;
+    std::string Get(const std::string& name, const std::string& standard = "") const;
     std::string Need(const std::string& name) const;  // UsageError if it is not there
 };
 

@@ -29,7 +29,7 @@ std::string Scalar(const Value& value) {
 
 void JsonWriter::NextItem(std::string_view name) {
     if (depth_ > 0) text_ += first_ ? "\n" : ",\n";
-    text_.append(static_cast<std::size_t>(2 * depth_), ' ');
+    text_.append(2 * static_cast<std::size_t>(depth_), ' ');
     if (!name.empty()) text_.append("\"").append(name).append("\": ");
     first_ = false;
 }
@@ -45,7 +45,7 @@ void JsonWriter::End(char bracket) {
     --depth_;
     if (!first_) {
         text_ += '\n';
-        text_.append(static_cast<std::size_t>(2 * depth_), ' ');
+        text_.append(2 * static_cast<std::size_t>(depth_), ' ');
     }
     text_ += bracket;
     first_ = false;

@@ -43,7 +43,7 @@ std::string FolderOf(const std::string& skin) {
 
 }  // namespace
 
-std::string Arguments::Get(const std::string& name, std::string standard) const {
+std::string Arguments::Get(const std::string& name, const std::string& standard) const {
     const auto found = options.find(name);
     return found == options.end() ? standard : found->second;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "picture/colour_slider.h"
 
+#include <QPainter>
 #include <QStyle>
 #include <QStyleOptionSlider>
 

@@ -2,6 +2,7 @@
 #include "picture/dib_view.h"
 
 #include <QPaintEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 #include "pixels/cdibsection.h"

@@ -27,7 +27,7 @@ class DesktopPixels : public PixelSource {
 public:
     QPoint Pointer() override;
     std::vector<QRect> Screens() override;
-    QImage Grab(int screen, const QRect& area) override;
+    QImage Grab(int number, const QRect& area) override;
 };
 
 /// The one of our windows that the pointer was last seen on, as if it were the only screen. The pointer is

@@ -158,7 +158,7 @@ int WholePixels(double distance) {
 
 /// Where something of that width stands between Left and the trimmed right end.
 int AlignedLeft(const TileLayer& layer, Size size, int width) {
-    const double left = static_cast<double>(layer.Left);
+    const auto left = static_cast<double>(layer.Left);
     const double right = size.width - static_cast<double>(layer.RightTrim);
     const double at = layer.Alignment == LeftAligned    ? left
                       : layer.Alignment == RightAligned ? right - width

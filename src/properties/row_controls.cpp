@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "properties/row_controls.h"
 
+#include <QApplication>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QValidator>

@@ -13,7 +13,8 @@ constexpr HeadingSize Untold = HeadingSize::Untold, Told = HeadingSize::Told;
 using Sample = SamplePanel;
 
 // In the order in which they are styled: of keys that write their colour to one preference the last one wins.
-// clang-format off: one line for what a row is, one for how it is styled
+// One line for what a row is, one for how it is styled.
+// clang-format off
 constexpr std::array Families = {
     SampleFamily{"but_Song", "SO", "D", "Main Button (Song & Artist)", Untold, Redraw::Places,
                  &Sample::but_Song, SetupSongButton},

@@ -96,7 +96,7 @@ public:
         if (hit && canvas().host().pMain.isAncestorOf(hit)) return false;
         return !overBar && !(onHandle && (onCorner || IsStandard()));
     }
-    bool IsStandard() { return Standard.count(model_->SelectedKey()) > 0; }
+    bool IsStandard() { return Standard.contains(model_->SelectedKey()); }
 
     // Events.
     void Drag() {
@@ -136,7 +136,7 @@ public:
         const std::string hit = model_->ElementUnder(at);
         if (!IsPlain(at) || hit.empty()) return;
         int items[] = {MenuBringToFront, MenuSendToBack, MenuClone, MenuDelete};
-        int item = items[Below(Standard.count(hit) ? 2 : 4)];
+        int item = items[Below(Standard.contains(hit) ? 2 : 4)];
         if (item == MenuClone && model_->current().elements.size() >= MostElements) item = MenuDelete;
         bool wasOpen = false;
         QTimer answer;
@@ -166,7 +166,7 @@ public:
     }
     void AddElement() {
         if (model_->current().elements.size() >= MostElements) return;
-        frm_Toolbox& toolbox = TheWindow<frm_Toolbox>();
+        auto& toolbox = TheWindow<frm_Toolbox>();
         TileCommand* const buttons[] = {toolbox.btn_AddButton, toolbox.btn_AddGraphic, toolbox.btn_AddVolume,
                                         toolbox.btn_AddInfo};
         const int type = Below(4);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // A save that is broken off at any step leaves the old skin or the new one.
-#include <signal.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <csignal>
 
 #include "support.h"
 
