@@ -27,7 +27,7 @@ void Collect(Snapshot& fields, const std::string& owner, const T& object) {
         if (!value.Is<FontRef>()) {
             // What is false has no line in the file.
             fields[owner + '.' + std::string(field.name)] = value == Value(false) ? "" : value.ToText();
-        } else if (const FontRef font = value.As<FontRef>()) {
+        } else if (const FontRef& font = value.As<FontRef>()) {
             for (const Field<Font>& part : Fields<Font>())
                 fields[owner + ".Font." + std::string(part.name)] = part.get(*font).ToText();
         }
