@@ -10,6 +10,7 @@
 #include <sstream>
 #include <string>
 
+#include "base/file_layer.h"
 #include "base/files.h"
 #include "document/dbskin.h"
 

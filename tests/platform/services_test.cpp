@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QLineEdit>
+#include <QPainter>
 #include <QRawFont>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -186,7 +187,7 @@ public:
     std::vector<std::string> heard;
 
 private:
-    void Note(std::string what, const Control& control, const Mouse& m) {
+    void Note(const std::string& what, const Control& control, const Mouse& m) {
         if (what.empty()) return;  // the mouse on its way
         heard.push_back(what + " " + control.Name + " " + std::to_string(m.button) + " " +
                         std::to_string(m.shift) + " " + std::to_string(m.x) + "," + std::to_string(m.y));

@@ -147,7 +147,7 @@ TEST_F(TileButtonTest, ReadsBackTheTopLeftColour) {
 TEST_F(TileButtonTest, RepeatsWhileHeld) {
     button.Listen(&heard);
     button.Repeats = true;
-    QTimer* timer = button.findChild<QTimer*>();
+    auto* timer = button.findChild<QTimer*>();
     ASSERT_TRUE(timer);
     QTest::mousePress(&button, Qt::LeftButton, {}, {5, 5});
     EXPECT_EQ(timer->interval(), 300);

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "walk/desktop.h"
 
-#include <signal.h>
 #include <sys/prctl.h>
 
 #include <QRect>
 #include <QRegularExpression>
 #include <QThread>
 #include <QtEndian>
+#include <csignal>
 #include <stdexcept>
 
 namespace ornavo::walk {
