@@ -28,25 +28,25 @@ QImage Drawn(const Art& art) {
 }
 
 Art Read(const QImage& image) {
-    Art art;
-    for (int y = 0; y < image.height(); ++y) {
-        art.emplace_back();
-        for (int x = 0; x < image.width(); ++x) {
-            const auto found = std::find_if(Paint.begin(), Paint.end(),
-                                            [&](const auto& one) { return one.second == image.pixel(x, y); });
-            art.back() += found == Paint.end() ? '?' : found->first;
-        }
-    }
+    Art art(static_cast<std::size_t>(image.height()), std::string(image.width(), '?'));
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            for (const auto& [letter, pixel] : Paint)
+                if (pixel == image.pixel(x, y)) art[y][x] = letter;
     return art;
 }
 
-Art Face(const TileState& state, Size size, const QImage* picture, const TileLayers& layers = {}) {
+QImage Painted(const TileState& state, Size size, const QImage* picture, const TileLayers& layers,
+               const QColor& ground = Qt::transparent) {
     QImage image(size.width, size.height, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    image.fill(ground);
     QPainter painter(&image);
     PaintTile(painter, state, layers, size, picture);
-    painter.end();
-    return Read(image);
+    return image;
+}
+
+Art Face(const TileState& state, Size size, const QImage* picture, const TileLayers& layers = {}) {
+    return Read(Painted(state, size, picture, layers));
 }
 
 TileState Seen(double rotation = 0) {
@@ -57,27 +57,24 @@ TileState Seen(double rotation = 0) {
     return state;
 }
 
-TEST(Face, StretchesWithoutMixing) {
-    const QImage picture = Drawn({"rg", "bw"});
+TEST(Face, StretchesWithoutMixingUnlessItIsSmooth) {
+    const QImage picture = Drawn({"rg", "bw"}), wide = Drawn({"kw"});
     EXPECT_EQ(Face(Seen(), {4, 4}, &picture), (Art{"rrgg", "rrgg", "bbww", "bbww"}));
     EXPECT_EQ(Face(Seen(), {5, 1}, &picture), (Art{"bbwww"}));
     EXPECT_EQ(Face(Seen(), {1, 2}, &picture), (Art{"g", "w"}));
-}
-
-TEST(Face, SmoothnessMixesNeighbours) {
-    const QImage picture = Drawn({"kw"});
+    EXPECT_EQ(Read(FinishedPicture(picture, Seen(90), {2, 2}, 2)), (Art{"bbrr", "bbrr", "wwgg", "wwgg"}));
     TileState state = Seen();
-    EXPECT_EQ(Face(state, {8, 1}, &picture), (Art{"kkkkwwww"}));
     state.ShowSmooth = true;
-    const QImage smooth = FinishedPicture(picture, state, {8, 1});
+    const QImage smooth = FinishedPicture(wide, state, {8, 1});
     EXPECT_LT(qRed(smooth.pixel(0, 0)), 64);
     EXPECT_GT(qRed(smooth.pixel(7, 0)), 191);
     for (int x = 1; x < 8; ++x) EXPECT_GE(qRed(smooth.pixel(x, 0)), qRed(smooth.pixel(x - 1, 0)));
-    EXPECT_EQ(Face(state, {2, 1}, &picture), (Art{"kw"})) << "nothing to stretch";
+    EXPECT_EQ(Face(state, {2, 1}, &wide), (Art{"kw"})) << "nothing to stretch";
+    EXPECT_EQ(FinishedPicture(picture, state, {8, 8}, 2).size(), QSize(16, 16));
 }
 
-TEST(Face, KeyColour) {
-    const QImage picture = Drawn({"mnrm", "rmmr"});
+TEST(Face, TheKeyColourGoesBeforeStretching) {
+    const QImage picture = Drawn({"mnrm", "rmmr"}), clear = Drawn({".k", "kr"});
     TileState state = Seen();
     state.TransparentColor = Rgb(255, 0, 0);
     EXPECT_EQ(Face(state, {4, 2}, &picture), (Art{"mnrm", "rmmr"})) << "no key without UseTransparency";
@@ -87,97 +84,65 @@ TEST(Face, KeyColour) {
     EXPECT_EQ(Face(state, {4, 2}, &picture), (Art{".nr.", "r..r"})) << "the comparison is exact";
     EXPECT_EQ(KeyColourOf(state, picture), Rgb(255, 0, 255));
     EXPECT_EQ(KeyColourOf(state, QImage()), Rgb(255, 0, 0));
-    const QImage clear = Drawn({".k", "kr"});
     EXPECT_EQ(Face(state, {2, 2}, &clear), (Art{".k", "kr"})) << "a clear corner hides no black";
-}
-
-TEST(Face, KeyGoesBeforeStretching) {
-    const QImage picture = Drawn({"mmrr", "mmrr"});
-    TileState state = Seen();
-    state.UseTransparency = state.TransColorTopLeft = state.ShowSmooth = true;
-    const QImage wide = FinishedPicture(picture, state, {16, 8});
+    state.ShowSmooth = true;
+    const QImage wide = FinishedPicture(Drawn({"mmrr", "mmrr"}), state, {16, 8});
     for (int x = 0; x < 16; ++x) {
         EXPECT_EQ(qBlue(wide.pixel(x, 4)), 0) << "no rim of the key colour at " << x;
         EXPECT_EQ(qRed(wide.pixel(x, 4)), qAlpha(wide.pixel(x, 4))) << x;
     }
 }
 
-TEST(Face, QuarterTurnsAreExact) {
-    const QImage square = Drawn({
-        "rgb",
-        "kwy",
-        "...",
-    });
-    struct Case {
-        double degrees;
-        Art expected;
-    };
-    for (bool smooth : {false, true})
-        for (const Case& one : {Case{90, {".kr", ".wg", ".yb"}}, Case{180, {"...", "ywk", "bgr"}},
-                                Case{270, {"by.", "gw.", "rk."}}, Case{-90, {"by.", "gw.", "rk."}},
-                                Case{450, {".kr", ".wg", ".yb"}}, Case{360, {"rgb", "kwy", "..."}}}) {
-            TileState state = Seen(one.degrees);
-            state.ShowSmooth = smooth;
-            EXPECT_EQ(Face(state, {3, 3}, &square), one.expected) << one.degrees;
-        }
-    const QImage wide = Drawn({"rggb", "kwwy"});
+TEST(Face, QuarterTurnsAreExactAndOthersKeepTheMiddle) {
+    const QImage square = Drawn({"rgb", "kwy", "..."}), wide = Drawn({"rggb", "kwwy"});
+    const std::pair<double, Art> rows[] = {{90, {".kr", ".wg", ".yb"}},  {180, {"...", "ywk", "bgr"}},
+                                           {270, {"by.", "gw.", "rk."}}, {-90, {"by.", "gw.", "rk."}},
+                                           {450, {".kr", ".wg", ".yb"}}, {360, {"rgb", "kwy", "..."}}};
     EXPECT_EQ(Face(Seen(90), {4, 2}, &wide), (Art{".wg.", ".wg."})) << "cut by the control's own size";
-}
-
-TEST(Face, OtherTurnsKeepTheMiddle) {
-    QImage picture(15, 15, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    for (bool smooth : {false, true}) {
+    QImage plain(15, 15, QImage::Format_RGB32);
+    plain.fill(Qt::red);
+    for (const bool smooth : {false, true}) {
         TileState state = Seen(45);
         state.ShowSmooth = smooth;
-        const QImage turned = FinishedPicture(picture, state, {15, 15});
-        EXPECT_EQ(turned.pixel(7, 7), qRgb(255, 0, 0));
-        EXPECT_EQ(turned.pixel(7, 0), qRgb(255, 0, 0));
+        const QImage turned = FinishedPicture(plain, state, {15, 15});
+        for (const QPoint inside : {QPoint(7, 7), QPoint(7, 0)})
+            EXPECT_EQ(turned.pixel(inside), qRgb(255, 0, 0));
         for (const QPoint corner : {QPoint(0, 0), QPoint(14, 0), QPoint(0, 14), QPoint(14, 14)})
             EXPECT_EQ(qAlpha(turned.pixel(corner)), 0);
+        for (const auto& [degrees, art] : rows) {
+            state.Rotation = degrees;
+            EXPECT_EQ(Face(state, {3, 3}, &square), art) << degrees;
+        }
     }
-}
-
-TEST(Face, ScreenWithTwoPixelsToOne) {
-    const QImage picture = Drawn({"rg", "bw"});
-    EXPECT_EQ(Read(FinishedPicture(picture, Seen(90), {2, 2}, 2)), (Art{"bbrr", "bbrr", "wwgg", "wwgg"}));
-    TileState smooth = Seen();
-    smooth.ShowSmooth = true;
-    EXPECT_EQ(FinishedPicture(picture, smooth, {8, 8}, 2).size(), QSize(16, 16));
 }
 
 TEST(Face, GroundAndBorder) {
     const QImage picture = Drawn({"r.", ".r"});
     TileState state;
     state.BackColor = Rgb(0, 0, 255);
-    EXPECT_EQ(Face(state, {4, 4}, &picture), (Art{"rrbb", "rrbb", "bbrr", "bbrr"}));
-    state.ShowBorder = true;
     state.BorderColor = Rgb(255, 255, 0);
+    EXPECT_EQ(Face(state, {4, 4}, &picture), (Art{"rrbb", "rrbb", "bbrr", "bbrr"}));
+    EXPECT_EQ(Face(state, {4, 4}, nullptr), (Art{"????", "?bb?", "?bb?", "????"})) << "a raised edge";
+    state.ShowBorder = true;
     EXPECT_EQ(Face(state, {4, 4}, &picture), (Art{"yyyy", "yrby", "ybry", "yyyy"}));
     EXPECT_EQ(Face(state, {4, 3}, nullptr), (Art{"yyyy", "ybby", "yyyy"}));
     state.BackStyle = 0;
     EXPECT_EQ(Face(state, {4, 3}, nullptr), (Art{"yyyy", "y..y", "yyyy"}));
-    state.ShowBorder = false;
-    state.BackStyle = 1;
-    EXPECT_EQ(Face(state, {4, 4}, nullptr), (Art{"????", "?bb?", "?bb?", "????"})) << "a raised edge";
 }
 
-TEST(Face, PictureLayers) {
+TEST(Face, PictureLayersStandFromTheEndThatAlignmentNames) {
     TileLayers layers;
     TileLayer& layer = layers.Add("one");
     layer.IsText = false;
     layer.Picture = std::make_shared<Picture>(Picture{Drawn({"rg"}), {}});
     layer.Top = 1;
-    struct Case {
-        int alignment;
-        float left;  // from the end that the alignment names, or from the middle
-        Art expected;
-    };
-    for (const Case& one : {Case{0, 3, {"........", "...rg..."}}, Case{1, 2, {"........", "....rg.."}},
-                            Case{2, 0, {"........", "...rg..."}}, Case{2, 2, {"........", ".....rg."}}}) {
-        layer.Alignment = one.alignment;
-        layer.Left = one.left;
-        EXPECT_EQ(Face(Seen(), {8, 2}, nullptr, layers), one.expected) << one.alignment;
+    for (const auto& [alignment, left, row] : {std::tuple{0, 3.0F, "...rg..."},
+                                               {1, 2.0F, "....rg.."},
+                                               {2, 0.0F, "...rg..."},
+                                               {2, 2.0F, ".....rg."}}) {
+        layer.Alignment = alignment;
+        layer.Left = left;
+        EXPECT_EQ(Face(Seen(), {8, 2}, nullptr, layers), (Art{"........", row})) << alignment;
     }
     layer.Visible = false;
     EXPECT_EQ(Face(Seen(), {8, 2}, nullptr, layers), (Art{"........", "........"}));
@@ -185,11 +150,7 @@ TEST(Face, PictureLayers) {
 
 /// The box of the pixels of one colour; text comes with soft edges, so near it counts.
 QRect BoxOf(const TileState& state, const TileLayers& layers, const QColor& colour) {
-    QImage image(120, 40, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    PaintTile(painter, state, layers, {120, 40}, nullptr);
-    painter.end();
+    const QImage image = Painted(state, {120, 40}, nullptr, layers, Qt::white);
     QRect box;
     for (int y = 0; y < 40; ++y)
         for (int x = 0; x < 120; ++x)
@@ -214,14 +175,11 @@ TEST(Face, TextStandsInItsArea) {
     layer.Top = 10;
     layer.Left = 20;
     EXPECT_EQ(BoxOf(state, layers, Qt::red), middle.translated(10, 10));
-
     state.UseShadow = true;
     state.ShadowDistance = 5;
     state.ShadowColor = Rgb(0, 0, 255);
-    const QRect shadow = BoxOf(state, layers, Qt::blue);
-    EXPECT_EQ(shadow.bottomRight(), middle.translated(15, 15).bottomRight());
+    EXPECT_EQ(BoxOf(state, layers, Qt::blue).bottomRight(), middle.translated(15, 15).bottomRight());
     EXPECT_EQ(BoxOf(state, layers, Qt::red), middle.translated(10, 10)) << "the text lies over its shadow";
-
     state.UseShadow = false;
     layer.Alignment = 0;
     layer.RightTrim = 90;

@@ -5,19 +5,21 @@
 
 #include <QAccessible>
 #include <QEnterEvent>
+#include <QLineEdit>
 #include <QTest>
 
+#include "platform/text_controls.h"
 #include "platform/tile_cache.h"
 #include "platform/tile_command.h"
+#include "support/failure_number.h"
 #include "support/small_gif.h"
 #include "support/temporary_folder.h"
 
 namespace ornavo::testing {
 namespace {
 
-PictureRef Plain(const QColor& colour, int width = 4, int height = 4) {
-    QImage image(width, height,
-                 colour.alpha() < 255 ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+PictureRef Plain(const QColor& colour) {
+    QImage image(4, 4, colour.alpha() < 255 ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     image.fill(colour);
     return std::make_shared<Picture>(Picture{image, {}});
 }
@@ -34,13 +36,67 @@ protected:
     }
 };
 
+/// What a control tells: "down" or "up", its name, button, keys and place.
 class Heard : public ControlEvents {
 public:
-    void MouseDown(Control&, const Mouse& mouse) override { said += "down" + std::to_string(mouse.button); }
-    void MouseUp(Control&, const Mouse&) override { said += " up"; }
-    void Repeat(Control&) override { said += " repeat"; }
+    void MouseDown(Control& control, const Mouse& m) override { Note("down ", control, m); }
+    void MouseUp(Control& control, const Mouse& m) override { Note("up ", control, m); }
+    void Repeat(Control&) override { said += "repeat, "; }
     std::string said;
+
+private:
+    void Note(const std::string& what, const Control& control, const Mouse& m) {
+        said += what + control.Name;
+        for (const int number : {m.button, m.shift, m.x, m.y}) said += ' ' + std::to_string(number);
+        said += ", ";
+    }
 };
+
+TEST(Controls, KeepTheirPlace) {
+    QWidget window;
+    Control control(&window, "Element", 3);
+    control.Move({-5, 6, 7, 0});
+    EXPECT_EQ(control.Bounds(), (Rect{-5, 6, 7, 0}));
+    for (const Rect& none : {Rect{0, 0, -1, 5}, {0, 0, 5, -1}})
+        EXPECT_EQ(FailureNumber([&] { control.Move(none); }), 380);
+    EXPECT_EQ(control.Bounds(), (Rect{-5, 6, 7, 0}));
+    constexpr int most = std::numeric_limits<int>::max();
+    control.Move({most, -most, most, most});
+    EXPECT_LT(control.Bounds().left, most);
+    for (const auto& [pointer, shape] :
+         {std::pair{PointerSizeAll, Qt::SizeAllCursor}, {PointerDefault, Qt::ArrowCursor}}) {
+        control.SetMousePointer(pointer);
+        EXPECT_EQ(control.cursor().shape(), shape);
+    }
+    EXPECT_EQ(ScreenColour(-1), QColor(Qt::black));
+}
+
+TEST(Controls, TheMouseStopsAtTheFrontOne) {
+    struct Window : QWidget {
+        int pressed = 0;
+        void mousePressEvent(QMouseEvent*) override { ++pressed; }
+    } window;
+    window.resize(100, 100);
+    Heard heard;
+    Control back(&window, "back"), front(&window, "front");
+    TextBox text(&window, "text");
+    for (Control* control : {&back, &front, static_cast<Control*>(&text)}) control->Listen(&heard);
+    back.Move({0, 0, 50, 50});
+    front.Move({20, 20, 50, 20});
+    text.Move({0, 60, 50, 20});
+    text.SetBorderStyle(1);
+    text.Edit().setReadOnly(true);
+    window.show();
+    QTest::mousePress(window.windowHandle(), Qt::RightButton, Qt::ShiftModifier | Qt::AltModifier, {25, 25});
+    QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {}, {25, 25});
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::ControlModifier, {10, 70});
+    EXPECT_EQ(std::exchange(heard.said, ""),
+              "down front 2 5 5 5, up front 2 0 5 5, down text 1 2 10 10, up text 1 2 10 10, ");
+    back.ZOrder();
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {25, 25});
+    EXPECT_EQ(heard.said, "down back 1 0 25 25, up back 1 0 25 25, ");
+    EXPECT_EQ(window.pressed, 0);
+}
 
 class TileButtonTest : public ::testing::Test {
 protected:
@@ -59,6 +115,7 @@ protected:
         QEvent event(QEvent::Leave);
         QCoreApplication::sendEvent(&button, &event);
     }
+    void Press(Qt::MouseButton with = Qt::LeftButton) { QTest::mousePress(&button, with, {}, {5, 5}); }
     std::string Gif() { return folder.Write("moving.gif", SmallGif(2)).string(); }
 
     TemporaryFolder folder;
@@ -72,36 +129,38 @@ TEST_F(TileButtonTest, ShowsThePictureOfItsState) {
     button.PictureOver = Plain(Qt::green);
     button.PictureDown = Plain(Qt::blue);
     button.Refresh();
-    EXPECT_EQ(Shown(), QColor(Qt::red));
-    Enter();
-    EXPECT_EQ(Shown(), QColor(Qt::green));
-    QTest::mousePress(&button, Qt::LeftButton, {}, {5, 5});
-    EXPECT_EQ(Shown(), QColor(Qt::blue));
-    QTest::mouseMove(&button, {-5, 5});
-    EXPECT_EQ(Shown(), QColor(Qt::green)) << "held, but outside";
-    QTest::mouseMove(&button, {5, 5});
-    EXPECT_EQ(Shown(), QColor(Qt::blue));
-    QTest::mouseRelease(&button, Qt::LeftButton, {}, {5, 5});
-    EXPECT_EQ(Shown(), QColor(Qt::green));
-    Leave();
-    EXPECT_EQ(Shown(), QColor(Qt::red));
-    QTest::mousePress(&button, Qt::LeftButton, {}, {5, 5});
-    button.hide();
-    button.show();
-    EXPECT_EQ(Shown(), QColor(Qt::red)) << "hidden while held";
-    button.PictureOver = button.PictureDown = nullptr;
-    button.Refresh();
-    Enter();
-    EXPECT_EQ(Shown(), QColor(Qt::red)) << "what is missing shows the normal one";
+    const std::pair<std::function<void()>, QColor> steps[] = {
+        {[] {}, Qt::red},
+        {[&] { Enter(); }, Qt::green},
+        {[&] { Press(); }, Qt::blue},
+        {[&] {
+             QTest::mouseMove(&button, {-5, 5});
+         },
+         Qt::green},
+        {[&] {
+             QTest::mouseMove(&button, {5, 5});
+         },
+         Qt::blue},
+        {[&] {
+             QTest::mouseRelease(&button, Qt::LeftButton, {}, {5, 5});
+         },
+         Qt::green},
+        {[&] { Leave(); }, Qt::red},
+        {[&] { Press(), button.hide(), button.show(); }, Qt::red},
+        {[&] { button.PictureOver = nullptr, button.Refresh(), Enter(); }, Qt::red}};
+    for (const auto& [act, colour] : steps) {
+        act();
+        EXPECT_EQ(Shown(), colour) << "step " << &act - &steps[0].first;
+    }
 }
 
-TEST_F(TileButtonTest, RefreshPaintsOnlyWhatHasChanged) {
+TEST_F(TileButtonTest, AReusedSlotHasNothingOfBeforeAndPaintsOnlyWhatHasChanged) {
     button.Picture = Plain(Qt::red);
     button.Elements.Add("Caption").Text = "one";
     button.Refresh();
     QCoreApplication::processEvents();
     button.painted = 0;
-    const auto reuse = [&](const char* text) {
+    for (const auto& [text, paints] : {std::pair{"one", 0}, {"two", 1}}) {
         const PictureRef picture = button.Picture;
         button.Reset();
         button.State.BackStyle = 0;
@@ -110,19 +169,12 @@ TEST_F(TileButtonTest, RefreshPaintsOnlyWhatHasChanged) {
         button.Move({10, 10, 20, 10});
         button.Refresh();
         QCoreApplication::processEvents();
-        return std::exchange(button.painted, 0);
-    };
-    EXPECT_EQ(reuse("one"), 0);
-    EXPECT_EQ(reuse("two"), 1);
-}
-
-TEST_F(TileButtonTest, AReusedSlotHasNothingOfBefore) {
-    button.Picture = button.PictureOver = Plain(Qt::red);
-    button.AniPictureDown = Gif();
-    button.Repeats = true;
+        EXPECT_EQ(std::exchange(button.painted, 0), paints) << text;
+    }
+    button.PictureOver = button.PictureDown = button.Picture;
+    button.AniPicture = button.AniPictureOver = button.AniPictureDown = Gif();
+    button.Repeats = button.State.ShowBorder = true;
     button.SetMousePointer(PointerSizeAll);
-    button.State.ShowBorder = true;
-    button.Elements.Add("Caption").Text = "before";
     button.Reset();
     EXPECT_TRUE(button.State == TileState() && button.Elements == TileLayers());
     EXPECT_FALSE(button.Picture || button.PictureOver || button.PictureDown || button.Repeats);
@@ -133,15 +185,15 @@ TEST_F(TileButtonTest, AReusedSlotHasNothingOfBefore) {
 TEST_F(TileButtonTest, ReadsBackTheTopLeftColour) {
     button.State.TransparentColor = Rgb(1, 2, 3);
     button.State.UseTransparency = button.State.TransColorTopLeft = true;
-    button.Picture = Plain(QColor(9, 8, 7));
-    button.Refresh();
-    EXPECT_EQ(button.TransparentColor(), Rgb(9, 8, 7));
-    button.Picture = nullptr;
-    button.Refresh();
-    EXPECT_EQ(button.TransparentColor(), Rgb(1, 2, 3));
-    button.AniPicture = Gif();
-    button.Refresh();
-    EXPECT_EQ(button.TransparentColor(), Rgb(255, 0, 0)) << "of the first frame";
+    const std::tuple<PictureRef, std::string, Colour> rows[] = {{Plain(QColor(9, 8, 7)), "", Rgb(9, 8, 7)},
+                                                                {nullptr, "", Rgb(1, 2, 3)},
+                                                                {nullptr, Gif(), Rgb(255, 0, 0)}};
+    for (const auto& [picture, animated, colour] : rows) {
+        button.Picture = picture;
+        button.AniPicture = animated;
+        button.Refresh();
+        EXPECT_EQ(button.TransparentColor(), colour);
+    }
 }
 
 TEST_F(TileButtonTest, RepeatsWhileHeld) {
@@ -149,21 +201,18 @@ TEST_F(TileButtonTest, RepeatsWhileHeld) {
     button.Repeats = true;
     auto* timer = button.findChild<QTimer*>();
     ASSERT_TRUE(timer);
-    QTest::mousePress(&button, Qt::LeftButton, {}, {5, 5});
-    EXPECT_EQ(timer->interval(), 300);
-    const auto fire = [&] {
+    Press();
+    for (const int interval : {300, 100}) {
+        EXPECT_EQ(timer->interval(), interval);
         QTimerEvent tick(timer->timerId());
         QCoreApplication::sendEvent(timer, &tick);
-    };
-    fire();
-    EXPECT_EQ(timer->interval(), 100);
-    fire();
+    }
     QTest::mouseRelease(&button, Qt::LeftButton, {}, {5, 5});
     EXPECT_FALSE(timer->isActive());
-    EXPECT_EQ(heard.said, "down1 repeat repeat up");
-    QTest::mousePress(&button, Qt::RightButton);
+    EXPECT_EQ(heard.said, "down Element 1 0 5 5, repeat, repeat, up Element 1 0 5 5, ");
+    Press(Qt::RightButton);
     EXPECT_FALSE(timer->isActive());
-    QTest::mousePress(&button, Qt::LeftButton);
+    Press();
     button.hide();
     EXPECT_FALSE(timer->isActive());
 }
@@ -171,7 +220,6 @@ TEST_F(TileButtonTest, RepeatsWhileHeld) {
 TEST_F(TileButtonTest, AnimationsRunOnlyWhileSeen) {
     button.Picture = Plain(Qt::green);
     button.AniPicture = Gif();
-    EXPECT_TRUE(button.IsAnimatedGIF(button.AniPicture));
     button.Refresh();
     EXPECT_TRUE(button.IsRunning());
     EXPECT_EQ(Shown(), QColor(Qt::red)) << "goes before the plain one";
@@ -191,24 +239,23 @@ TEST_F(TileButtonTest, AnimationsRunOnlyWhileSeen) {
 }
 
 TEST(TileCache, MakesAPictureOnceForALook) {
-    const PictureRef picture = Plain(Qt::red);
+    const PictureRef picture = Plain(Qt::red), clear = Plain(Qt::transparent);
     TileState state;
-    const auto first = FinishedTile(picture, state, {50, 50}, 1);
+    const auto made = [&](Size size = {50, 50}) { return FinishedTile(picture, state, size, 1); };
+    const auto first = made();
     state.BackColor = Rgb(1, 2, 3);  // not of the picture
-    EXPECT_EQ(FinishedTile(picture, state, {50, 50}, 1), first);
-    EXPECT_NE(FinishedTile(picture, state, {51, 50}, 1), first);
-    EXPECT_NE(FinishedTile(picture, state, {50, 51}, 1), first);
+    EXPECT_EQ(made(), first);
+    EXPECT_TRUE(made({51, 50}) != first && made({50, 51}) != first);
     state.UseTransparency = state.TransColorTopLeft = true;
-    const auto keyed = FinishedTile(picture, state, {50, 50}, 1);
+    const auto keyed = made();
     EXPECT_NE(keyed, first);
     state.TransColorTopLeft = false;
     state.TransparentColor = Rgb(255, 0, 0);
-    EXPECT_EQ(FinishedTile(picture, state, {50, 50}, 1), keyed) << "the same key colour by another road";
-    for (int width = 3900; width < 3920; ++width) FinishedTile(picture, state, {width, 1000}, 1);
+    EXPECT_EQ(made(), keyed) << "the same key colour by another road";
+    for (int width = 3900; width < 3920; ++width) made({width, 1000});
     EXPECT_LE(TileCacheSize(), TileCacheBytes);
-    EXPECT_NE(FinishedTile(picture, state, {50, 50}, 1), keyed) << "dropped for the large ones";
+    EXPECT_NE(made(), keyed) << "dropped for the large ones";
     EXPECT_EQ(FinishedTile(nullptr, state, {50, 50}, 1), nullptr);
-    const PictureRef clear = Plain(Qt::transparent);
     state.TransparentColor = 0;
     const auto black = FinishedTile(clear, state, {50, 50}, 1);
     state.TransColorTopLeft = true;
@@ -230,7 +277,7 @@ protected:
     int clicks = 0;
 };
 
-TEST_F(TileCommandTest, IsClickedByMouseWhenThePointerHasNotLeft) {
+TEST_F(TileCommandTest, IsClickedByMouseByKeysAndByItsMnemonic) {
     QTest::mouseClick(&command, Qt::LeftButton);
     EXPECT_EQ(clicks, 1);
     QTest::mouseDClick(&command, Qt::LeftButton);
@@ -240,49 +287,39 @@ TEST_F(TileCommandTest, IsClickedByMouseWhenThePointerHasNotLeft) {
     QTest::mousePress(&command, Qt::LeftButton);
     QTest::mouseRelease(&command, Qt::LeftButton, {}, {500, 5});
     EXPECT_EQ(clicks, 2);
-}
-
-TEST_F(TileCommandTest, IsClickedByKeysAndByItsMnemonic) {
     command.setFocus();
-    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) QTest::keyClick(&command, key);
-    EXPECT_EQ(clicks, 3);
-    QTest::keyClick(&command, Qt::Key_A);
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A})
+        QTest::keyClick(&command, key);
+    EXPECT_EQ(clicks, 5);
     QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
-    EXPECT_EQ(clicks, 4);
+    EXPECT_EQ(clicks, 6);
     command.SetCaption("&Keep skin");
     QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
-    EXPECT_EQ(clicks, 4);
     QTest::keyPress(&command, Qt::Key_Space);
     command.clearFocus();
     QTest::keyRelease(&command, Qt::Key_Space);
-    EXPECT_EQ(clicks, 4) << "the focus went away in between";
-}
-
-TEST_F(TileCommandTest, DoesNothingWhileItIsDisabled) {
+    EXPECT_EQ(clicks, 6) << "the focus went away in between";
     command.setEnabled(false);
     QTest::mouseClick(&command, Qt::LeftButton);
     command.PerformClick();
-    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(clicks, 6);
 }
 
-TEST_F(TileCommandTest, IsAButtonForAScreenReader) {
+TEST_F(TileCommandTest, IsAButtonForAScreenReaderAndHoldsPictureAndCaption) {
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&command);
     EXPECT_EQ(told->role(), QAccessible::Button);
     EXPECT_EQ(told->text(QAccessible::Name), "Save skin");
     told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(clicks, 1);
-    command.SetCaption("");
-    command.setToolTip("Save");
-    EXPECT_EQ(told->text(QAccessible::Name), "Save");
-}
-
-TEST_F(TileCommandTest, ItsSizeHoldsPictureAndCaption) {
     const QSize text = command.sizeHint();
     command.SetPicture("none.png", 32);
     EXPECT_EQ(command.sizeHint().width(), text.width() + 32 + 5);
     command.SetPictureAbove(true);
     EXPECT_EQ(command.sizeHint().width(), text.width());
     EXPECT_GT(command.sizeHint().height(), text.height() + 32);
+    command.SetCaption("");
+    command.setToolTip("Save");
+    EXPECT_EQ(told->text(QAccessible::Name), "Save");
 }
 
 }  // namespace
