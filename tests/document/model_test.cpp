@@ -9,7 +9,6 @@
 #include "document/fields.h"
 #include "document/shape_edits.h"
 #include "support.h"
-#include "support/failure_number.h"
 
 namespace ornavo {
 namespace {
@@ -47,18 +46,14 @@ std::string Listed(const dbPoints& points) {
 }
 
 void AddPoint(dbLayout& layout, int order, int x) {
-    dbPoint point;
-    point.Order = order, point.X = x, point.Y = x + 1, point.VAlign = 2, point.HAlign = 3;
+    const dbPoint point{.X = x, .Y = x + 1, .VAlign = 2, .HAlign = 3, .Order = order};
     layout.dbPoints->AddObject(std::make_shared<dbPoint>(point));
 }
 
-TEST(ShapeEdits, ATagAndItsOrder) {
+TEST(ShapeEdits, ADeletedPointLeavesDenseOrdersAndNewKeys) {
     EXPECT_EQ(OrderOfTag(TagOfPoint(12)), 12);
     for (const char* none : {"", "K", "Kx", "K1x", "K 1", "K99999999999", "Button"})
         EXPECT_EQ(OrderOfTag(none), 0) << none;
-}
-
-TEST(ShapeEdits, ADeletedPointLeavesDenseOrdersAndNewKeys) {
     dbLayout layout;
     for (const int order : {7, 3, -2, 3000}) AddPoint(layout, order, order);
     RenumberPoints(*layout.dbPoints);
@@ -80,7 +75,7 @@ TEST(ShapeEdits, ADeletedPointLeavesDenseOrdersAndNewKeys) {
     EXPECT_EQ(Listed(*layout.dbPoints), "1:30 2:40 ") << "two corners stay";
 }
 
-TEST(Model, ALayoutIsKeyedByItsName) {
+TEST(Model, ALayoutIsKeyedByItsNameAndAPointByItsOrder) {
     dbSkin skin;
     EXPECT_EQ(skin.AddNewLayout("Big Party")->Key, "Big_Party");
     EXPECT_THROW(skin.AddNewLayout("big_party"), Failure);
@@ -90,19 +85,14 @@ TEST(Model, ALayoutIsKeyedByItsName) {
     EXPECT_TRUE(admin.Item("main")->Visible);
     EXPECT_FALSE(admin.Item("SearchBox")->Visible || admin.Item("Scrollbar")->Visible);
     EXPECT_TRUE(skin.AddNewLayout("admin-mode2")->dbLayoutElements->Item("SearchBox")->Visible);
-}
-
-TEST(Model, PointsAreFoundByTheirOrder) {
     dbLayout layout;
     layout.AddDummyPoints();
     EXPECT_THROW(layout.dbPoints->Add(3), Failure);
     auto inserted = std::make_shared<dbPoint>();
     inserted->Order = 9;
     layout.dbPoints->InsertObject(inserted, 1);
-    EXPECT_EQ(layout.dbPoints->Item(2), inserted);
-    EXPECT_EQ(layout.dbPoints->Item("k9"), inserted);
-    EXPECT_EQ(layout.dbPoints->GetFromOrder(9), inserted);
-    EXPECT_EQ(layout.dbPoints->GetFromOrder(5), nullptr);
+    EXPECT_TRUE(layout.dbPoints->Item(2) == inserted && layout.dbPoints->Item("k9") == inserted);
+    EXPECT_TRUE(layout.dbPoints->GetFromOrder(9) == inserted && !layout.dbPoints->GetFromOrder(5));
 }
 
 TEST(Model, TheCatalogueIsWholeAndUpgrades) {
@@ -120,13 +110,14 @@ TEST(Model, TheCatalogueIsWholeAndUpgrades) {
     skin.dbSkinPrefs->Add("sp_collight", "Hell", 5, 1);
     for (int times = 0; times < 2; ++times) skin.SetupSkinPrefs();
     ASSERT_EQ(skin.dbSkinPrefs->Count(), 181);
-    EXPECT_EQ(skin.dbSkinPrefs->Item(1)->value, Value(5));
     EXPECT_EQ(skin.dbSkinPrefs->Item(1)->Caption, "Hell");
     EXPECT_EQ(skin.dbSkinPrefs->Item(181)->Key, "LA_ShadowColor");
-    EXPECT_EQ(skin.dbSkinPrefs->Item("AA_Caption")->value, Value("\u00EC"));
-    EXPECT_EQ(skin.dbSkinPrefs->Item("SP_ColBack")->value, Value(0xFFC0C0));
-    EXPECT_EQ(skin.dbSkinPrefs->Item("PI_HeightFactor")->value, Value(1.55));
-    EXPECT_EQ(skin.dbSkinPrefs->Item("AA_Shadow")->value, Value(true));
+    const std::pair<const char*, Value> rows[] = {{"SP_ColLight", 5},
+                                                  {"AA_Caption", "\u00EC"},
+                                                  {"SP_ColBack", 0xFFC0C0},
+                                                  {"PI_HeightFactor", 1.55},
+                                                  {"AA_Shadow", true}};
+    for (const auto& [key, value] : rows) EXPECT_EQ(skin.dbSkinPrefs->Item(key)->value, value) << key;
 }
 
 TEST(Model, FieldsAreReachedByName) {

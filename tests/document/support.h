@@ -4,24 +4,16 @@
 
 #include <gtest/gtest.h>
 
-#include "base/failure.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "document/current_skin.h"
+#include "support/failure_number.h"
 #include "support/step_layer.h"
 #include "support/temporary_folder.h"
 
 namespace ornavo {
 
 namespace fs = std::filesystem;
-
-inline std::string BytesOf(const fs::path& path) {
-    return TemporaryFolder::Read(path);
-}
-
-inline std::string Fixture(const std::string& name) {
-    return BytesOf(fs::path(ORNAVO_SOURCE_DIR "/tests/document/fixtures") / name);
-}
 
 class SkinTest : public testing::Test {
 protected:
@@ -30,10 +22,8 @@ protected:
         UseNumberSigns({});
         objSkin = std::make_shared<dbSkin>();
     }
-    static void Put(const fs::path& path, const std::string& bytes) {
-        fs::create_directories(path.parent_path());
-        std::ofstream(path, std::ios::binary) << bytes;
-    }
+    fs::path Put(std::string_view name, std::string_view bytes) const { return scratch.Write(name, bytes); }
+    std::string BytesOf(std::string_view name) const { return scratch.Read(folder / name); }
     /// Without the catalogue, so that a file has only what a test puts there.
     dbSkinRef NewSkin(const std::string& name) const {
         auto skin = std::make_shared<dbSkin>();
@@ -42,12 +32,17 @@ protected:
         skin->SkinName = name;
         return skin;
     }
-    dbSkinRef LoadBytes(const std::string& bytes, const std::string& name = "Blue") {
-        Put(folder / name / "SkinSettings.xml", bytes);
+    dbSkinRef Load(const std::string& name) const {
         objSkin = NewSkin(name);
         objSkin->LoadSkin();
         return objSkin;
     }
+    dbSkinRef LoadBytes(const std::string& bytes, const std::string& name = "Blue") const {
+        Put(name + "/SkinSettings.xml", bytes);
+        return Load(name);
+    }
+    static dbLayoutElement& Lowest() { return *objSkin->dbLayouts->Item(1)->dbLayoutElements->Item(1); }
+
     const TemporaryFolder scratch;
     const fs::path folder = scratch.place();
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The number of the failure that a call ends in, 0 if it ends well.
+// The failure that a call ends in; its number is 0 if the call ends well.
 #pragma once
 
 #include "base/failure.h"
@@ -7,13 +7,18 @@
 namespace ornavo {
 
 template <class Call>
-int FailureNumber(Call&& call) {
+Failure FailureOf(Call&& call) {
     try {
         call();
     } catch (const Failure& failure) {
-        return failure.number();
+        return failure;
     }
-    return 0;
+    return {0, "", ""};
+}
+
+template <class Call>
+int FailureNumber(Call&& call) {
+    return FailureOf(call).number();
 }
 
 }  // namespace ornavo

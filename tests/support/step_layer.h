@@ -28,14 +28,14 @@ public:
         Step();
         FileLayer::Write(file, bytes.substr(bytes.size() / 2));
     }
-    void Flush(int file) override { Step(), FileLayer::Flush(file); }
+    void Flush(int) override { Step(); }  // a test's file need not last
     void Close(int file) override { FileLayer::Close(file), Step(); }
     void Rename(const std::filesystem::path& from, const std::filesystem::path& to) override {
         Step(), FileLayer::Rename(from, to);
     }
     void Remove(const std::filesystem::path& path) override { Step(), FileLayer::Remove(path); }
     void MakeFolder(const std::filesystem::path& path) override { Step(), FileLayer::MakeFolder(path); }
-    void FlushFolder(const std::filesystem::path& path) override { Step(), FileLayer::FlushFolder(path); }
+    void FlushFolder(const std::filesystem::path&) override { Step(); }
     int Open(const std::filesystem::path& path) override { return Step(), FileLayer::Open(path); }
     std::size_t ReadSome(int file, char* bytes, std::size_t size) override {
         return Step(), FileLayer::ReadSome(file, bytes, size);
