@@ -28,28 +28,24 @@ protected:
         return *all.Item(all.Count());
     }
     static void Click(TileCommand* command) { QTest::mouseClick(command, Qt::LeftButton); }
-    static void Type(QLineEdit* box, const char* text) {
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, QString::fromLatin1(text));
-        QTest::keyClick(box, Qt::Key_Return);
-    }
     frm_Toolbox toolbox;
     int grids = 0;
 };
 
 TEST_F(ToolboxTest, WhatIsAddedOrClonedIsSelectedAndHasASheetOfItsOwn) {
-    for (TileCommand* add :
-         {toolbox.btn_AddButton, toolbox.btn_AddGraphic, toolbox.btn_AddVolume, toolbox.btn_AddInfo}) {
+    for (const auto& [add, bounds] : {std::pair{toolbox.btn_AddButton, Rect{25, 25, 50, 50}},
+                                      {toolbox.btn_AddGraphic, {25, 25, 50, 50}},
+                                      {toolbox.btn_AddVolume, {725, 25, 50, 50}},
+                                      {toolbox.btn_AddInfo, {100, 20, 400, 50}}}) {
         QApplication::setActiveWindow(&toolbox);
         Click(add);
         EXPECT_EQ(SelKey(), Last().Key);
         ASSERT_TRUE(SelControl());
         EXPECT_EQ(SelControl()->Tag, SelKey());
+        EXPECT_EQ(SelControl()->Bounds(), bounds);
         EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == form_.get(); }, 1000))
             << "arrows and Delete reach it";
     }
-    EXPECT_EQ(SelControl()->Bounds(), (Rect{100, 20, 400, 50}));
     dbLayoutElement& source = Element("Info1");
     source.ElementName = "Song";
     source.Font = std::make_shared<Font>();
@@ -60,8 +56,14 @@ TEST_F(ToolboxTest, WhatIsAddedOrClonedIsSelectedAndHasASheetOfItsOwn) {
     EXPECT_EQ(clone.Order, 5);
     EXPECT_EQ(clone.Font, source.Font) << "one font serves both";
     EXPECT_EQ(SelKey(), "Info2");
-    EXPECT_EQ(windows_.panel.unloaded, 5);
-    EXPECT_EQ(windows_.panel.opened, 5);
+    EXPECT_TRUE(windows_.panel.unloaded == 5 && windows_.panel.opened == 5);
+    toolbox.chk_ShowElements->click();
+    Click(toolbox.btn_AddButton);
+    EXPECT_EQ(SelKey(), "Button2") << "unseen it is the selection all the same";
+    EXPECT_TRUE(SelControl() && SelControl()->isHidden() && windows_.panel.shown);
+    Compose();
+    toolbox.chk_ShowElements->click();
+    EXPECT_TRUE(SelKey() == "Button2" && anchors().Anchor[0]->isVisible());
 }
 
 TEST_F(ToolboxTest, WhatCannotBeAddedOrClonedChangesNothing) {
@@ -70,8 +72,7 @@ TEST_F(ToolboxTest, WhatCannotBeAddedOrClonedChangesNothing) {
     CloneElement(form_->parts());
     form_->SelectWithAnchors(form_->host().pMain);
     CloneElement(form_->parts());
-    AddElement(form_->parts(), 0);
-    AddElement(form_->parts(), 5);
+    for (const int type : {0, 5}) AddElement(form_->parts(), type);
     EXPECT_EQ(objCurrentLayout->dbLayoutElements->Count(), 1);
     objCurrentLayout = std::make_shared<dbLayout>();
     Click(toolbox.btn_AddButton);
@@ -84,76 +85,67 @@ TEST_F(ToolboxTest, WhatCannotBeAddedOrClonedChangesNothing) {
     EXPECT_TRUE(toolbox.btn_AddInfo->isEnabled());
 }
 
-TEST_F(ToolboxTest, WhatIsAddedUnseenIsTheSelectionAllTheSame) {
-    toolbox.chk_ShowElements->click();
-    Click(toolbox.btn_AddButton);
-    EXPECT_EQ(SelKey(), "Button1");
-    EXPECT_TRUE(SelControl() && SelControl()->isHidden() && windows_.panel.shown);
-    Compose();
-    toolbox.chk_ShowElements->click();
-    EXPECT_EQ(SelKey(), "Button1");
-    EXPECT_TRUE(anchors().Anchor[0]->isVisible());
-}
-
-TEST_F(ToolboxTest, EachBoxTurnsItsSwitchAndNothingElse) {
-    const std::pair<QCheckBox*, bool ViewSwitches::*> rows[] = {
-        {toolbox.chk_ShowShape, &ViewSwitches::ShowShape},
-        {toolbox.chk_ShapeInverted, &ViewSwitches::ShapeInverted},
-        {toolbox.chk_ShowElements, &ViewSwitches::ShowElements},
-        {toolbox.chk_ShowPoints, &ViewSwitches::ShowPoints},
-        {toolbox.chk_ShowLines, &ViewSwitches::ShowLines},
-        {toolbox.chk_ShowGrid, &ViewSwitches::ShowGrid},
-        {toolbox.chk_SnapGrid, &ViewSwitches::SnapGrid}};
-    for (const auto& [box, viewSwitch] : rows) {
-        const bool before = viewSwitches.*viewSwitch;
-        EXPECT_EQ(box->isChecked(), before) << box->text().toStdString();
-        box->click();
-        EXPECT_EQ(viewSwitches.*viewSwitch, !before) << box->text().toStdString();
-        {
-            const Raised placing = form_->parts().drag.Placing();
-            box->click();
-            EXPECT_EQ(viewSwitches.*viewSwitch, box == toolbox.chk_SnapGrid ? before : !before)
-                << box->text().toStdString();
-        }
-        viewSwitches.*viewSwitch = before;
-    }
-    EXPECT_FALSE(objSkin->Dirty);
-}
-
-TEST_F(ToolboxTest, SwitchesShowOnTheCanvas) {
+TEST_F(ToolboxTest, EachBoxTurnsItsSwitchAndWhatIsShown) {
     Add("Button1", TypeButton, {10, 10, 20, 20});
     objCurrentLayout->AddDummyPoints();
     Compose();
-    form_->SelectWithAnchors(form_->host().Element[1]);
-    toolbox.chk_ShowElements->click();
-    EXPECT_FALSE(form_->host().Element[1].isVisible());
-    EXPECT_FALSE(form_->parts().anchors.Anchor[0]->isVisible());
-    toolbox.chk_ShowElements->click();
-    EXPECT_TRUE(form_->host().Element[1].isVisible());
-    toolbox.chk_ShowLines->click();
-    EXPECT_TRUE(form_->parts().points.cPoint[4].isVisible());
-    toolbox.chk_ShowPoints->click();
-    EXPECT_FALSE(form_->parts().points.cPointMover[1].isVisible());
-    const int before = grids;
-    toolbox.chk_ShowGrid->click();
-    EXPECT_EQ(grids, before + 1);
+    const auto shown = [&] {
+        const ShapePoints& points = form_->parts().points;
+        std::string seen = host().Element[1].isVisible() ? "element " : "";
+        if (anchors().Anchor[0]->isVisible()) seen += "handles ";
+        if (points.cPoint.Top() >= 4 && points.cPoint[4].isVisible()) seen += "lines ";
+        return seen + (points.cPointMover[1].isVisible() ? "corners" : "");
+    };
+    const struct {
+        QCheckBox* box;
+        bool ViewSwitches::*viewSwitch;
+        const char* shown;
+    } rows[] = {{toolbox.chk_ShowShape, &ViewSwitches::ShowShape, "element handles corners"},
+                {toolbox.chk_ShapeInverted, &ViewSwitches::ShapeInverted, "element handles corners"},
+                {toolbox.chk_ShowElements, &ViewSwitches::ShowElements, "corners"},
+                {toolbox.chk_ShowPoints, &ViewSwitches::ShowPoints, "element handles "},
+                {toolbox.chk_ShowLines, &ViewSwitches::ShowLines, "element handles lines corners"},
+                {toolbox.chk_ShowGrid, &ViewSwitches::ShowGrid, "element handles corners"},
+                {toolbox.chk_SnapGrid, &ViewSwitches::SnapGrid, "element handles corners"}};
+    for (const auto& row : rows) {
+        form_->SelectWithAnchors(host().Element[1]);
+        bool& viewSwitch = viewSwitches.*row.viewSwitch;
+        const bool before = viewSwitch;
+        const std::string name = row.box->text().toStdString();
+        EXPECT_EQ(row.box->isChecked(), before) << name;
+        const int painted = grids;
+        row.box->click();
+        EXPECT_EQ(viewSwitch, !before) << name;
+        EXPECT_EQ(shown(), row.shown) << name;
+        EXPECT_EQ(grids - painted, row.box == toolbox.chk_ShowGrid ? 1 : 0) << name;
+        row.box->click();
+        EXPECT_TRUE(viewSwitch == before && host().Element[1].isVisible()) << name;
+        const Raised placing = form_->parts().drag.Placing();
+        row.box->click();
+        EXPECT_EQ(viewSwitch, row.box == toolbox.chk_SnapGrid ? !before : before) << name;
+        viewSwitch = before;
+    }
+    EXPECT_FALSE(objSkin->Dirty);
 }
 
 TEST_F(ToolboxTest, ASpacingIsAWholeNumberFromOne) {
     const std::pair<const char*, int> rows[] = {{"abc", 1}, {"-5", 1},          {"012", 12}, {"0", 1},
                                                 {"25", 25}, {"99999999999", 1}, {"7.5", 8},  {" ", 1}};
-    for (const auto& [text, spacing] : rows) {
-        Type(toolbox.tbx_GridX, text);
-        EXPECT_EQ(viewSwitches.GridX, spacing) << text;
-        EXPECT_EQ(toolbox.tbx_GridX->text(), QString::number(spacing)) << text;
-    }
-    EXPECT_EQ(viewSwitches.GridY, 10);
-    Type(toolbox.tbx_GridY, "4");
-    EXPECT_EQ(viewSwitches.GridY, 4);
+    for (const bool across : {true, false})
+        for (const auto& [text, spacing] : rows) {
+            QLineEdit* box = across ? toolbox.tbx_GridX : toolbox.tbx_GridY;
+            box->setFocus();
+            viewSwitches.GridX = viewSwitches.GridY = 3;
+            box->setText(text);
+            QTest::keyClick(box, Qt::Key_Return);
+            EXPECT_EQ(across ? viewSwitches.GridX : viewSwitches.GridY, spacing) << text;
+            EXPECT_EQ(across ? viewSwitches.GridY : viewSwitches.GridX, 3) << text;
+            EXPECT_EQ(box->text(), QString::number(spacing)) << text;
+        }
     EXPECT_GT(grids, 0);
 }
 
-TEST_F(ToolboxTest, ItComesBackWhereItWas) {
+TEST_F(ToolboxTest, ItComesBackWhereItWasAndTheTabKeyVisitsAllByName) {
     EXPECT_EQ(toolbox.TwipBounds().left, 15);
     EXPECT_EQ(toolbox.TwipBounds().top, 765);
     toolbox.move(200, 120);
@@ -167,36 +159,7 @@ TEST_F(ToolboxTest, ItComesBackWhereItWas) {
     EXPECT_EQ(toolbox.TwipBounds().left, 3000);
     EXPECT_EQ(toolbox.TwipBounds().top, 765);
     EXPECT_EQ(toolbox.tbx_GridX->text(), "33");
-    EXPECT_EQ(toolbox.tbx_GridX->toolTip(), "Grid spacing in pixels, across");
     EXPECT_TRUE(toolbox.chk_SnapGrid->isChecked());
-}
-
-TEST_F(ToolboxTest, ADroppedSkinIsOpenedAndAFailureTold) {
-    Picture("back.bmp", Qt::blue);
-    const auto drop = [&](const QString& path) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent entering({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&toolbox, &entering);
-        QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&toolbox, &event);
-        return entering.isAccepted();
-    };
-    for (const char* other : {"back.bmp", "", "gone"}) EXPECT_FALSE(drop(Path(other))) << other;
-    EXPECT_EQ(windows_.opened, "");
-    ASSERT_TRUE(QFile::copy(Path("back.bmp"), Path("skinsettings.XML")));
-    for (const char* skin : {"", "skinsettings.XML"}) {
-        EXPECT_TRUE(drop(Path(skin))) << skin;
-        EXPECT_EQ(windows_.opened, Path(skin).toStdString());
-    }
-    EXPECT_TRUE(prompts_.asked.empty());
-    windows_.failure = "no such disk";
-    drop(Path(""));
-    ASSERT_EQ(prompts_.asked.size(), 1u);
-    EXPECT_EQ(prompts_.asked[0], "Loading Skin Error: no such disk");
-}
-
-TEST_F(ToolboxTest, TheTabKeyVisitsAllAndEachHasAName) {
     int visited = 0;
     for (QWidget* next = toolbox.nextInFocusChain(); next != &toolbox; next = next->nextInFocusChain()) {
         if (!(next->focusPolicy() & Qt::TabFocus)) continue;
@@ -205,6 +168,34 @@ TEST_F(ToolboxTest, TheTabKeyVisitsAllAndEachHasAName) {
         EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << next->objectName().toStdString();
     }
     EXPECT_EQ(visited, 16);
+}
+
+TEST_F(ToolboxTest, ADroppedSkinIsOpenedAndAFailureTold) {
+    Picture("back.bmp", Qt::blue);
+    Picture("look.bmp", Qt::blue);
+    ASSERT_TRUE(QFile::rename(Path("look.bmp"), Path("skinsettings.XML")));
+    const auto drop = [&](const QString& path) {
+        windows_.opened.clear();
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent entering({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&toolbox, &entering);
+        QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&toolbox, &event);
+        return entering.isAccepted();
+    };
+    for (const auto& [name, taken] : {std::pair{"back.bmp", false},
+                                      {"gone", false},
+                                      {"../settings", false},
+                                      {"", true},
+                                      {"skinsettings.XML", true}}) {
+        EXPECT_EQ(drop(Path(name)), taken) << name;
+        EXPECT_EQ(windows_.opened, taken ? Path(name).toStdString() : "");
+    }
+    EXPECT_TRUE(prompts_.asked.empty());
+    windows_.failure = "no such disk";
+    drop(Path(""));
+    EXPECT_EQ(prompts_.asked, std::vector<std::string>{"Loading Skin Error: no such disk"});
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <limits>
+
 #include "canvas/corner_math.h"
 #include "document/codes.h"
 
@@ -21,27 +21,24 @@ namespace {
 constexpr Grid Free = {}, Tens = {true, 10, 10}, Crossed = {true, 5, 20};
 
 TEST(DragStep, TheWayIsRelativeAndTheSpacingsAreCrossed) {
-    struct Case {
+    const struct {
         Point corner, way;
         int deadZone;
         Grid grid;
         std::optional<Point> to;
-    };
-    const Case cases[] = {{{13, 7}, {1, -1}, 1, Free, {}},
-                          {{13, 7}, {2, 0}, 1, Free, {{15, 7}}},
-                          {{13, 7}, {0, 0}, 0, Free, {}},
-                          {{-5, -9}, {-30, -40}, 1, Free, {{-35, -49}}},
-                          {{13, 7}, {5, 5}, 1, Tens, {{13, 7}}},  // half a step: none, yet it is a drag
-                          {{13, 7}, {11, 11}, 1, Crossed, {{33, 17}}},
-                          {{13, 7}, {-31, -31}, 1, Crossed, {{-27, -23}}},
-                          {{13, 7}, {4, 4}, 1, {true, 0, -3}, {{17, 11}}},
-                          {{32760, 0}, {20, 20}, 1, Free, {{32760, 20}}}};
-    for (const Case& c : cases)
-        EXPECT_EQ(DragStep(c.corner, c.way, c.deadZone, c.grid), c.to)
-            << c.corner << " by " << c.way << " snap " << c.grid.snap;
+    } cases[] = {{{13, 7}, {1, -1}, 1, Free, {}},
+                 {{13, 7}, {2, 0}, 1, Free, {{15, 7}}},
+                 {{13, 7}, {0, 0}, 0, Free, {}},
+                 {{-5, -9}, {-30, -40}, 1, Free, {{-35, -49}}},
+                 {{13, 7}, {5, 5}, 1, Tens, {{13, 7}}},  // half a step: none, yet it is a drag
+                 {{13, 7}, {11, 11}, 1, Crossed, {{33, 17}}},
+                 {{13, 7}, {-31, -31}, 1, Crossed, {{-27, -23}}},
+                 {{13, 7}, {4, 4}, 1, {true, 0, -3}, {{17, 11}}},
+                 {{32760, 0}, {20, 20}, 1, Free, {{32760, 20}}}};
+    for (const auto& c : cases) EXPECT_EQ(DragStep(c.corner, c.way, c.deadZone, c.grid), c.to) << c.way;
 }
 
-TEST(ResizeStep, EachHandleMovesItsSides) {
+TEST(ResizeStep, EachHandleMovesItsSidesAndSnappedOnesLandOnTheGrid) {
     const Rect from = {100, 200, 50, 40};
     const Rect to[] = {{107, 203, 43, 37}, {100, 203, 50, 37}, {100, 203, 57, 37}, {100, 200, 57, 40},
                        {100, 200, 57, 43}, {100, 200, 50, 43}, {107, 200, 43, 43}, {107, 200, 43, 40}};
@@ -49,106 +46,82 @@ TEST(ResizeStep, EachHandleMovesItsSides) {
         EXPECT_EQ(ResizeStep(handle, from, {7, 3}, Free), to[handle]) << handle;
         EXPECT_EQ(ResizeStep(handle, to[handle], {-7, -3}, Free), from) << handle << " back";
     }
-}
-
-TEST(ResizeStep, SnappedEdgesAndSizesLandOnTheGridEachByItself) {
-    struct Case {
+    const struct {
         int handle;
         Rect from;
         Point way;
         Grid grid;
         Rect to;
-    };
-    const Case cases[] = {{3, {13, 0, 40, 20}, {2, 0}, Tens, {13, 0, 40, 20}},
-                          {7, {13, 0, 40, 20}, {-7, 0}, Tens, {0, 0, 50, 20}},
-                          {7, {13, 0, 43, 20}, {0, 0}, Tens, {10, 0, 40, 20}},
-                          {5, {13, 13, 40, 45}, {0, 0}, Tens, {13, 13, 40, 40}},  // ties to even
-                          {1, {13, 15, 40, 35}, {0, -15}, Tens, {13, 0, 40, 60}},
-                          {0, {13, 17, 42, 38}, {6, 11}, Crossed, {20, 40, 35, 20}},
-                          {4, {13, 17, 42, 38}, {6, 11}, Crossed, {13, 17, 45, 60}}};
-    for (const Case& c : cases)
+    } cases[] = {{3, {13, 0, 40, 20}, {2, 0}, Tens, {13, 0, 40, 20}},
+                 {7, {13, 0, 40, 20}, {-7, 0}, Tens, {0, 0, 50, 20}},
+                 {7, {13, 0, 43, 20}, {0, 0}, Tens, {10, 0, 40, 20}},
+                 {5, {13, 13, 40, 45}, {0, 0}, Tens, {13, 13, 40, 40}},  // ties to even
+                 {1, {13, 15, 40, 35}, {0, -15}, Tens, {13, 0, 40, 60}},
+                 {0, {13, 17, 42, 38}, {6, 11}, Crossed, {20, 40, 35, 20}},
+                 {4, {13, 17, 42, 38}, {6, 11}, Crossed, {13, 17, 45, 60}},
+                 {3, {10, 10, 20, 20}, {-50, 0}, Free, {10, 10, 0, 20}},  // past the other side
+                 {7, {10, 10, 20, 20}, {50, 0}, Free, {60, 10, 0, 20}},
+                 {0, {10, 10, 20, 20}, {50, 90}, Tens, {60, 100, 0, 0}}};
+    for (const auto& c : cases)
         EXPECT_EQ(ResizeStep(c.handle, c.from, c.way, c.grid), c.to) << c.handle << " from " << c.from;
-}
-
-TEST(ResizeStep, PastTheOtherSideTheSizeIsNoneAndTheEdgeRunsOn) {
-    EXPECT_EQ(ResizeStep(3, {10, 10, 20, 20}, {-50, 0}, Free), (Rect{10, 10, 0, 20}));
-    EXPECT_EQ(ResizeStep(7, {10, 10, 20, 20}, {50, 0}, Free), (Rect{60, 10, 0, 20}));
-    EXPECT_EQ(ResizeStep(0, {10, 10, 20, 20}, {50, 90}, Tens), (Rect{60, 100, 0, 0}));
 }
 
 TEST(HandlePlaces, StandOutsideAndTheMiddleIsRounded) {
     const std::array<Point, 8> even = {
         {{3, 13}, {27, 13}, {50, 13}, {50, 32}, {50, 50}, {27, 50}, {3, 50}, {3, 32}}};
     EXPECT_EQ(HandlePlaces({10, 20, 40, 30}), even);
-    EXPECT_EQ(HandlePlaces({10, 20, 41, 33})[1].x, 28);  // 27.5
-    EXPECT_EQ(HandlePlaces({11, 20, 41, 33})[1].x, 28);  // 28.5
-    EXPECT_EQ(HandlePlaces({10, 20, 41, 33})[3].y, 34);  // 33.5
-    EXPECT_EQ(HandlePlaces({10, 20, 41, 35})[3].y, 34);  // 34.5
+    for (const int left : {10, 11}) EXPECT_EQ(HandlePlaces({left, 20, 41, 33})[1].x, 28);  // 27.5, 28.5
+    for (const int height : {33, 35}) EXPECT_EQ(HandlePlaces({10, 20, 41, height})[3].y, 34);
 }
 
 TEST(NudgeStep, PlainMovesShiftSizesByOneCtrlByTen) {
-    struct Case {
+    const struct {
         Point direction;
         int shift;
         Rect to;
-    };
-    const Case cases[] = {{{1, 0}, 0, {6, 5, 8, 10}},  {{0, -1}, 0, {5, 4, 8, 10}},
-                          {{1, 0}, 1, {5, 5, 9, 10}},  {{0, 1}, 1, {5, 5, 8, 11}},
-                          {{-1, 0}, 3, {5, 5, 7, 10}}, {{1, 0}, 2, {5, 5, 18, 10}},
-                          {{-1, 0}, 2, {5, 5, 8, 10}},  // it would fall below 0
-                          {{0, 1}, 6, {5, 5, 8, 20}},  {{0, 1}, 4, {5, 5, 8, 10}},
-                          {{0, -1}, 5, {5, 5, 8, 9}},  {{0, -1}, 2, {5, 5, 8, 0}}};
-    for (const Case& c : cases)
+    } cases[] = {{{1, 0}, 0, {6, 5, 8, 10}},  {{0, -1}, 0, {5, 4, 8, 10}}, {{1, 0}, 1, {5, 5, 9, 10}},
+                 {{0, 1}, 1, {5, 5, 8, 11}},  {{-1, 0}, 3, {5, 5, 7, 10}}, {{1, 0}, 2, {5, 5, 18, 10}},
+                 {{-1, 0}, 2, {5, 5, 8, 10}},  // it would fall below 0
+                 {{0, 1}, 6, {5, 5, 8, 20}},  {{0, 1}, 4, {5, 5, 8, 10}},  {{0, -1}, 5, {5, 5, 8, 9}},
+                 {{0, -1}, 2, {5, 5, 8, 0}}};
+    for (const auto& c : cases)
         EXPECT_EQ(NudgeStep({5, 5, 8, 10}, c.direction, c.shift), c.to) << c.direction << " with " << c.shift;
     for (const int shift : {1, 2, 4, 5}) EXPECT_EQ(CornerNudge({-1, 0}, shift), (Point{-10, 0})) << shift;
     EXPECT_EQ(CornerNudge({0, 1}, 0), (Point{0, 1}));
 }
 
-struct Step {
-    Point handle, down, pointer;
-    bool snap;
-    Point expected;
-};
-
 TEST(CornerMath, AStepFollowsThePointerOnTheCanvasAndOnTheGrid) {
-    constexpr Step Steps[] = {
-        {{50, 60}, {2, 2}, {7, -1}, false, {55, 57}},
-        {{0, 0}, {2, 2}, {-5, -9}, false, {-2, -2}},
-        {{790, 590}, {2, 2}, {60, 60}, false, {797, 597}},
-        {{50, 60}, {INT_MIN, 0}, {INT_MAX, 0}, false, {797, 60}},
-        // The grid is 10 by 20; steps across take its Y and steps down its X.
-        {{50, 60}, {0, 0}, {9, 4}, true, {50, 60}},
-        {{50, 60}, {0, 0}, {11, 6}, true, {70, 70}},
-        {{50, 60}, {0, 0}, {10, 5}, true, {50, 60}},   // half goes to the even number of steps
-        {{50, 60}, {0, 0}, {30, 15}, true, {90, 80}},  // one and a half are two
-        {{50, 60}, {0, 0}, {-30, -15}, true, {10, 40}},
-    };
-    for (const Step& step : Steps) {
-        const auto next = CornerStep({step.handle, step.down, step.pointer, step.snap, 10, 20, {800, 600}});
-        ASSERT_TRUE(next);
-        EXPECT_EQ(next->x, step.expected.x) << "pointer " << step.pointer.x << ", " << step.pointer.y;
-        EXPECT_EQ(next->y, step.expected.y) << "pointer " << step.pointer.x << ", " << step.pointer.y;
-    }
-    EXPECT_FALSE(CornerStep({{900, 900}, {3, 4}, {3, 4}, false, 10, 20, {800, 600}}));
+    const struct {
+        Point handle, down, pointer;
+        bool snap;  // to a grid of 10 by 20; steps across take its Y and steps down its X
+        std::optional<Point> to;
+    } steps[] = {{{50, 60}, {2, 2}, {7, -1}, false, {{55, 57}}},
+                 {{0, 0}, {2, 2}, {-5, -9}, false, {{-2, -2}}},
+                 {{790, 590}, {2, 2}, {60, 60}, false, {{797, 597}}},
+                 {{50, 60}, {INT_MIN, 0}, {INT_MAX, 0}, false, {{797, 60}}},
+                 {{900, 900}, {3, 4}, {3, 4}, false, {}},
+                 {{50, 60}, {0, 0}, {9, 4}, true, {{50, 60}}},
+                 {{50, 60}, {0, 0}, {11, 6}, true, {{70, 70}}},
+                 {{50, 60}, {0, 0}, {10, 5}, true, {{50, 60}}},   // half goes to the even number of steps
+                 {{50, 60}, {0, 0}, {30, 15}, true, {{90, 80}}},  // one and a half are two
+                 {{50, 60}, {0, 0}, {-30, -15}, true, {{10, 40}}}};
+    for (const auto& s : steps)
+        EXPECT_EQ(CornerStep({s.handle, s.down, s.pointer, s.snap, 10, 20, {800, 600}}), s.to) << s.pointer;
 }
 
-TEST(CornerMath, ANewPointKeepsToAnEdgeNearby) {
-    struct Row {
-        int at, before, expected;
-    };
-    constexpr Row Rows[] = {
-        {99, AlignEnd, AlignStart},        {100, AlignMiddle, AlignMiddle}, {100, AlignEnd, AlignEnd},
-        {700, AlignStretch, AlignStretch}, {701, AlignStart, AlignEnd},     {-5, AlignEnd, AlignStart},
-    };
-    for (const Row& row : Rows) EXPECT_EQ(AlignOfNewPoint(row.at, 800, row.before), row.expected) << row.at;
-}
-
-TEST(CornerMath, ASideIsHotOverItsBoxAndThreePixelsMore) {
+TEST(CornerMath, ANewPointKeepsToAnEdgeNearbyAndASideIsHotThreePixelsRound) {
+    for (const auto& [at, before, align] : {std::tuple{99, AlignEnd, AlignStart},
+                                            {100, AlignMiddle, AlignMiddle},
+                                            {100, AlignEnd, AlignEnd},
+                                            {700, AlignStretch, AlignStretch},
+                                            {701, AlignStart, AlignEnd},
+                                            {-5, AlignEnd, AlignStart}})
+        EXPECT_EQ(AlignOfNewPoint(at, 800, before), align) << at;
     constexpr Point From = {300, 300}, To = {0, 0};
     for (const Point hot : {Point{300, 0}, {-3, -3}, {303, 303}, {150, 20}})
-        EXPECT_TRUE(IsNearSide(hot, From, To)) << hot.x << ", " << hot.y;
+        EXPECT_TRUE(IsNearSide(hot, From, To)) << hot;
     for (const Point cold : {Point{-4, 0}, {304, 300}, {10, 304}})
-        EXPECT_FALSE(IsNearSide(cold, From, To)) << cold.x << ", " << cold.y;
+        EXPECT_FALSE(IsNearSide(cold, From, To)) << cold;
     EXPECT_TRUE(IsNearSide({0, 0}, {INT_MIN, INT_MIN}, {INT_MAX, INT_MAX}));
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/picture_items.h"
 
-#include <QFileInfo>
-
 #include "canvas/anchors.h"
 #include "canvas/element_menu.h"
 #include "document/codes.h"
@@ -58,29 +56,20 @@ TEST_F(PictureItemsTest, TheBackgroundBecomesThePictureWithoutTheElementAndTheTo
     EXPECT_TRUE(IsNear(form_->grab({110, 130, 1, 1}).toImage().pixelColor(0, 0), Qt::red));
 }
 
-TEST_F(PictureItemsTest, ANewSkinHasItsFolderThen) {
-    dbLayoutElement& green = AddGreenOverRed();
-    objSkin->SkinName = "New";
-    mnuElementSub_Click(form_->parts(), MenuBackgroundPicture);
-    EXPECT_TRUE(QFileInfo(Path("../New/") + green.PicNormal.c_str()).isFile());
-}
-
-TEST_F(PictureItemsTest, BeyondTheCanvasThePictureIsBlack) {
+TEST_F(PictureItemsTest, BeyondTheCanvasThePictureIsBlackAndANewSkinHasItsFolderThen) {
     dbLayoutElement& green = AddGreenOverRed();
     green.LeftX = -20;
     Compose();
+    objSkin->SkinName = "New";
     mnuElementSub_Click(form_->parts(), MenuBackgroundPicture);
-    const QImage made(Path(green.PicNormal.c_str()));
+    const QImage made(Path("../New/") + green.PicNormal.c_str());
     ASSERT_EQ(made.size(), QSize(40, 40));
     EXPECT_TRUE(IsNear(made.pixelColor(5, 20), Qt::black));
     EXPECT_FALSE(IsNear(made.pixelColor(35, 20), Qt::black));
-}
-
-TEST_F(PictureItemsTest, WhereNothingCanBeWrittenNothingChanges) {
-    dbLayoutElement& green = AddGreenOverRed();
     objSkin->SetBasePath(Path("green.bmp").toStdString());
+    green.PicNormal = "green.bmp";
     mnuElementSub_Click(form_->parts(), MenuBackgroundPicture);
-    EXPECT_EQ(green.PicNormal, "green.bmp");
+    EXPECT_EQ(green.PicNormal, "green.bmp") << "where nothing can be written nothing changes";
     EXPECT_TRUE(host().Element[2].isVisible());
 }
 

@@ -48,32 +48,26 @@ TEST_F(SampleClicksTest, AClickOpensItsFamilyWithoutHandles) {
     }
 }
 
-TEST_F(SampleClicksTest, WhatOnlyAdornsThePanelLeavesThePressToIt) {
-    const QPoint betweenKeys =
-        host().sample.pKeyb.mapTo(form_.get(), QPoint(host().sample.KeyU.geometry().right() + 2, 9));
-    const QPoint shadow =
-        host().sample.but_Shadow.mapTo(form_.get(), host().sample.but_Shadow.rect().bottomRight());
-    for (const QPoint& at : {betweenKeys, shadow}) {
+TEST_F(SampleClicksTest, WhatOnlyAdornsThePanelLeavesThePressToItWhoseSizeAllFollow) {
+    const SamplePanel& sample = host().sample;
+    for (const QPoint& at : {sample.pKeyb.mapTo(form_.get(), QPoint(sample.KeyU.geometry().right() + 2, 9)),
+                             sample.but_Shadow.mapTo(form_.get(), sample.but_Shadow.rect().bottomRight())}) {
         anchors().ResetSelection();
         Click(at.x(), at.y());
         EXPECT_EQ(SelKey(), "Main");
     }
-    const QPoint song = In(host().sample.but_Song);
+    const QPoint song = In(sample.but_Song);
     anchors().ResetSelection();
     Press(song.x(), song.y());
     Release(Bare.x(), Bare.y());
     EXPECT_EQ(SelControl(), nullptr) << "released elsewhere";
-}
-
-TEST_F(SampleClicksTest, TheSampleFollowsThePanelsSize) {
-    const Rect keys = host().sample.pKeyb.Bounds();
+    const Rect keys = sample.pKeyb.Bounds();
     Click(Bare.x(), Bare.y());
-    const QPoint corner = In(*anchors().Anchor[4]);
-    Drag(corner, {-40, -60});
-    EXPECT_EQ(host().sample.pKeyb.Bounds(), (Rect{keys.left, keys.top - 60, keys.width, keys.height}));
-    EXPECT_EQ(host().sample.lbl_SL[27].Bounds().top, 26 * (439 / 26));
+    Drag(In(*anchors().Anchor[4]), {-40, -60});
+    EXPECT_EQ(sample.pKeyb.Bounds(), (Rect{keys.left, keys.top - 60, keys.width, keys.height}));
+    EXPECT_EQ(sample.lbl_SL[27].Bounds().top, 26 * (439 / 26));
     Key(Qt::Key_Up, Qt::ShiftModifier);
-    EXPECT_EQ(host().sample.pKeyb.Bounds().top, keys.top - 61);
+    EXPECT_EQ(sample.pKeyb.Bounds().top, keys.top - 61) << "the sample follows the panel's size";
 }
 
 }  // namespace
