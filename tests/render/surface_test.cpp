@@ -24,6 +24,11 @@ protected:
         surface_.Paint(painter, image.rect());
         return image;
     }
+    static dbPoint& AddPoint(int order, const Point& at) {
+        dbPoint& point = *objCurrentLayout->dbPoints->Add(order);
+        point.X = at.x, point.Y = at.y;
+        return point;
+    }
     void SetBackground(const char* name) { objSkin->dbSkinPrefs->Item("SP_BackgroundPicture")->value = name; }
     Surface surface_;
 };
@@ -66,23 +71,15 @@ TEST_F(SurfaceTest, ABackgroundThatIsGoneLeavesEverythingAsItWas) {
     EXPECT_EQ(Shown().pixelColor(50, 20), Ground);
     SetBackground("");
     EXPECT_EQ(Shown().pixelColor(9, 9), Ground);
-}
-
-TEST_F(SurfaceTest, AShapeWithoutAPlaceLeavesTheNewBackground) {
-    Picture("back.bmp", Qt::blue, 10, 10);
     SetBackground("back.bmp");
     viewSwitches.ShowShape = true;
-    const dbPointRef point = objCurrentLayout->dbPoints->Add(1);
-    point->X = std::numeric_limits<std::int32_t>::max();
-    point->HAlign = AlignStretch;
-    EXPECT_EQ(Shown().pixelColor(9, 9), QColor(Qt::blue));
+    AddPoint(1, {std::numeric_limits<std::int32_t>::max(), 0}).HAlign = AlignStretch;
+    EXPECT_EQ(Shown().pixelColor(9, 9), QColor(Qt::blue)) << "nor does a shape without a place";
 }
 
 TEST_F(SurfaceTest, TheOverlayDimsOneSideAndItsLineShowsOnBlackAndOnWhite) {
-    for (const auto& [order, x, y] : {std::tuple{1, 20, 20}, {2, 20, 60}, {3, 60, 60}, {4, 60, 20}}) {
-        const dbPointRef point = objCurrentLayout->dbPoints->Add(order);
-        point->X = x, point->Y = y;
-    }
+    for (const auto& [order, at] : {std::pair{1, Point{20, 20}}, {2, {20, 60}}, {3, {60, 60}}, {4, {60, 20}}})
+        AddPoint(order, at);
     viewSwitches.ShowGrid = false;
     viewSwitches.ShowShape = true;
     for (const bool inverted : {false, true}) {
@@ -107,36 +104,19 @@ TEST_F(SurfaceTest, TheOverlayDimsOneSideAndItsLineShowsOnBlackAndOnWhite) {
     }
 }
 
-TEST(ShapeRegion, CornersFarAwayCostNothingAndChangeNothingInTheWindow) {
+TEST_F(SurfaceTest, CornersFarAwayCostNothingAndChangeNothingInTheWindow) {
     constexpr int most = 3'000'000;
-    const struct {
-        std::vector<Point> corners;
-        QRegion seen;
-    } rows[] = {
+    const std::pair<std::vector<Point>, QRegion> rows[] = {
         {{{-most, 40}, {most, 40}, {most, -most}, {-most, -most}}, QRegion(0, 0, 100, 40)},
         {{{0, 0}, {most, 0}, {0, most}}, QRegion(0, 0, 100, 80)},
-        {{{-most, -most},
-          {most, -most},
-          {most, most},
-          {-most, most},
-          {-most, -most},
-          {20, 20},
-          {20, 60},
-          {70, 60},
-          {70, 20},
-          {20, 20}},
-         QRegion(0, 0, 100, 80).subtracted(QRegion(20, 20, 50, 40))},
-        {{{10, -300}, {30, -300}, {30, 300}, {10, 300}}, QRegion(10, 0, 20, 80)},
-    };
-    for (const auto& row : rows) {
-        dbLayout layout;
-        for (const Point& corner : row.corners) {
-            const dbPointRef point = layout.dbPoints->Add(static_cast<int>(layout.dbPoints->Count()) + 1);
-            point->X = corner.x, point->Y = corner.y;
-        }
-        const QRegion region = ShapeRegion(layout, {100, 80, 100, 80});
+        {{{40, -most}, {40, most}, {-most, most}, {-most, -most}}, QRegion(0, 0, 40, 80)},
+        {{{10, -300}, {30, -300}, {30, 300}, {10, 300}}, QRegion(10, 0, 20, 80)}};
+    for (const auto& [corners, seen] : rows) {
+        objCurrentLayout->dbPoints = std::make_shared<dbPoints>();
+        for (const Point& corner : corners) AddPoint(objCurrentLayout->dbPoints->Count() + 1, corner);
+        const QRegion region = ShapeRegion(*objCurrentLayout, {100, 80, 100, 80});
         EXPECT_LT(region.boundingRect().height(), 10'000);
-        EXPECT_EQ(region.intersected(QRect(0, 0, 100, 80)), row.seen) << row.corners.size();
+        EXPECT_EQ(region.intersected(QRect(0, 0, 100, 80)), seen) << corners[0].x;
     }
 }
 
