@@ -15,11 +15,20 @@
 namespace ornavo::testing {
 namespace {
 
-class HalfPastNine : public Clock {
+/// Half past nine, but out of order where a test says so.
+class SmallClock : public Clock {
 public:
-    HalfPastNine() { UseClock(this); }
-    ~HalfPastNine() override { UseClock(nullptr); }
-    QDateTime Now() const override { return {QDate(2020, 2, 3), QTime(9, 30, 0)}; }
+    SmallClock() { UseClock(this); }
+    ~SmallClock() override { UseClock(nullptr); }
+    QDateTime Now() const override {
+        if (fails) throw Failure(5, "Clock", "no clock");
+        return {QDate(2020, 2, 3), QTime(9, 30, 0)};
+    }
+    bool fails = false;
+};
+
+struct CornerRow {
+    int x, hAlign, y, vAlign;
 };
 
 class PreviewTest : public SkinTest {
@@ -39,9 +48,12 @@ protected:
         painter.drawImage(0, 0, picture);
         return cut;
     }
-    void Corner(std::int32_t x, std::int32_t hAlign, std::int32_t y, std::int32_t vAlign) {
-        dbPoint& point = *objCurrentLayout->dbPoints->Add(objCurrentLayout->dbPoints->Count() + 1);
-        point.X = x, point.HAlign = hAlign, point.Y = y, point.VAlign = vAlign;
+    static void SetCorners(const std::vector<CornerRow>& corners) {
+        objCurrentLayout->dbPoints = std::make_shared<dbPoints>();
+        for (const CornerRow& c : corners) {
+            dbPoint& point = *objCurrentLayout->dbPoints->Add(objCurrentLayout->dbPoints->Count() + 1);
+            point.X = c.x, point.HAlign = c.hAlign, point.Y = c.y, point.VAlign = c.vAlign;
+        }
     }
     QByteArray Saved() const {
         objSkin->SaveSkin(false);
@@ -49,6 +61,8 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
+    SmallClock clock_;
+    ScriptedPrompts prompts_;
     RecordedWindows windows_;
     std::unique_ptr<frm_Preview> preview_;
 };
@@ -64,18 +78,9 @@ bool Inside(const QPolygon& shape, int x, int y) {
     return inside;
 }
 
-struct CornerRow {
-    int x, hAlign, y, vAlign;
-};
-struct ShapeCase {
-    const char* name;
-    bool leavesWhole;
-    std::vector<CornerRow> corners;
-};
 // The sides are upright, level or at half a right angle, so that each pixel's side is beyond doubt.
-const ShapeCase Shapes[] = {
-    {"convex",
-     false,
+const std::pair<bool, std::vector<CornerRow>> Shapes[] = {
+    {true,
      {{20, 0, 0, 0},
       {20, 2, 0, 0},
       {0, 2, 20, 0},
@@ -84,19 +89,16 @@ const ShapeCase Shapes[] = {
       {20, 0, 0, 2},
       {0, 0, 20, 2},
       {0, 0, 20, 0}}},
-    {"concave",
-     false,
+    {true,
      {{0, 0, 0, 0}, {30, 0, 0, 0}, {60, 0, 30, 0}, {60, 0, 0, 0}, {0, 2, 0, 0}, {0, 2, 0, 2}, {0, 0, 0, 2}}},
-    {"crossing", false, {{0, 3, 0, 3}, {100, 3, 100, 3}, {100, 3, 0, 3}, {0, 3, 100, 3}}},
-    {"two points", true, {{0, 0, 0, 0}, {0, 2, 0, 2}}},
-    {"flat", true, {{0, 0, 0, 0}, {50, 0, 50, 0}, {99, 0, 99, 0}}},
-    {"elsewhere", true, {{-90, 0, 0, 0}, {-10, 0, 0, 0}, {-10, 0, 80, 0}, {-90, 0, 80, 0}}},
-};
+    {true, {{0, 3, 0, 3}, {100, 3, 100, 3}, {100, 3, 0, 3}, {0, 3, 100, 3}}},      // its sides cross
+    {false, {{0, 0, 0, 0}, {0, 2, 0, 2}}},                                         // two points
+    {false, {{0, 0, 0, 0}, {50, 0, 50, 0}, {99, 0, 99, 0}}},                       // flat
+    {false, {{-90, 0, 0, 0}, {-10, 0, 0, 0}, {-10, 0, 80, 0}, {-90, 0, 80, 0}}}};  // elsewhere
 
 TEST_F(PreviewTest, TheWindowHasTheShapeAtEverySize) {
-    for (const ShapeCase& one : Shapes) {
-        while (objCurrentLayout->dbPoints->Count() > 0) objCurrentLayout->dbPoints->Remove(1);
-        for (const CornerRow& c : one.corners) Corner(c.x, c.hAlign, c.y, c.vAlign);
+    for (const auto& [cuts, corners] : Shapes) {
+        SetCorners(corners);
         Open();
         for (const int size : {100, 160, 300, 0}) {
             if (size > 0)
@@ -104,31 +106,53 @@ TEST_F(PreviewTest, TheWindowHasTheShapeAtEverySize) {
             else
                 preview_->ToggleMaximise();
             QCoreApplication::processEvents();
+            ASSERT_EQ(preview_->mask().isEmpty(), !cuts) << &corners - &Shapes[0].second;
+            if (!cuts) continue;
             const QPolygon shape =
                 ShapePolygon(*objCurrentLayout, {preview_->width(), preview_->height(), 100, 100}, true);
-            ASSERT_EQ(preview_->mask().isEmpty(), one.leavesWhole) << one.name;
-            if (one.leavesWhole) continue;
             QImage solid(preview_->size(), QImage::Format_ARGB32_Premultiplied);
             solid.fill(Qt::white);
             const QImage cut = Cut(solid);
             for (int y = 0; y < cut.height(); ++y)
                 for (int x = 0; x < cut.width(); ++x)
                     ASSERT_EQ(qAlpha(cut.pixel(x, y)) != 0, Inside(shape, x, y))
-                        << one.name << size << ' ' << x << ' ' << y;
+                        << size << ' ' << x << ' ' << y;
         }
     }
 }
 
 TEST_F(PreviewTest, AShapeThatCantBePlacedLeavesTheWindowWhole) {
-    for (const CornerRow& c :
-         {CornerRow{0, 0, 0, 0}, {50, 0, 90, 0}, {std::numeric_limits<int>::max(), 1, 0, 0}})
-        Corner(c.x, c.hAlign, c.y, c.vAlign);
+    SetCorners({{0, 0, 0, 0}, {50, 0, 90, 0}, {std::numeric_limits<int>::max(), 1, 0, 0}});
     Open();
     preview_->ShowOutline({90, 90});
     ASSERT_FALSE(preview_->mask().isEmpty());
     EXPECT_EQ(FailureNumber([&] { preview_->ShowOutline({700, 700}); }), 6);
     preview_->EndOutline();
     EXPECT_TRUE(preview_->mask().isEmpty());
+}
+
+TEST_F(PreviewTest, WhatCantBeComposedIsToldAndTheRestIsShown) {
+    objSkin->SkinWidth = 0;
+    dbLayoutElement& scaled = Add("scaled", TypeButton, {0, 0, 10, 10});
+    scaled.LockLeft = false;
+    scaled.StretchWidth = true;
+    Add("good", TypeButton, {5, 6, 10, 11});
+    Open();
+    EXPECT_EQ(prompts_.asked.size(), 1u);
+    EXPECT_TRUE(preview_->isVisible() && preview_->tmrScroller.isActive());
+    EXPECT_EQ(preview_->host().Element[1].Bounds(), (Rect{5, 6, 10, 11}));
+    EXPECT_EQ(preview_->host().Element.Top(), 1);
+}
+
+TEST_F(PreviewTest, OneThatCantBeOpenedIsNotSeenAndCanBeLeft) {
+    clock_.fails = true;
+    EXPECT_EQ(FailureNumber([&] { Open(); }), 5);
+    EXPECT_FALSE(preview_->isVisible() || preview_->tmrScroller.isActive() ||
+                 preview_->tmrSeekerDemo.isActive() || preview_->tmrTip.isActive());
+    EXPECT_EQ(windows_.left, 0) << "who asked is told by the failure";
+    clock_.fails = false;
+    Open();
+    EXPECT_TRUE(preview_->isVisible() && preview_->tmrSeekerDemo.isActive());
 }
 
 TEST_F(PreviewTest, IsLeftByKeysAndKeepsItsPlace) {
@@ -157,18 +181,15 @@ TEST_F(PreviewTest, IsLeftByKeysAndKeepsItsPlace) {
 }
 
 TEST_F(PreviewTest, TheFirstFrameIsTheToolsPicture) {
-    const HalfPastNine clock;
     Picture("on.bmp", Qt::green, 40, 10);
     Picture("off.bmp", Qt::blue, 40, 10);
-    const int types[] = {1, 17, 5, 0};
-    for (int i = 0; i < 4; ++i) {
-        dbLayoutElement& e = Add(("I" + std::to_string(i)).c_str(), TypeInfo, {10, 10 + 20 * i, 80, 18});
-        e.InfoType = types[i], e.PicNormal = "off.bmp", e.PicOn = "on.bmp", e.Seeker = i == 3,
-        e.CapScrollSpeed = 2;
-        e.InfoField = "Label", e.Caption = "Old", e.SeekerColor = 255;
+    for (int i = 0; const int type : {1, 17, 5, 0}) {
+        dbLayoutElement& e = Add(("I" + std::to_string(type)).c_str(), TypeInfo, {10, 10 + 20 * i++, 80, 18});
+        e.InfoType = type, e.PicNormal = "off.bmp", e.PicOn = "on.bmp", e.Seeker = type == 0;
+        e.CapScrollSpeed = 2, e.InfoField = "Label", e.Caption = "Old", e.SeekerColor = 255;
     }
     Add("Dial", TypeVolume, {80, 80, 20, 20}).PicNormal = "on.bmp";
-    for (const CornerRow& c : Shapes[0].corners) Corner(c.x, c.hAlign, c.y, c.vAlign);
+    SetCorners(Shapes[0].second);
     Open();  // a composition gives fonts to those that have none
     preview_->close();
     const QByteArray before = Saved();

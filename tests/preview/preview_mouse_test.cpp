@@ -48,29 +48,24 @@ protected:
 };
 
 TEST_F(PreviewMouseTest, ButtonsAct) {
-    struct Case {
-        int type, action;
-        double value;
-        int volume;
-        const char* done;
-    };
-    for (const Case& one :
-         {Case{TypeButton, 10, 10.5, 138, ""}, Case{TypePicture, 11, 200, 0, ""},
-          Case{TypeButton, 10, 0, 128, ""}, Case{TypeButton, 13, 0, 128, "unload "},
-          Case{TypeButton, 14, 0, 128, "toggle "}, Case{TypeButton, 15, 0, 128, "minimise "},
-          Case{TypeVolume, 13, 0, 128, ""}, Case{TypeButton, 10, 1e12, 128, ""}}) {
-        Control& control = Hosted(Element("B", one.type, one.action, one.value));
+    for (const auto& [type, action, value, volume, done] : {std::tuple{TypeButton, 10, 10.5, 138, ""},
+                                                            {TypePicture, 11, 200.0, 0, ""},
+                                                            {TypeButton, 10, 0.0, 128, ""},
+                                                            {TypeButton, 13, 0.0, 128, "unload "},
+                                                            {TypeButton, 14, 0.0, 128, "toggle "},
+                                                            {TypeButton, 15, 0.0, 128, "minimise "},
+                                                            {TypeVolume, 13, 0.0, 128, ""},
+                                                            {TypeButton, 10, 1e12, 128, ""}}) {
+        Control& control = Hosted(Element("B", type, action, value));
         infos_.Volume = VolumeStart;
         window_.done.clear();
         mouse_.MouseDown(control, {Left, 0, 1, 1, 0, 0});
         mouse_.MouseUp(control, {Left, 0, 1, 1, 0, 0});
-        EXPECT_EQ(infos_.Volume, one.volume) << one.type << ' ' << one.action;
-        EXPECT_EQ(window_.done, one.done) << one.type << ' ' << one.action;
+        EXPECT_EQ(infos_.Volume, volume) << type << ' ' << action;
+        EXPECT_EQ(window_.done, done) << type << ' ' << action;
         mouse_.Repeat(control);  // of a volume button alone
-        EXPECT_EQ(window_.done, one.done);
-        if (one.value == 10.5) {
-            EXPECT_EQ(infos_.Volume, 148);
-        }
+        EXPECT_EQ(window_.done, done);
+        EXPECT_EQ(infos_.Volume, value == 10.5 ? 148 : volume);
         objCurrentLayout->dbLayoutElements->Remove("B");
     }
 }
@@ -99,14 +94,12 @@ TEST_F(PreviewMouseTest, AResizerStopsAtTheLeastSize) {
     dbLayoutElement& grip = Element("R", TypeButton);
     grip.Resizer = true;
     Control& control = Hosted(grip);
-    window_.maximised = true;
-    mouse_.MouseDown(control, {Left, 0, 5, 5, 0, 0});
-    mouse_.MouseMove(control, {Left, 0, 9, 9, 0, 0});
-    EXPECT_FALSE(window_.outline.isValid());
-    window_.maximised = false;
-    mouse_.MouseDown(control, {Left, 0, 5, 5, 0, 0});
-    mouse_.MouseMove(control, {Left, 0, 45, -15, 0, 0});
-    EXPECT_EQ(window_.outline, QSize(840, 680));
+    for (const bool maximised : {true, false}) {
+        window_.maximised = maximised;
+        mouse_.MouseDown(control, {Left, 0, 5, 5, 0, 0});
+        mouse_.MouseMove(control, {Left, 0, 45, -15, 0, 0});
+        EXPECT_EQ(window_.outline, maximised ? QSize() : QSize(840, 680));
+    }
     mouse_.MouseMove(control, {Left, 0, -900, -95, 0, 0});
     EXPECT_EQ(window_.outline, QSize(600, 600));
     mouse_.MouseUp(control, {Left, 0, 5, 5, 0, 0});
