@@ -10,8 +10,8 @@ namespace ornavo {
 
 namespace {
 
-/// The system colours 0 to 30 of the classic grey desktop. Always these, whatever the user's desktop
-/// looks like, so that a skin looks the same to everybody.
+/// The system colours 0 to 30 of the classic grey desktop. The user's own desktop colours are never asked
+/// for, so that a skin looks the same on every computer.
 constexpr std::array<Colour, 31> SystemColours = {
     Rgb(0xD4, 0xD0, 0xC8),  // 0 scroll bar
     Rgb(0x3A, 0x6E, 0xA5),  // 1 desktop
@@ -38,7 +38,7 @@ constexpr std::array<Colour, 31> SystemColours = {
     Rgb(0xD4, 0xD0, 0xC8),  // 22 light edge
     Rgb(0x00, 0x00, 0x00),  // 23 tool tip text
     Rgb(0xFF, 0xFF, 0xE1),  // 24 tool tip
-    Rgb(0xB5, 0xB5, 0xB5),  // 25 alternate face, without a use of its own
+    Rgb(0xB5, 0xB5, 0xB5),  // 25 alternate face, unused
     Rgb(0x00, 0x00, 0x80),  // 26 link
     Rgb(0xA6, 0xCA, 0xF0),  // 27 far end of the active title bar
     Rgb(0xC0, 0xC0, 0xC0),  // 28 far end of the inactive title bar

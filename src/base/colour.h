@@ -27,12 +27,12 @@ constexpr int BlueOf(Colour c) {
 
 inline constexpr Colour ButtonFace = ColourOf(0x8000000F);
 
-/// The plain colour 0x00BBGGRR of any colour value; system colours by the fixed table of classic
-/// values, -1 where there is no such system colour or the high byte is otherwise set.
+/// The plain colour 0x00BBGGRR of any colour value. A system colour is looked up in a fixed table of the
+/// classic values. -1 for an unknown system colour or any other value above 0xFFFFFF.
 Colour TranslateColor(Colour colour);
 
-/// Mixes two colours, each translated first: alpha 255 gives `one`, 0 gives `two`. Per channel in real
-/// numbers, rounded half to even.
+/// Mixes two colours, each translated first: alpha 255 gives `one`, 0 gives `two`. Each channel is computed
+/// in floating point and rounded half to even.
 Colour BlendColor(Colour one, Colour two, int alpha);
 
 }  // namespace ornavo

@@ -8,6 +8,7 @@
 namespace ornavo {
 namespace {
 
+/// The usual description of a failure number.
 struct Usual {
     Failure::Number number;
     const char* description;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A failure as a value that travels, and flags that are held up by scope.
+// The program's exception, a way to ignore it, and a flag that is set for the length of a scope.
 #pragma once
 
 #include <exception>
@@ -8,7 +8,7 @@
 
 namespace ornavo {
 
-/// What went wrong, where and why.
+/// An error that a routine throws: its number, the source that threw it and a description for the user.
 class Failure : public std::exception {
 public:
     enum Number {
@@ -22,13 +22,13 @@ public:
         FileExists = 58,
         DiskFull = 61,
         PathError = 75,
-        NothingSet = 91,  // an object that isn't there
+        NothingSet = 91,  // an object that does not exist
         InvalidValue = 380,
         NoSuchField = 438,
         DuplicateKey = 457,
-        Own = 513  // of the program itself
+        Own = 513  // the program's own errors
     };
-    /// With the usual description of the number.
+    /// Takes the number's usual description; empty where it has none.
     Failure(Number number, std::string source);
     Failure(int number, std::string source, std::string description)
         : number_(number), source_(std::move(source)), description_(std::move(description)) {}
@@ -43,8 +43,8 @@ private:
     std::string description_;
 };
 
-/// Runs one statement. A Failure in it skips the rest of the statement and is dropped; the result says
-/// whether the statement ran to its end. Only for failures that are declared ignored.
+/// Runs one statement. A Failure in it skips the rest of the statement and is dropped. Returns whether the
+/// statement ran to its end. Only for failures that are meant to be ignored.
 template <class Statement>
 bool Attempt(Statement&& statement) {
     try {
@@ -55,7 +55,7 @@ bool Attempt(Statement&& statement) {
     }
 }
 
-/// Holds a flag up while it lives and puts it back as it was.
+/// Sets a flag while it lives and then restores the flag's former value.
 class Raised {
 public:
     explicit Raised(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }

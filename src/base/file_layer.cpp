@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The few calls that the systems spell differently.
+/// The system calls whose names differ between systems.
 namespace disk {
 #ifdef _WIN32
 int Create(const fs::path& path) {
@@ -43,12 +43,12 @@ int Close(int file) {
 }
 int FlushFolder(const fs::path&) {
     return 0;
-}  // a rename is flushed by itself
+}  // Windows flushes a rename by itself
 #else
 int Create(const fs::path& path) {
     return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
 }
-// Not blocking: opening a pipe would wait for its other end.
+// Not blocking, because opening a pipe would wait for its other end.
 int Open(const fs::path& path) {
     return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
 }
@@ -96,7 +96,7 @@ Failure Refused(int reason) {
     return Failure(NumberOf(reason), "Files", std::generic_category().message(reason));
 }
 
-/// Some file systems can't flush; that is no reason to refuse a save.
+/// Some file systems cannot flush, which is no reason to refuse a save.
 bool CannotFlush(int reason) {
     return reason == EINVAL || reason == ENOTSUP || reason == EROFS;
 }
@@ -182,7 +182,7 @@ std::size_t FileLayer::ReadSome(int file, char* bytes, std::size_t size) {
 std::string FileLayer::Read(const fs::path& path) {
     const InFile file(path);
     std::error_code error;
-    const std::uintmax_t expected = fs::file_size(path, error);  // a hint alone: the file may be growing
+    const std::uintmax_t expected = fs::file_size(path, error);  // only a hint: the file may be growing
     std::string bytes;
     for (std::size_t size = 0, count = 1; count > 0; bytes.resize(size += count)) {
         bytes.resize(size > 0 || error ? size + Chunk : static_cast<std::size_t>(expected) + 1);

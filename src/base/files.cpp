@@ -30,7 +30,7 @@ int ProcessId() {
 }
 bool IsRunning(int) {
     return true;
-}  // nothing is removed that may be in use
+}  // so that no file in use is removed
 #else
 int ProcessId() {
     return ::getpid();
@@ -44,7 +44,7 @@ std::string Quoted(const fs::path& path) {
     return "\"" + ToText(path) + "\"";
 }
 
-/// Runs a step on a file; a failure then says which file and what became impossible.
+/// Runs an operation on a file; a failure of it then names the file and what could not be done.
 template <class Step>
 auto Named(const fs::path& path, const char* done, Step&& step) {
     try {
@@ -55,7 +55,7 @@ auto Named(const fs::path& path, const char* done, Step&& step) {
     }
 }
 
-/// Where the path leads when it is a link, or a chain of them; a link to what isn't there yet counts.
+/// Where the path leads if it is a link or a chain of links. The last target need not exist.
 fs::path BehindLinks(fs::path path) {
     std::error_code error;
     for (int hops = 0; hops < 40 && fs::is_symlink(fs::symlink_status(path, error)); ++hops) {
@@ -66,10 +66,10 @@ fs::path BehindLinks(fs::path path) {
     return path;
 }
 
-// Between them stand the process that writes the file, "-" and a number of its own.
+// Between these two parts of the name are the process id, "-" and a random number.
 constexpr std::string_view ScratchStart = ".ornavo-", ScratchEnd = ".tmp";
 
-/// A file beside the target that takes its place at the end, or disappears.
+/// A new file beside the target. It either replaces the target or is removed.
 class Scratch {
 public:
     explicit Scratch(const fs::path& target) : target_(target) {
@@ -97,16 +97,16 @@ public:
     void TakePlace() {
         fileLayer().Flush(file_);
         const int file = file_;
-        file_ = -1;  // a failing close has closed it all the same
+        file_ = -1;  // even a close that fails has closed the file
         fileLayer().Close(file);
         fileLayer().Rename(path_, target_);
         placed_ = true;
-        // From here on the new file is there; that its folder could not be flushed changes nothing of it.
+        // The new file is in place by now, even if its folder cannot be flushed.
         Attempt([&] { fileLayer().FlushFolder(target_.parent_path()); });
     }
 
 private:
-    /// Before the first byte is written, so that nobody reads what the old file kept to itself.
+    /// Called before the first byte is written, so that nobody can read what the old file kept private.
     void KeepPermissions() const {
         std::error_code error;
         const fs::file_status old = fs::status(target_, error);
@@ -118,7 +118,7 @@ private:
     bool placed_ = false;
 };
 
-/// The path itself. Failure 75 where something else than a file or a link stands.
+/// Returns the path. Failure 75 if it names something other than a file or a link.
 const fs::path& Replaceable(const fs::path& path) {
     std::error_code ignored;
     const fs::file_type type = fs::symlink_status(path, ignored).type();
@@ -126,7 +126,7 @@ const fs::path& Replaceable(const fs::path& path) {
     return path;
 }
 
-/// What the path leads to. Failure 75 where that is no file, or links lead to each other.
+/// Where the path leads. Failure 75 if that is not a file, or if the links form a ring.
 fs::path ReplaceableBehindLinks(const fs::path& path) {
     fs::path target = BehindLinks(path);
     std::error_code ignored;
@@ -134,7 +134,7 @@ fs::path ReplaceableBehindLinks(const fs::path& path) {
     return Replaceable(target);
 }
 
-/// Whether nobody writes this scratch file any more.
+/// Whether no process writes this scratch file any more.
 bool IsLeft(const fs::path& file, std::string_view name) {
     name.remove_prefix(ScratchStart.size());
     int process = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Look-ups in small tables.
+// Searching small tables.
 #pragma once
 
 #include <algorithm>
@@ -7,7 +7,7 @@
 
 namespace ornavo {
 
-/// The first row whose column has the value; null where there is none.
+/// The first row with this value in the column; null if there is none.
 template <class Table, class Column, class Value>
 auto* FindRow(Table& table, Column column, const Value& value) {
     const auto row = std::ranges::find(table, value, column);

@@ -14,8 +14,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view Separator = "\\\\\\";  // three, so that no part can contain it
-constexpr std::string_view End = "*eod*";         // no folder can be called so
+constexpr std::string_view Separator = "\\\\\\";  // three, so that no part of a path can contain it
+constexpr std::string_view End = "*eod*";         // "*" is in no folder's name
 
 bool IsSeparator(char c) {
     return c == '\\' || c == '/';

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The plain record of a font, as a skin stores it.
+// A font as a skin stores it.
 #pragma once
 
 #include <memory>
@@ -7,10 +7,11 @@
 
 namespace ornavo {
 
-/// A fresh record is the default of every place that needs a font: Tahoma 8, no attribute set.
+/// A font description. A default-constructed one is the default wherever a font is needed: Tahoma 8, no
+/// attribute set.
 struct Font {
     std::string Name = "Tahoma";
-    double Size = 8;  // points of 1/72 inch on a 96-dpi screen
+    double Size = 8;  // points, 1/72 inch on a 96-dpi screen
     bool Bold = false;
     bool Italic = false;
     bool Underline = false;
@@ -18,6 +19,6 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
-using FontRef = std::shared_ptr<Font>;  // fonts of the model are shared by reference
+using FontRef = std::shared_ptr<Font>;  // the model shares fonts by reference
 
 }  // namespace ornavo

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Points and rectangles in whole pixels, and the fixed size of a twip.
+// Points, sizes and rectangles in whole pixels, and the number of twips in a pixel.
 #pragma once
 
 namespace ornavo {
 
-inline constexpr int TwipsPerPixel = 15;  // never a value asked of the system
+inline constexpr int TwipsPerPixel = 15;  // fixed; the system's dpi does not matter
 
 struct Point {
     int x = 0, y = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An ordered list whose items have a text as key, compared without regard to case.
+// An ordered list whose items have text keys, compared without regard to case.
 #pragma once
 
 #include <cstddef>
@@ -14,19 +14,19 @@
 
 namespace ornavo {
 
-/// Items are held by shared reference and stand in the order of insertion. Positions count from 1.
+/// An ordered list of shared objects, found by key or by position. Positions count from 1.
 template <class T>
 class KeyedCollection {
 public:
     using Ref = std::shared_ptr<T>;
 
     int Count() const { return static_cast<int>(items_.size()); }
-    /// Null where there is no such key.
+    /// Null if there is no such key.
     Ref Find(std::string_view key) const {
         const auto found = byKey_.find(key);
         return found == byKey_.end() ? nullptr : found->second;
     }
-    /// Failure 9 where there is no such position or key.
+    /// Both throw Failure 9 if there is no such position or key.
     Ref Item(int position) const {
         CheckPosition(position);
         return items_[static_cast<std::size_t>(position - 1)].item;
@@ -36,7 +36,8 @@ public:
         if (!found) throw NotFound();
         return found;
     }
-    /// Failure 457 if the key is there already; nothing changes then.
+    /// Inserts in front of position `before`, 1 to Count() + 1; Failure 9 outside of that. Failure 457 if the
+    /// key exists already, in which case nothing changes.
     void Insert(std::string_view key, Ref item, int before) {
         if (before < 1 || before > Count() + 1) throw NotFound();
         if (!byKey_.try_emplace(std::string(key), item).second)
@@ -62,7 +63,7 @@ private:
         std::string key;
         Ref item;
     };
-    // Both work on the key as it is given, so that finding makes no text of its own.
+    // Both take a string_view as it is, so that Find does not allocate.
     struct SameKey {
         using is_transparent = void;
         bool operator()(std::string_view one, std::string_view two) const { return EqualText(one, two); }
@@ -73,7 +74,7 @@ private:
     };
 
 public:
-    /// Enumeration gives the references, in order.
+    /// Iterates over the items' references, in order.
     class ConstIterator {
     public:
         explicit ConstIterator(typename std::vector<Entry>::const_iterator at) : at_(at) {}

@@ -22,7 +22,7 @@ Failure Overflow() {
 
 template <class Whole>
 Whole Narrow(double whole) {
-    // Written so that what is no number fails too.
+    // The condition is written so that NaN fails it.
     if (!(whole >= std::numeric_limits<Whole>::min() && whole <= std::numeric_limits<Whole>::max()))
         throw Overflow();
     return static_cast<Whole>(whole);
@@ -35,7 +35,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Takes a number's text apart from the left.
+/// Reads a number's text from left to right.
 class Cursor {
 public:
     explicit Cursor(std::string_view text) : rest_(text) {}
@@ -66,14 +66,14 @@ private:
     std::string_view rest_;
 };
 
-/// A number in parts: 0.<digits> times ten to the power of (point + exponent).
+/// A decimal number in parts: 0.<digits> times ten to the power of (point + exponent).
 struct Decimal {
     bool negative = false;
     std::string digits;
     long point = 0;
     long exponent = 0;
 
-    /// Empty where the number is beyond the range of a double; what is too small is 0.
+    /// Empty if the number is beyond the range of a double; 0 if it is too small for one.
     std::optional<double> Number() const {
         const std::size_t lead = digits.find_first_not_of('0');
         if (lead == std::string::npos) return 0.0;
@@ -91,7 +91,7 @@ struct Decimal {
     }
 };
 
-/// The digits behind an "E"; more than anything can mean count as very many.
+/// The exponent after an "E"; empty without digits. Limited to 100 million, which is far beyond any double.
 std::optional<long> TakeExponent(Cursor& cursor) {
     bool negative = false;
     cursor.TakeSign(negative);
@@ -102,7 +102,7 @@ std::optional<long> TakeExponent(Cursor& cursor) {
     return negative ? -exponent : exponent;
 }
 
-/// The whole text as a number in the user's form; empty where the form is not one.
+/// The whole text as a number; empty if it is not one.
 std::optional<Decimal> ReadDecimal(std::string_view text, const NumberSigns& signs) {
     while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
     while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
@@ -123,7 +123,8 @@ std::optional<Decimal> ReadDecimal(std::string_view text, const NumberSigns& sig
     return number;
 }
 
-/// Most numbers of a skin are a few digits and perhaps a sign; a double holds fifteen digits exactly.
+/// A fast path: most numbers of a skin are a few digits, perhaps with a minus. A double holds fifteen digits
+/// exactly.
 std::optional<double> ReadFewDigits(std::string_view text) {
     const bool negative = text.starts_with('-');
     if (negative) text.remove_prefix(1);
@@ -136,7 +137,7 @@ std::optional<double> ReadFewDigits(std::string_view text) {
     return static_cast<double>(negative ? -number : number);
 }
 
-/// Most texts that are asked about are names and captions: those pay for one look at their first byte.
+/// Most texts that are tested are names and captions; their first byte decides.
 bool MayBeNumber(std::string_view text, const NumberSigns& signs) {
     const std::size_t first = text.find_first_not_of(" \t");
     if (first == std::string_view::npos) return false;
@@ -215,7 +216,7 @@ std::string NumberText(double value, std::string_view decimal) {
     if (std::fabs(value) < 1e15 && value == std::floor(value))
         return std::to_string(static_cast<std::int64_t>(value));
 
-    // "d.dddddddddddddde+XX": fifteen digits that count and the power of the first.
+    // "d.dddddddddddddde+XX": fifteen significant digits and the power of ten of the first.
     char buffer[40];
     const char* const end =
         std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value), std::chars_format::scientific, 14)

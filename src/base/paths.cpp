@@ -22,7 +22,7 @@ constexpr bool HasDrives = true;
 constexpr bool HasDrives = false;
 #endif
 
-/// Below a thing that is no folder there never is anything, and nothing can be made there.
+/// A place where no file can exist or be made, because the parent is not a folder.
 constexpr std::string_view Nowhere = "/dev/null/";
 
 fs::path Native(std::string_view text) {
@@ -56,7 +56,8 @@ bool Stands(const fs::path& path) {
     return fs::exists(fs::symlink_status(path, ignored));
 }
 
-/// The name in the folder that equals the wanted one but for case; the first by byte order of several.
+/// The name in the folder that equals `wanted` without regard to case; the first by byte order of several.
+/// Empty if there is none.
 fs::path NameInFolder(const fs::path& folder, const fs::path& wanted) {
     const std::string lower = LowerText(Utf8(wanted));
     std::string best;
@@ -90,7 +91,7 @@ fs::path FindPartByPart(const fs::path& path) {
 std::string GetParentFolderName(std::string_view path) {
     const std::string_view whole = WithoutTrailingSeparators(path);
     const std::size_t at = whole.find_last_of(Separators);
-    if (at == std::string_view::npos)  // of a bare name, or of the root itself
+    if (at == std::string_view::npos)  // a bare name, or the root itself
         return whole.empty() && !path.empty() ? std::string(path.substr(0, 1)) : "./";
     const std::string_view parent = WithoutTrailingSeparators(whole.substr(0, at));
     return std::string(path.substr(0, parent.size() + 1));
@@ -128,7 +129,7 @@ std::string CleanFileName(std::string_view name) {
 }
 
 std::string WithSeparator(std::string_view folder) {
-    if (folder.empty()) return "./";  // a bare separator would be the root of the disk
+    if (folder.empty()) return "./";  // a bare separator would be the root
     std::string path(folder);
     if (Separators.find(path.back()) != std::string_view::npos) return path;
     const bool onlyBackslashes = path.find('\\') != std::string::npos && path.find('/') == std::string::npos;

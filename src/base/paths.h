@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Taking paths apart, and where a path of a skin lies on this disk. "\" and "/" both separate.
+// The parts of a path, and where a path of a skin is on this disk. "\" and "/" both separate.
 #pragma once
 
 #include <filesystem>
@@ -8,23 +8,24 @@
 
 namespace ornavo {
 
-std::string GetParentFolderName(std::string_view path);  // always ends in a separator
+std::string GetParentFolderName(std::string_view path);  // ends in a separator; "./" for a bare name
 std::string GetBaseName(std::string_view path);          // file name without extension
-std::string GetFileName(std::string_view path);          // of "a\b\" it is "b"
+std::string GetFileName(std::string_view path);          // "b" for "a\b\"
 std::string GetExtensionName(std::string_view path);     // lower case, without the point
 std::string GetFileExtension(std::string_view path);     // lower case, with the point; "" if there is none
-/// A name that is safe for a folder or file: separators, ":", "*", "?" and their like replaced or removed.
+/// A name that is safe for a folder or file: separators, ":", "*", "?" and the like are replaced or removed.
 std::string CleanFileName(std::string_view name);
-/// The path with a separator at its end: "\" where the path itself uses only that, otherwise "/".
+/// The path with a separator at its end: "\" if the path has only that kind, otherwise "/". "./" for "".
 std::string WithSeparator(std::string_view folder);
-/// Whether the name can be that of one folder: not blank, ".", "..", no separator, unchanged by
-/// CleanFileName.
+/// Whether the name can be that of a single folder: not blank, not "." or "..", and unchanged by
+/// CleanFileName, so without a separator.
 bool IsPlainName(std::string_view name);
 
-/// The place on this disk: separators made native, and every part that is not there under its exact name
-/// found without regard to case when just such a one exists (the first by byte order of several).
+/// The file's path on this disk, with native separators. A part that does not exist under its exact name is
+/// looked for without regard to case; of several the first by byte order is taken. Where the system has no
+/// drives, a path with a drive letter gives a place that cannot exist.
 std::filesystem::path OnDisk(std::string_view path);
-/// The same path as text, with native separators.
+/// The path as UTF-8 text with native separators.
 std::string ToText(const std::filesystem::path& path);
 
 }  // namespace ornavo

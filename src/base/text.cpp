@@ -10,7 +10,8 @@ namespace ornavo {
 
 namespace {
 
-/// The characters of the file's bytes 0x80 to 0x9F; all other bytes are the character of the same number.
+/// The characters of the Windows-1252 bytes 0x80 to 0x9F; every other byte is the character of the same
+/// number.
 constexpr std::array<char16_t, 32> UpperHalf = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -27,14 +28,15 @@ char LowerAscii(char c) {
     return static_cast<char>(c + (c >= 'A' && c <= 'Z' ? 'a' - 'A' : 0));
 }
 
+/// A decoded character.
 struct Character {
     char32_t code;
     std::size_t length;  // bytes
 };
 
-constexpr char32_t Broken = 0xFFFFFFFF;  // a byte that belongs to no character
+constexpr char32_t Broken = 0xFFFFFFFF;  // a byte that is not part of a valid character
 
-/// The character that the text begins with. Overlong forms and surrogates are broken bytes.
+/// The first character of the text. Each byte of an overlong form or a surrogate is broken.
 Character Decode(std::string_view text) {
     const unsigned char first = Byte(text[0]);
     if (first < 0x80) return {first, 1};
@@ -50,7 +52,7 @@ Character Decode(std::string_view text) {
     return {code, length};
 }
 
-/// Characters of the file need two or three bytes at most.
+/// At most three bytes: the file's characters need no more.
 void AppendUtf8(std::string& text, char32_t code) {
     if (code < 0x80) {
         text += static_cast<char>(code);
@@ -71,7 +73,7 @@ int FileByte(char32_t code) {
     return found == UpperHalf.end() ? -1 : 0x80 + static_cast<int>(found - UpperHalf.begin());
 }
 
-/// A letter and its lower case always have the same number of bytes.
+/// Only the letters of Windows-1252. A letter and its lower case have the same number of bytes in UTF-8.
 char32_t LowerCode(char32_t code) {
     if (code >= 0xC0 && code <= 0xDE && code != 0xD7) return code + 0x20;
     switch (code) {
@@ -108,7 +110,7 @@ bool EqualText(std::string_view one, std::string_view two) {
 }
 
 std::size_t HashText(std::string_view text) {
-    // A letter beyond ASCII counts by its length alone, which its two cases share.
+    // All bytes beyond ASCII count alike, so that a letter and its lower case have the same hash.
     std::uint64_t hash = 0xCBF29CE484222325u;
     for (const char c : text) hash = (hash ^ (Ascii(c) ? Byte(LowerAscii(c)) : 0x80u)) * 0x100000001B3u;
     return static_cast<std::size_t>(hash ^ hash >> 32);

@@ -13,8 +13,8 @@ Failure Mismatch() {
     return Failure(Failure::TypeMismatch, "Value");
 }
 
-/// The user's signs come first, since the text may be that of a number; a file from elsewhere has the English
-/// ones.
+/// The user's signs come first, because the text may be what NumberText wrote. A file from another system may
+/// have the English signs.
 double NumberOf(const std::string& text) {
     static const NumberSigns english;
     return IsNumeric(text) ? ToNumber(text) : ToNumber(text, english);

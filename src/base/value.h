@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A value of any field type, and the usual conversions between them.
+// A value of any field type, and the conversions between the types.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,9 @@
 
 namespace ornavo {
 
-/// Empty, a boolean, a whole number, a real number, a text or a font. The conversions follow the usual
-/// rules: True is -1, empty is 0 or "", a real becomes whole half to even, a text that is a number becomes
-/// it (the user's signs, else the English ones), a number becomes its plain text. Failure 13 where there is
-/// none, 6 on overflow.
+/// Holds nothing, a boolean, a 32-bit integer, a double, a text or a font. Conversions: true is -1; empty is
+/// 0 or ""; a double is rounded half to even; a text is read as a number with the user's signs, or else with
+/// "." and ","; a number becomes its plain text. Failure 13 if there is no conversion, 6 on overflow.
 class Value {
 public:
     Value() = default;
@@ -38,7 +37,7 @@ public:
     std::int32_t ToLong() const;
     double ToDouble() const;
     std::string ToText() const;  // "True" and "False" for booleans
-    FontRef ToFont() const;      // Failure 13 unless it is one; empty gives null
+    FontRef ToFont() const;      // null if empty; Failure 13 if it is no font
 
     bool operator==(const Value&) const = default;
 

@@ -11,6 +11,7 @@
 
 namespace ornavo {
 
+/// One preference with its default value; the default of a font is the name of its face.
 struct CatalogueRow {
     std::string_view key;
     std::string_view caption;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The code tables of the skin file and their names.
+// The numeric codes of the skin file and their names.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 
 namespace ornavo {
 
-// Fields hold the plain 32-bit number, since a file may hold any; these are the ones with a meaning.
+// Fields hold the plain 32-bit number, because a file may contain any; these are the known ones.
 enum ElementTypeCode : std::int32_t {
     TypeMain,
     TypeButton,
@@ -54,7 +54,7 @@ enum PropertyKindCode : std::int32_t {
     KindVertical = 15
 };
 
-// Each name stands at the place of its code.
+// The index of each name is its code.
 inline constexpr std::array<std::string_view, 7> ElementTypeNames = {
     "Main", "Button", "Picture", "Volume", "Info", "Search Box", "Scrollbar"};
 // clang-format off

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One element of a layout, and the stack of a layout's elements.
+// One element of a layout, and the list of a layout's elements.
 #pragma once
 
 #include <cstdint>
@@ -11,8 +11,8 @@
 
 namespace ornavo {
 
-/// A flat record that serves every kind of element; what a field means depends on ElementType. The names
-/// are those of the file's tags (document/fields). Positions and sizes are pixels of the skin.
+/// An element of any type; what a field means depends on ElementType. The names are those of the file's tags
+/// (document/fields). Positions and sizes are pixels of the skin.
 struct dbLayoutElement {
     std::string Key;
     std::int32_t ElementType = 0;
@@ -25,16 +25,16 @@ struct dbLayoutElement {
     double Rotation = 0;  // degrees, clockwise
     double Value = 0;
     bool UseTransparency = false;
-    std::int32_t Order = 0;  // from 1, the lowest at the bottom
+    std::int32_t Order = 0;  // from 1; the lowest is at the bottom
     std::int32_t ActionType = 0;
     bool UseTopLeftTransparency = false;
     Colour TransparentColor = 0;
     bool Resizer = false, Dragger = false;
-    std::int32_t ControlIndex = 0;  // slot of the control that shows it; not saved
+    std::int32_t ControlIndex = 0;  // index of its control in the pool; not saved
     Colour BackgroundColor = 0;
     bool StretchBackground = false, StretchHeight = false, StretchWidth = false;
     bool Visible = true;
-    FontRef Font;  // null until one is set
+    FontRef Font;  // null until a font is set
     std::int32_t CaptionY = 0;
     std::int32_t InfoType = 0;
     bool Seeker = false;
@@ -60,9 +60,11 @@ struct dbLayoutElement {
 };
 using dbLayoutElementRef = std::shared_ptr<dbLayoutElement>;
 
+/// The elements of a layout, from the lowest to the topmost.
 class dbLayoutElements : public KeyedCollection<dbLayoutElement> {
 public:
-    /// A new visible element at the end, its transparent colour the button face.
+    /// Adds a visible element at the end. Its transparent colour is the button face. Failure 457 if the key
+    /// exists.
     dbLayoutElementRef Add(std::int32_t order, std::string_view key, std::int32_t elementType,
                            std::int32_t actionType);
     void AddObject(dbLayoutElementRef element);

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::string_view AdminKey = "Admin-Mode";
 
+/// An element that every new layout has; the numbers are pixels of the skin.
 struct StandardElement {
     std::string_view key;
     std::int32_t elementType;

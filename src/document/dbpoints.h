@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One corner of a layout's window, and the polygon that they make.
+// One corner of a layout's window, and the polygon of all its corners.
 #pragma once
 
 #include <cstdint>
@@ -8,19 +8,20 @@
 
 namespace ornavo {
 
-/// X and Y are pixels from the edge that HAlign and VAlign name.
+/// A corner. X and Y are pixels from the edges that HAlign and VAlign name.
 struct dbPoint {
     std::int32_t X = 0, Y = 0, VAlign = 0, HAlign = 0, Order = 0;
 };
 using dbPointRef = std::shared_ptr<dbPoint>;
 
-/// The key is "K" and the order that the point had when it was added; it says nothing about its place.
+/// The corners of a layout. A point's key is "K" and the order it had when it was added, so it does not tell
+/// the present position.
 class dbPoints : public KeyedCollection<dbPoint> {
 public:
     dbPointRef Add(std::int32_t order);
     void AddObject(dbPointRef point);
     void InsertObject(dbPointRef point, int after);
-    dbPointRef GetFromOrder(std::int32_t order) const;  // the first with it, or null
+    dbPointRef GetFromOrder(std::int32_t order) const;  // the first with this order, or null
 };
 
 }  // namespace ornavo

@@ -15,12 +15,13 @@ namespace ornavo {
 
 inline constexpr std::string_view SettingsFileName = "SkinSettings.xml";
 
+/// A skin, as it is edited, loaded and saved.
 class dbSkin {
 public:
-    dbSkin();  // the whole catalogue with its defaults, no layout
+    dbSkin();  // has every preference of the catalogue with its default, and no layout
 
     bool Dirty = false;
-    std::vector<std::string> Damage;  // what its file had lost when it was read, in words; none after a save
+    std::vector<std::string> Damage;  // what was lost when the file was read, in words; empty after a save
     std::string OldSkinName;
     std::int32_t SkinHeight = 0, SkinWidth = 0;  // pixels
     std::string SkinName;
@@ -28,25 +29,26 @@ public:
     std::shared_ptr<ornavo::dbLayouts> dbLayouts;      // never null
 
     const std::string& BasePath() const { return basePath_; }
-    void SetBasePath(std::string_view folder);  // gets a separator at its end
+    void SetBasePath(std::string_view folder);  // ends in a separator afterwards
 
     std::string SkinFolder() const;  // BasePath + SkinName + separator
     std::string SkinFile() const;    // SkinFolder + "SkinSettings.xml"
 
-    /// Adds each preference of the catalogue that is missing, at the end.
+    /// Appends each preference of the catalogue that is missing.
     void SetupSkinPrefs();
     dbLayoutRef AddNewLayout(std::string_view name);
     static std::string GetLayoutKey(std::string_view name);
 
-    /// Fills the skin from its file, by BasePath and SkinName. A file that is not there changes nothing but
-    /// OldSkinName; a line that says nothing is skipped. SkinName is afterwards a plain folder name. Failure
-    /// where a file is that can't be read whole; the skin is then as it was. True if there is a file.
+    /// Reads the skin's file, found by BasePath and SkinName. Returns whether there is one; without it
+    /// nothing but OldSkinName and Damage changes. A line without meaning is skipped. SkinName is a plain
+    /// folder name afterwards. Throws a Failure, and changes nothing, if the file cannot be read whole.
     bool LoadSkin();
-    /// Gathers the pictures into the skin's folder and writes the file, whole or not at all; a link in its
-    /// place is replaced itself. Failure when it can't; the model is then as it was. The pictures that could
-    /// not be copied, a line with the reason each: they keep their full paths.
+    /// Copies the pictures into the skin's folder and writes the file, whole or not at all; a link in the
+    /// file's place is itself replaced. Returns a line with the reason for each picture that could not be
+    /// copied; such a picture keeps its full path. Throws a Failure, and leaves the model as it was, if the
+    /// file cannot be written.
     std::vector<std::string> SaveSkin(bool keepExisting);
-    /// The bytes of the settings file as the skin stands now, pictures where they are.
+    /// The bytes of the settings file for the present skin, with the pictures' present paths.
     std::string FileBytes() const;
 
 private:

@@ -47,7 +47,7 @@ Field<T> Line(std::string_view name, bool saved, Type T::*) {
     return field;
 }
 
-/// One line of a table: the field of that name, with a line in the file or without one.
+/// A row of a table: a field that the file has, or one that it has not.
 template <auto Member>
 auto Saved(std::string_view name) {
     return Line<Member>(name, true, Member);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every field of the document, reachable by its name: one table per class, a field is one line of it.
+// Access to the document's fields by name. Each class has a table, and a field is one row of it.
 #pragma once
 
 #include <span>
@@ -11,18 +11,19 @@
 
 namespace ornavo {
 
-/// Saved: the field has a line in the file.
+/// A field of a class T: how it is read, set, loaded and saved. `saved`: the field has a line in the file.
 template <class T>
 struct Field {
     std::string_view name;
     Value (*get)(const T&);
-    void (*set)(T&, const Value&);  // converts; throws a Failure and leaves the field as it was
+    void (*set)(T&, const Value&);  // converts; on a Failure the field is unchanged
     bool saved;
-    bool (*take)(T&, std::string_view bytes);      // the short road of TakePlain; false: set has to do it
-    bool (*append)(const T&, std::string& bytes);  // the value in the form of the file, as AppendValue
+    bool (*take)(T&, std::string_view bytes);      // TakePlain; false: use `set`
+    bool (*append)(const T&, std::string& bytes);  // AppendValue: the value in the form of the file
 };
 
-/// T is Font, dbLayoutElement, dbPoint, dbLayout, dbSkinPref or dbSkin. In declaration order.
+/// The fields of T in the order of the table. T is Font, dbLayoutElement, dbPoint, dbLayout, dbSkinPref or
+/// dbSkin.
 template <class T>
 std::span<const Field<T>> Fields();
 template <class T>

@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: MIT
-// Elements added, deleted and stacked anew. The orders of a layout are dense from 1 after each of these.
+// Adding, deleting and restacking elements. Deleting and restacking number the orders anew, from 1.
 #pragma once
 
 #include "document/dblayouts.h"
 
 namespace ornavo {
 
-/// The Order that puts a new element on top of all others.
+/// The Order that puts a new element on top of all the others.
 std::int32_t GetTopOrder(const dbLayout& layout);
-/// ControlIndex of the first element of that Order; 0 where there is none.
+/// The ControlIndex of the first element with this Order; 0 if there is none.
 std::int32_t GetControlIndex(const dbLayout& layout, std::int32_t order);
 
-/// Failure 9 where there is no such element.
+/// Removes the element and renumbers the rest. Failure 9 if there is no such element.
 void DeleteElement(dbLayout& layout, std::string_view key);
 
-/// A new element at the end. Its key is "Button", "Graphic", "Volume" or "Info", by the type 1 to 4, and the
-/// lowest number from 1 with which the key is free. Null for any other type.
+/// Adds an element at the end. The key is "Button", "Graphic", "Volume" or "Info" for the types 1 to 4,
+/// followed by the lowest number from 1 that is free. Null for any other type.
 dbLayoutElementRef AddNumberedElement(dbLayout& layout, std::int32_t order, std::int32_t elementType);
 
-/// Failure 9 where there is no such element.
+/// Move the element to the top or to the bottom. Failure 9 if there is no such element.
 void BringElementToFront(dbLayout& layout, std::string_view key);
 void SendElementToBack(dbLayout& layout, std::string_view key);
 

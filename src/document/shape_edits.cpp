@@ -6,7 +6,7 @@
 namespace ornavo {
 namespace {
 
-constexpr int LeastToDelete = 3;  // a shape may shrink to two corners
+constexpr int LeastToDelete = 3;  // corners; so at least two are left
 
 }  // namespace
 

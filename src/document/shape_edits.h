@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Corners of a layout's shape removed and renumbered. Orders are dense from 1 after each of these.
+// Tags, renumbering and deletion of the corners of a layout's shape.
 #pragma once
 
 #include <string>
@@ -9,14 +9,15 @@
 
 namespace ornavo {
 
-/// The tag of a corner, "K" and its Order, and the way back; 0 for what is no such tag.
+/// The tag of a corner is "K" and its Order; OrderOfTag gives the Order back, 0 if no number follows the
+/// first character.
 std::string TagOfPoint(std::int32_t order);
 std::int32_t OrderOfTag(std::string_view tag);
 
-/// Orders from 1 in the sequence of the collection.
+/// Numbers the orders from 1, in the sequence of the collection.
 void RenumberPoints(dbPoints& points);
-/// Removes the corner that the tag names and renews all keys. A shape of fewer than 3 corners stays as it is,
-/// and so does one that has no such corner.
+/// Removes the corner with this tag, and renumbers the others and their keys from 1. Does nothing if there is
+/// no such corner or the shape has fewer than 3.
 void DeleteShapePoint(dbLayout& layout, std::string_view tag);
 
 }  // namespace ornavo

@@ -18,14 +18,14 @@ bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-/// The four words that are booleans wherever they stand, in this case alone.
+/// The four words that are booleans on every system; upper and lower case matter.
 std::optional<bool> ReadBoolean(std::string_view text) {
     if (text == "True" || text == "Wahr") return true;
     if (text == "False" || text == "Falsch") return false;
     return std::nullopt;
 }
 
-/// Nine digits always fit.
+/// An integer of up to nine digits, which always fits.
 std::optional<std::int32_t> PlainWhole(std::string_view text) {
     const std::string_view digits = text.substr(text.starts_with('-') ? 1 : 0);
     if (digits.empty() || digits.size() > 9) return std::nullopt;
@@ -37,7 +37,8 @@ std::optional<std::int32_t> PlainWhole(std::string_view text) {
     return digits.size() < text.size() ? -whole : whole;
 }
 
-/// What starts with a letter is neither a number nor, but for these letters, a boolean.
+/// Whether the text is surely not a number or boolean: it starts with a letter, and only some letters begin a
+/// boolean.
 bool IsPlainText(std::string_view text) {
     if (text.empty()) return true;
     const char first = text.front();
@@ -53,7 +54,7 @@ void AppendWhole(std::string& bytes, Whole value) {
     bytes.append(digits, end);
 }
 
-/// The form with the floor; false where the value has no decimals that count.
+/// Appends "+", the floor, "." and the decimals. False, with nothing appended, if the rounded decimals are 0.
 bool AppendFraction(std::string& bytes, double value) {
     const std::int32_t whole = FloorToLong(value);
     const double fraction = RoundHalfEven((value - whole) * 10000) / 10000;
@@ -61,7 +62,7 @@ bool AppendFraction(std::string& bytes, double value) {
     bytes += '+';
     AppendWhole(bytes, whole);
     bytes += '.';
-    // Behind "0."; a fraction that was rounded up to 1 has nothing there, and reads back as the floor.
+    // The text behind "0.". A fraction that was rounded up to 1 has none, and is read back as the floor.
     const std::string text = NumberText(fraction, ".");
     if (text.size() > 2) bytes.append(text, 2);
     return true;

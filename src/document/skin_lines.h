@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The lines of the skin file, both ways side by side: a line is taken apart and its value read by its
-// look, a value is put into its form. Lines are bytes of the file, values are the program's UTF-8.
+// The lines of the skin file, reading and writing side by side. A line is bytes of the file (Windows-1252), a
+// value is UTF-8; the type of a value that is read depends on its form.
 #pragma once
 
 #include <cstdint>
@@ -12,38 +12,40 @@
 
 namespace ornavo {
 
-/// From the first "<" to the last ">", both included; empty where there is no such span.
+/// From the first "<" to the last ">", both included; empty if there is no such span.
 std::string_view TrimTag(std::string_view line);
 
+/// A line of the file in its parts.
 struct TagLine {
-    std::string_view tag;  // without its brackets; empty where there is none
+    std::string_view tag;  // without the brackets; empty if there is no tag
     std::optional<std::string_view>
         value;  // between the first ">" and the last "<"; none on a line of structure
 };
 TagLine GetTag(std::string_view line);
 
-/// The value that the bytes between two tags stand for: a boolean, a real number or a text. Numbers
-/// without "+" and "." are read with the signs of the user's system.
+/// The value of the bytes between two tags: a boolean, a double or a text. Numbers without "+" and "." are
+/// read with the signs of the user's system.
 Value ReadValue(std::string_view bytes);
-/// The text that a field has once the text was written and read: where it looks like a number or a boolean,
-/// the plain text of that. "" where it has no line.
+/// The text that a field has after `text` was written and read again: a number or a boolean in its plain
+/// form. "" if `text` is not written.
 std::string ReadBack(const std::string& text);
-/// Whether the text has the form that no system's signs change: "+" first and a "." in it.
+/// Whether the text has the form of numbers that does not depend on a system's signs: "+" first and a "." in
+/// it.
 bool IsMyNumeric(std::string_view value);
-/// The number of such a text; a part of it that is no number counts as 0. Never fails.
+/// The number of such a text; a part of it that is not a number counts as 0. Never fails.
 double ConvNumeric(std::string_view value);
 
-/// Appends the bytes of a value; a number plain, or as "+", the floor, "." and up to four decimals above the
-/// floor. False, and nothing is appended, for a value that has no line (false, "", empty). Failure 6 for a
-/// number whose floor is beyond 32 bits.
+/// Appends the bytes of a value. A number is written plainly, or as "+", its floor, "." and up to four
+/// decimals above the floor. Returns false and appends nothing for a value that gets no line (false, "",
+/// empty). Failure 6 for a number whose floor is beyond 32 bits.
 bool AppendValue(std::string& bytes, bool value);
 bool AppendValue(std::string& bytes, std::int32_t value);
 bool AppendValue(std::string& bytes, double value);
 bool AppendValue(std::string& bytes, const std::string& value);
 bool AppendValue(std::string& bytes, const Value& value);
 
-/// The short roads of reading, for the forms that most lines have. False where the general road has to
-/// decide; nothing is changed then. Where they take a value, both roads come to the same.
+/// Fast paths of reading, for the forms that most lines have. False, with the field unchanged, if Field::set
+/// must decide; otherwise the result is the one that `set` would give.
 bool TakePlain(std::string_view bytes, bool& field);
 bool TakePlain(std::string_view bytes, std::int32_t& field);
 bool TakePlain(std::string_view bytes, double& field);

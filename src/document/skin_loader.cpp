@@ -22,8 +22,8 @@ namespace ornavo {
 
 namespace {
 
-/// Finds the field of a line. Lines mostly stand in one order, so the field that followed the last one
-/// when it was seen before is tried first.
+/// Finds the field of a line. Because lines mostly have the same order, it first tries the field that
+/// followed the last one the time before.
 template <class T>
 class FieldFinder {
 public:
@@ -41,7 +41,7 @@ public:
 
 private:
     std::vector<const Field<T>*> next_ = std::vector<const Field<T>*>(Fields<T>().size() + 1);
-    std::size_t last_ = 0;  // 0 in front of the first field, otherwise one beyond the last one found
+    std::size_t last_ = 0;  // 0 before the first field, otherwise 1 + the index of the last one found
 };
 
 using PointsRef = std::shared_ptr<dbPoints>;
@@ -50,7 +50,7 @@ using LayoutsRef = std::shared_ptr<dbLayouts>;
 using Object = std::variant<std::monostate, dbSkin*, dbSkinPrefRef, FontRef, LayoutsRef, dbLayoutRef,
                             PointsRef, dbPointRef, ElementsRef, dbLayoutElementRef>;
 
-/// The objects that are open, the current one on top.
+/// The open objects; the current one is on top.
 class LoadStack {
 public:
     void PushObject(Object object) { objects_.push_back(std::move(object)); }
@@ -66,9 +66,10 @@ private:
     Object nothing_;
 };
 
-constexpr std::size_t MostDamage = 12;  // lines; more are no help to anybody
+constexpr std::size_t MostDamage = 12;  // lines; more would not help anyone
 
-/// What an open object is called; "" for the skin and for a collection, which are never lost themselves.
+/// What an open object is called in a line of Damage; "" for the skin and for a collection, which cannot be
+/// lost.
 std::string NameOf(const Object& object) {
     const auto named = [](const char* kind, const std::string& key) {
         return std::string(kind).append(" \"").append(key).append("\"");
@@ -83,11 +84,12 @@ std::string NameOf(const Object& object) {
     return std::holds_alternative<FontRef>(object) ? "font" : "";
 }
 
+/// Reads a settings file into a skin, line by line, and notes what could not be placed.
 class Loader {
 public:
     explicit Loader(dbSkin& skin) : skin_(skin) {}
     void Load(std::string_view bytes);
-    /// What the file had lost, in words; none if it is whole.
+    /// What was lost of the file, in words; empty if it is whole.
     std::vector<std::string> Damage(std::string_view bytes) const;
 
 private:
@@ -110,7 +112,7 @@ private:
     }
     void OpenPrefs() {
         skin_.dbSkinPrefs = std::make_shared<dbSkinPrefs>();
-        stack_.PushObject(skin_.dbLayouts);  // nothing is ever assigned to it
+        stack_.PushObject(skin_.dbLayouts);  // only closes the tag; nothing is assigned to it
     }
     void OpenPref() {
         prefFields_.Restart();
@@ -142,9 +144,9 @@ private:
 
     dbSkin& skin_;
     LoadStack stack_;
-    int skins_ = 0;                    // tags <Skin>
-    bool endsEarly_ = false;           // something was open at the end
-    std::map<std::string, int> lost_;  // objects that found no place, by their names
+    int skins_ = 0;                    // how many <Skin> tags
+    bool endsEarly_ = false;           // a tag was still open at the end
+    std::map<std::string, int> lost_;  // how often an object of this name had no place
     FieldFinder<dbSkin> skinFields_;
     FieldFinder<dbSkinPref> prefFields_;
     FieldFinder<Font> fontFields_;
@@ -190,7 +192,7 @@ std::vector<std::string> Loader::Damage(std::string_view bytes) const {
     if (skins_ > 1) damage.emplace_back("It has more than one <Skin>, and the last one counts.");
     if (bytes.find('\0') != std::string_view::npos) damage.emplace_back("It has bytes that are no text.");
     const bool isLong = damage.size() + lost_.size() > MostDamage;
-    for (const bool layouts : {true, false})  // the gravest first
+    for (const bool layouts : {true, false})  // the most serious first
         for (const auto& [name, count] : lost_)
             if (name.starts_with("layout") == layouts && damage.size() < MostDamage)
                 damage.push_back("Lost: " + (count > 1 ? std::to_string(count) + " x " : "") + name);
@@ -199,7 +201,8 @@ std::vector<std::string> Loader::Damage(std::string_view bytes) const {
     return damage;
 }
 
-/// What was pushed once more stays with the object below, and is not lost.
+/// Closes the current object. An object that was pushed twice stays with the entry below it, and so is not
+/// lost.
 void Loader::Pop(bool kept) {
     if (!kept && stack_.Current() != stack_.ParentObject())
         if (const std::string name = NameOf(stack_.Current()); !name.empty()) ++lost_[name];
@@ -240,13 +243,13 @@ void Loader::AssignToCurrent(std::string_view tag, std::string_view bytes) {
     if (auto* layout = std::get_if<dbLayoutRef>(&current)) return Assign(layoutFields_, **layout, line);
     auto* skin = std::get_if<dbSkin*>(&current);
     if (!skin) return;
-    // Where the skin lies and whether it was changed is for the program to say, not for a file.
+    // The file must not decide where the skin's folder is or whether the skin has been changed.
     const Field<dbSkin>* field = skinFields_.Find(tag);
     if (field && field->saved) Assign(skinFields_, **skin, line);
 }
 
-// A step that fails is skipped: where there is no layout to give a collection to, what is current is
-// pushed once more, and the closing tag finds its match.
+// Without a layout to give a collection to, the current object is pushed once more, so that the closing tag
+// has something to pop.
 void Loader::OpenPoints() {
     Object next = stack_.Current();
     if (auto* layout = std::get_if<dbLayoutRef>(&next)) {
@@ -282,7 +285,7 @@ void Loader::CloseLayout() {
     Pop(layout && Attempt([&] { skin_.dbLayouts->AddObject(*layout); }));
 }
 
-/// Adds the item to the collection when they are of a kind; whether it has its place there.
+/// Adds the item to the collection if both have the types of the template. Returns whether it was added.
 template <class Collection, class Item>
 bool AddTo(Object& parent, Object& current) {
     auto* collection = std::get_if<Collection>(&parent);
@@ -307,8 +310,9 @@ void Loader::CloseFont() {
     Pop(font && (element || pref));
 }
 
-/// Whether a file in the folder that has this name for the skin names the folder itself: a folder's name that
-/// looks like a number is read as that number's text, and a system with other signs may have written it.
+/// Whether `name`, read from a file, means the folder that the file is in: a folder's name that looks like a
+/// number is read as a number and gets its plain text, and another system's signs may have been used to write
+/// it.
 bool NamesFolder(const std::string& name, const std::string& folder) {
     static const NumberSigns usual[] = {{".", ","}, {",", "."}};
     for (const NumberSigns& signs : usual)

@@ -19,12 +19,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Whether the line of a file can name it: a character without a byte, or a line's end, would break it.
+/// Whether the file can store the name: each character has a byte, and there is no line break.
 bool CanBeNamed(std::string_view name) {
     return FitsFile(name) && name.find_first_of("\r\n") == std::string_view::npos;
 }
 
-/// The name with a number behind its base from 2 on, every character that can't be named replaced.
+/// The name with each character that the file cannot store replaced, and from 2 on with the number after its
+/// base.
 std::string Substitute(std::string_view name, int number) {
     std::string plain = FromFileBytes(ToFileBytes(name));
     for (const std::string_view sign : {"?", "\r", "\n"}) plain = ReplaceAll(std::move(plain), sign, "_");
@@ -43,7 +44,7 @@ bool SameBytes(const fs::path& one, const fs::path& two) {
     return same;
 }
 
-/// Something stands there, if only a link that leads nowhere.
+/// Whether something has this path, even a broken link.
 bool IsTaken(const fs::path& path) {
     std::error_code ignored;
     return fs::exists(fs::symlink_status(path, ignored));
@@ -53,7 +54,7 @@ bool SameFile(const fs::path& one, const fs::path& two) {
     return one == two || SameBytes(one, two);
 }
 
-/// Goes through the references in the order of the file, and knows what the steps before will have made.
+/// Plans the references in the order of the file, and knows which files the earlier steps will have made.
 class Planner {
 public:
     Planner(const dbSkin& skin, bool keepExisting)
@@ -63,8 +64,8 @@ public:
         folder_ = skin_.SkinFolder();
     }
     PictureStep Plan(const std::string& given);
-    /// What is lost of the reference when all are planned: it leads nowhere, or to another picture. "" for
-    /// nothing.
+    /// What a finished plan loses of this reference: the picture is not found, or another one replaces it. ""
+    /// if nothing.
     std::string Loss(const PictureStep& step) const;
 
 private:
@@ -83,13 +84,13 @@ private:
     };
     Known Resolve(const std::string& given) const;
 
-    dbSkin skin_;     // under the name by which it is saved
-    dbSkin current_;  // whose folder a bare name means
+    dbSkin skin_;     // under the name by which it will be saved
+    dbSkin current_;  // a bare name is a file of its folder
     bool keepExisting_;
     std::string folder_;
-    std::map<std::string, Known> known_;    // by the reference, of which many are alike
+    std::map<std::string, Known> known_;    // by the reference; many are equal
     std::map<std::string, Made> made_;      // by name in lower case
-    std::map<fs::path, fs::path> winners_;  // whose picture each file of the folder shows in the end
+    std::map<fs::path, fs::path> winners_;  // the source of each file of the folder after the save
 };
 
 const Planner::Made* Planner::MadeBefore(std::string_view path) const {
@@ -103,14 +104,14 @@ fs::path Planner::Place(const std::string& path) const {
     return made ? made->target : OnDisk(path);
 }
 
-/// "" for a skin that was never read.
+/// "" for a skin that was never loaded.
 std::string Planner::InOldFolder(std::string_view path) const {
     if (skin_.OldSkinName.empty()) return "";
     return WithSeparator(skin_.BasePath() + skin_.OldSkinName) + GetFileName(path);
 }
 
-/// Where the path leads; otherwise the file of that name in the folder that the saved skin had before, and
-/// only then in those of the current skin.
+/// The file the path leads to; otherwise the file of that name in the saved skin's former folder, then in the
+/// folders of the current skin.
 fs::path Planner::FindSource(std::string_view path) const {
     std::vector<std::string> places = PicturePlaces(path, current_);
     places.insert(places.begin() + 1, InOldFolder(path));
@@ -119,8 +120,8 @@ fs::path Planner::FindSource(std::string_view path) const {
     return {};
 }
 
-/// The name under which the picture is stored: its own, or a substitute that no other picture has. One that
-/// the file would give back as a number is none.
+/// The name under which the picture is stored: its own, or else a substitute that no other picture has. A
+/// name that the file would give back as a number is not used.
 std::string Planner::StoredName(const std::string& name, const fs::path& source) const {
     if (CanBeNamed(name) && ReadBack(name) == name) return name;
     for (int number = 1;; ++number) {
@@ -134,7 +135,7 @@ std::string Planner::StoredName(const std::string& name, const fs::path& source)
     }
 }
 
-/// Where the reference leads and what becomes of it, but for whether it is copied.
+/// Plans everything but whether the picture is copied.
 Planner::Known Planner::Resolve(const std::string& given) const {
     Known known;
     PictureStep& step = known.step;
@@ -155,7 +156,7 @@ PictureStep Planner::Plan(const std::string& given) {
     auto known = known_.find(given);
     if (known == known_.end()) known = known_.emplace(given, Resolve(given)).first;
     PictureStep step = known->second.step;
-    if (step.source.empty()) known_.erase(known);  // a step to come may make it
+    if (step.source.empty()) known_.erase(known);  // a later step may make the file
     if (step.target.empty()) return step;
     step.isCopied = !known->second.isInPlace && !(keepExisting_ && IsThere(folder_ + step.stored));
     step.isMade = !step.isCopied && MadeBefore(folder_ + step.stored);
@@ -172,14 +173,14 @@ std::string Planner::Loss(const PictureStep& step) const {
     if (!step.isBlank && step.stored.empty()) return step.given + " is not there";
     const auto winner = winners_.find(step.target);
     if (step.target.empty() || winner == winners_.end()) return "";
-    // A bare name means the file of the folder that the skin was read from.
+    // A bare name means the file in the folder that the skin was read from.
     const std::string old = ContainsSeparator(step.given) ? "" : InOldFolder(step.given);
     const fs::path meant = FileExists(old) ? OnDisk(old) : step.source;
     if (!FileExists(ToText(meant)) || SameFile(meant, winner->second)) return "";
     return ToText(meant) + " gives way to " + ToText(winner->second);
 }
 
-/// One line for all places that lose the same.
+/// Collects the losses, with one line for all places that lose the same picture.
 class LossList {
 public:
     void Add(const std::string& what, const std::string& where) {
@@ -206,7 +207,7 @@ private:
     std::map<std::string, std::size_t> places_;
 };
 
-/// Copies the picture. "" if that went well, otherwise why not.
+/// Copies the picture. Returns "", or the reason why it failed.
 std::string ReasonAgainst(const PictureStep& step) {
     try {
         CopyFileWhole(step.source, step.target);
@@ -236,7 +237,7 @@ SavePlan PlanSave(const dbSkin& skin, bool keepExisting) {
         holders.push_back(holder());
     });
     LossList losses;
-    std::map<std::string, std::string> known;  // what is lost, by the reference
+    std::map<std::string, std::string> known;  // the loss of each reference
     for (std::size_t i = 0; i < holders.size(); ++i) {
         const PictureStep& step = plan.pictures[i];
         const auto [loss, isNew] = known.try_emplace(step.given);
@@ -255,7 +256,7 @@ std::string CarryOut(const PictureStep& step, std::vector<std::string>& failures
     const bool isThere = !step.isMade || FileExists(ToText(step.target));
     if (reason.empty()) return isThere ? step.stored : step.given;
     if (std::find(failures.begin(), failures.end(), reason) == failures.end()) failures.push_back(reason);
-    // A bare name found in the folder that the skin had before would lead nowhere from now on.
+    // A bare name that was found in the skin's former folder would not be found any more.
     const bool leads = ContainsSeparator(step.given) && OnDisk(step.given) == step.source;
     return leads || step.isRefused ? step.given : ToText(step.source);
 }

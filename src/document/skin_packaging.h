@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a save does with the pictures of a skin: planned first, which changes nothing, and carried out then.
-// The model's changes are kept on probation: they are taken back unless the save comes to its end.
+// What a save does with the pictures of a skin. A plan is made first, which changes nothing, and then carried
+// out.
 #pragma once
 
 #include <filesystem>
@@ -16,7 +16,7 @@
 
 namespace ornavo {
 
-/// Sets fields, and puts all of them back as they were unless they are kept.
+/// Changes fields of the model and restores them at its end, unless Keep was called.
 class Probation {
 public:
     Probation() = default;
@@ -38,32 +38,35 @@ private:
     std::vector<std::function<void()>> undo_;
 };
 
-/// The skin's name, or one that the file can hold and that no other skin beside it has.
+/// The skin's name, or, if the file cannot hold it, a substitute that no other skin in the same folder has.
 std::string StorableSkinName(const dbSkin& skin);
 
 /// What a save does with one reference to a picture.
 struct PictureStep {
-    std::string given;   // the reference as it stands
-    std::string stored;  // as the file will have it; "" for one that is blank or leads nowhere
-    std::filesystem::path source, target;  // empty where there is none
+    std::string given;                     // the reference in the model
+    std::string stored;                    // the reference in the file; "" if blank or not found
+    std::filesystem::path source, target;  // empty if there is none
     bool isBlank = false;
-    bool isCopied = false;   // source to target; otherwise no file is touched
-    bool isMade = false;     // the target is there only once an earlier step has made it
-    bool isRefused = false;  // it would take the place of the settings
+    bool isCopied = false;   // source to target; otherwise no file is written
+    bool isMade = false;     // only an earlier step of the plan makes the target
+    bool isRefused = false;  // its name is that of the settings file
 };
 
-/// What a save will do. Nothing has been done yet.
+/// What a save will do.
 struct SavePlan {
-    std::vector<PictureStep> pictures;  // as VisitPictures goes
-    std::vector<std::string> losses;    // what would be dropped, or merged with another; a line each
+    std::vector<PictureStep> pictures;  // in the order of VisitPictures
+    std::vector<std::string> losses;    // what would be dropped or replaced by another picture, a line each
 };
-/// keepExisting leaves what has a picture's name in the skin's folder.
+/// Plans a save. With keepExisting, a file of the skin's folder is not replaced by a picture of the same
+/// name.
 SavePlan PlanSave(const dbSkin& skin, bool keepExisting);
-/// Copies the picture, whole or not at all, and gives the reference that is to be stored. Where no copy can
-/// be made it is a path that leads to the picture, and the reason is added to `failures` unless it is there.
+/// Copies the picture, whole or not at all, and returns the reference to store. If the picture cannot be
+/// copied, that is a path that leads to it, and the reason is appended to `failures` unless it is in there
+/// already.
 std::string CarryOut(const PictureStep& step, std::vector<std::string>& failures);
 
-/// The items whose Order is between 1 and their count, lowest first; the others have no place in the file.
+/// The items whose Order is between 1 and their count, the lowest first; the others are not written to the
+/// file.
 template <class Collection>
 auto InOrder(const Collection& items) {
     using Ref = typename Collection::Ref;
@@ -76,7 +79,7 @@ auto InOrder(const Collection& items) {
     return ordered;
 }
 
-/// The pictures of an element, in the order of the file.
+/// A picture field of an element and its name; the table has the order of the file.
 struct PictureField {
     const char* name;
     std::string dbLayoutElement::*field;
@@ -87,8 +90,8 @@ inline constexpr PictureField PictureFields[] = {{"Normal", &dbLayoutElement::Pi
                                                  {"Down", &dbLayoutElement::PicDown},
                                                  {"Disabled", &dbLayoutElement::PicDisabled}};
 
-/// Goes through the references to pictures that aren't empty, in the order of the file: `visit` gets the
-/// text, a function that tells in words whose it is, and one that sets it on probation.
+/// Visits the references to pictures that aren't empty, in the order of the file. `visit` gets the text, a
+/// function that tells in words where the reference is, and one that sets it by a Probation.
 template <class Visit>
 void VisitPictures(const dbSkin& skin, Visit&& visit) {
     for (const dbSkinPrefRef& pref : *skin.dbSkinPrefs) {

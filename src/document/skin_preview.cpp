@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t MostBytes = 4 << 20;  // of a settings file that is looked into
+constexpr std::uintmax_t MostBytes = 4 << 20;  // of a settings file; a larger one is not read
 constexpr const char* PreviewNames[] = {"preview.png", "preview.jpg", "preview.jpeg", "preview.bmp",
                                         "preview.gif"};
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a skin looks like, for lists of skins: found without opening it.
+// Finds a picture of a skin for lists of skins, without opening the skin.
 #pragma once
 
 #include <filesystem>
@@ -9,11 +9,11 @@
 
 namespace ornavo {
 
-/// The value of the preference "SP_PicPreview" in the bytes of a settings file; "" for none.
+/// The value of the preference "SP_PicPreview" in the bytes of a settings file; "" if there is none.
 std::string PreviewName(std::string_view bytes);
 
-/// The files that may show the skin in the folder, the best first: that which its preferences name, then
-/// those named "preview". Never fails: a settings file that can't be read names none.
+/// The files in the folder that may show the skin, the best first: the one that its preferences name, then
+/// those named "preview". Never fails; a settings file that cannot be read is ignored.
 std::vector<std::filesystem::path> PreviewFiles(const std::filesystem::path& folder);
 
 }  // namespace ornavo

@@ -26,7 +26,7 @@ std::string Line(int tabs, std::string_view tag) {
     return std::string(static_cast<std::size_t>(tabs), '\t').append("<").append(tag).append(">\r\n");
 }
 
-/// The value lines of one kind of object, in their order.
+/// The value lines of objects of type T, in the order of the file.
 template <class T>
 class ValueLines {
 public:
@@ -47,7 +47,7 @@ private:
         bool (*append)(const T&, std::string& bytes);
         std::string open, close;
     };
-    /// A value that has no line, or fails, leaves nothing.
+    /// Appends nothing for a value that has no line or fails.
     static void AppendLine(std::string& file, const OneLine& line, const T& object) {
         const std::size_t before = file.size();
         file += line.open;
@@ -61,7 +61,7 @@ private:
     std::vector<OneLine> lines_;
 };
 
-/// Fonts of preferences and of elements stand at different depths.
+/// `Tabs` is the indentation, which is different for preferences and elements.
 template <int Tabs>
 void AppendFont(std::string& file, const FontRef& font) {
     static const ValueLines<Font> lines(Tabs + 1,
@@ -95,7 +95,7 @@ void AppendPoints(std::string& file, const dbPoints& points) {
     file += Line(3, "/Points");
 }
 
-/// Rotation and Resizer stand twice: so do the files that the jukebox knows.
+/// Rotation and Resizer are there twice, as in the files that the jukebox writes.
 // clang-format off
 constexpr std::array<std::string_view, 58> ElementTags = {
     "Key", "ElementName", "Caption", "Order", "ElementType", "ActionType", "Value", "LeftX", "Visible",
@@ -135,7 +135,7 @@ void AppendLayouts(std::string& file, const dbLayouts& layouts) {
     file += Line(1, "/Layouts");
 }
 
-/// The pictures that could not be copied, each with its reason.
+/// Copies the pictures. Returns those that could not be copied, each with its reason.
 std::vector<std::string> PackagePictures(const dbSkin& skin, bool keepExisting, Probation& probation) {
     const SavePlan plan = PlanSave(skin, keepExisting);
     std::vector<std::string> failures;

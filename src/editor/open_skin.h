@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A skin that is opened by a gesture, wherever on the windows that is.
+// Opens a skin for any window of the program.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@ namespace ornavo {
 
 class Windows;
 
-inline constexpr const char* LoadingError = "Loading Skin Error";  // the title of what is told
+inline constexpr const char* LoadingError = "Loading Skin Error";  // title of the error message
 
-/// Opens the skin of that path. One that can't be opened is told.
+/// Opens the skin at this path; a failure is shown in a message box.
 void OpenSkin(Windows& windows, const std::string& path);
 
 }  // namespace ornavo

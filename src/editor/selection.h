@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is selected: one control at a time, and the key of what it stands for.
+// The selection: one control at a time, and the key of its element.
 #pragma once
 
 #include <functional>
@@ -11,30 +11,30 @@ namespace ornavo {
 
 class Control;
 
-bool IsCorner(const Control& control);  // of the shape
+bool IsCorner(const Control& control);  // whether the control is a corner of the shape
 
-/// Knows no window: whoever owns it says how a corner of the shape shows that it is selected.
+/// The selected control and its key. Uses no window: its owner passes in how to mark a selected corner.
 class Selection {
 public:
     using ShowCorner = std::function<void(Control& corner, bool selected)>;
     explicit Selection(ShowCorner showCorner);
 
     Control* SelControl() const { return control_; }  // null: nothing is selected
-    /// The Tag of the selected control; "" for nothing, and for a control without an element.
+    /// The Tag of the selected control; "" without a selection and for a control without an element.
     const std::string& SelKey() const { return key_; }
     bool IsCorner() const;
 
-    /// The control of an element or of a corner.
+    /// Selects the control of an element or of a corner.
     void Select(Control& control);
-    /// A control without an element: of the panel's sample, or the button for all of the skin.
+    /// Selects a control without an element: one of the sample panel, or the button for the whole skin.
     void SelectSample(Control& control);
-    /// Another control shows the same key, since a composition deals all controls anew.
+    /// Selects another control for the same key, because a composition hands out all controls anew.
     void Follow(Control& control);
-    /// The control has been removed. The key stays until the next selection.
+    /// Call when the control has been removed. The key is kept until the next selection.
     void ForgetControl();
     void Clear();
 
-    /// While the scope lives, the handles go without the properties panel.
+    /// While the result lives, removing the handles leaves the properties panel open.
     [[nodiscard]] Raised KeepPropertiesOpen() { return Raised(keepsPropertiesOpen_); }
     bool KeepsPropertiesOpen() const { return keepsPropertiesOpen_; }
 

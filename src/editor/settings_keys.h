@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every setting with its section, key and default, once. Rectangles are twips.
+// All settings with section, key and default. Rectangles are in twips.
 #pragma once
 
 #include "platform/settings.h"
@@ -32,7 +32,7 @@ inline constexpr Setting<int> PropertiesLeft = {"Properties", "Left", 9045};
 inline constexpr Setting<int> PropertiesTop = {"Properties", "Top", 4035};
 inline constexpr Setting<int> PropertiesWidth = {"Properties", "Width", 4800};
 
-/// By default the preview opens where the main window stands.
+/// The preview opens at the main window's position by default.
 constexpr Setting<int> PreviewLeft(int standard) {
     return {"Skin-Preview", "Left", standard};
 }

@@ -30,14 +30,14 @@ void cColourise::Process(const cDIBSection& Source, cDIBSection& Dest) {
     if (!sameSize || !InRange(Hue) || !InRange(Saturation)) return ProcessByRule(Source, Dest);
     table_.Make(Hue, Saturation);
     const std::int64_t stride = Source.BytesPerScanLine(), height = Source.Height();
-    if (stride % 3 == 0)  // no byte between the rows that stays as it is
+    if (stride % 3 == 0)  // rows without padding that must stay as it is
         return table_.Apply(Source.DIBSectionBitsPtr(), Dest.DIBSectionBitsPtr(), stride / 3 * height);
     for (int y = 0; y < height; ++y) table_.Apply(Source.ScanLine(y), Dest.ScanLine(y), stride / 3);
 }
 
 void cColourise::ProcessByRule(const cDIBSection& Source, cDIBSection& Dest) const {
     const float targetHue = TargetHue(Hue), targetSaturation = TargetSaturation(Saturation);
-    // Column by column, which shows in what is written when it ends part-way.
+    // Column by column, because the order decides what has been written when a failure ends it part-way.
     for (int x = 0; x <= Source.BytesPerScanLine() - 3; x += 3) {
         for (int y = 0; y < Source.Height(); ++y) {
             const std::uint8_t* from = Source.ScanLine(y) + x;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Recolours a whole picture: every pixel gets the one hue and saturation and keeps its lightness.
+// Recolours a whole picture: every pixel gets one hue and saturation, and keeps its lightness.
 #pragma once
 
 #include <cstdint>
@@ -9,22 +9,21 @@
 
 namespace ornavo {
 
+/// The recolouring with the user's two settings.
 class cColourise {
 public:
-    std::int32_t Hue = 0;         // 0 to 255 is once around the circle, from magenta to magenta
-    std::int32_t Saturation = 0;  // 0, grey, to 255
+    std::int32_t Hue = 0;         // 0 to 255 is once around the circle, magenta to magenta
+    std::int32_t Saturation = 0;  // 0 (grey) to 255
 
     /// Writes the recoloured Source into Dest, which has the same size or is the same picture. Three bytes of
-    /// padding at the end of a row are recoloured as if they were a pixel, less are left alone.
-    /// Failure 9 part-way if Dest is smaller; 6 part-way if a setting outside 0 to 255 leads to a channel
-    /// outside of it.
+    /// padding at the end of a row are recoloured like a pixel; fewer are left as they are. Failure 9
+    /// part-way if Dest is smaller; 6 part-way if a setting outside 0 to 255 gives a channel outside of it.
     void Process(const cDIBSection& Source, cDIBSection& Dest);
-    /// The same bytes and failures pixel by pixel, through both conversions. Slow, and what Process is held
-    /// against.
+    /// Does the same with both conversions for every pixel. Slow; the tests compare Process with it.
     void ProcessByRule(const cDIBSection& Source, cDIBSection& Dest) const;
 
 private:
-    ColourTable table_;  // of the last call
+    ColourTable table_;  // made for the last call
 };
 
 }  // namespace ornavo

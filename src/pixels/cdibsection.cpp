@@ -19,13 +19,13 @@ namespace {
 constexpr const char* SourceName = "Ornavo.cDIBSection";
 constexpr int FileHeaderBytes = 14;
 constexpr int InfoHeaderBytes = 40;
-constexpr int BytesBeforeBits = FileHeaderBytes + InfoHeaderBytes + 4;  // 4: the first colour of no palette
+constexpr int BytesBeforeBits = FileHeaderBytes + InfoHeaderBytes + 4;  // 4: an unused colour of a palette
 
 Failure NoPicture() {
     return Failure(Failure::InvalidCall, SourceName, "There is no picture");
 }
 
-/// Little-endian numbers, one after the other.
+/// A buffer of little-endian numbers and bytes.
 class Bytes {
 public:
     explicit Bytes(std::size_t room) { bytes_.reserve(room); }
@@ -45,7 +45,7 @@ private:
     std::string bytes_;
 };
 
-/// Where a new row or column falls between two old ones; the edge stands in for a missing neighbour.
+/// The position of a new row or column between two old ones. At the edge the last one counts twice.
 struct Between {
     Between(int place, float scale, int size)
         : first(static_cast<int>(place * double{scale})),

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A picture of 24 bits a pixel whose bytes can be reached: blue, green, red, the bottom row first, each row
-// padded to a multiple of four bytes. It resamples itself and writes itself as a BMP file.
+// A 24-bit picture whose bytes are accessible: blue, green, red, the bottom row first, each row padded to a
+// multiple of four bytes. It resamples itself and writes itself as a BMP file.
 #pragma once
 
 #include <cstddef>
@@ -10,16 +10,18 @@
 
 namespace ornavo {
 
+/// A 24-bit picture in memory. Until Create it has no pixels.
 class cDIBSection {
 public:
-    /// What fits into the sizes of a BMP file with its headers.
+    /// Bytes of pixels that the size fields of a BMP file can hold beside its headers.
     static constexpr std::int64_t ByteLimit = 0x7fffffff - 58;
 
-    /// Frees the old picture and takes memory for a black one. False, and no picture, if a side is below one
-    /// pixel, the bytes pass ByteLimit (found before memory is taken), or there is no memory.
+    /// Replaces the picture with a black one of this size in pixels. False, and no picture, if a side is less
+    /// than one pixel, the pixels need more than ByteLimit (checked before memory is taken), or memory is
+    /// short.
     bool Create(int Width, int Height);
-    /// The same, filled from 32-bit words 0x??RRGGBB in the machine's byte order, the top row first,
-    /// `bytesPerRow` from the start of one row to that of the next.
+    /// As Create, filled from 32-bit words 0x??RRGGBB in the machine's byte order, the top row first.
+    /// `bytesPerRow` is the distance between the starts of two rows.
     bool CreateFromPicture(const std::uint8_t* words, int Width, int Height, std::ptrdiff_t bytesPerRow);
     void ClearUp();
 
@@ -31,14 +33,13 @@ public:
     std::uint8_t* ScanLine(int y) { return bits_.data() + std::ptrdiff_t{y} * stride_; }  // 0 at the bottom
     const std::uint8_t* ScanLine(int y) const { return bits_.data() + std::ptrdiff_t{y} * stride_; }
 
-    /// The picture in another size, each pixel mixed from the four around its place. Failure 5 without a
-    /// picture, 7 where Create refuses the new size.
+    /// The picture in another size in pixels; each new pixel is mixed from the four old ones nearest to its
+    /// place. Failure 5 without a picture, 7 if Create refuses the size.
     cDIBSection Resample(int NewHeight, int NewWidth) const;
-    /// Noise in all pixels; one seed, one noise.
+    /// Fills all pixels with noise; the same seed gives the same noise.
     void RandomiseBits(std::uint32_t seed);
-    /// A BMP file of 58 bytes of headers and then the bits; whole when the call returns, and the old file
-    /// untouched when it throws. Failure 5 without a picture, else that of ReplaceFile, with this class as
-    /// source.
+    /// Writes a BMP file of 58 bytes of headers and the pixels, whole or not at all; an old file stays when
+    /// it throws. Failure 5 without a picture, otherwise that of ReplaceFile with this class as source.
     void SavePicture(const std::filesystem::path& FileName) const;
 
 private:

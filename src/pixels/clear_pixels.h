@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pixels of a picture that are to be clear in a file that has one colour for that and no transparency.
+// Transparent pixels for a file format that has only a key colour.
 #pragma once
 
 #include <cstddef>
@@ -10,18 +10,19 @@
 
 namespace ornavo {
 
-/// Colours are 0x00RRGGBB. All pictures are of the size of the first one, or empty.
+/// The set of a picture's pixels that are to be transparent. Colours are 0x00RRGGBB. All pictures passed in
+/// have the size of the first, or are empty.
 class ClearPixels {
 public:
-    ClearPixels() = default;  // none
-    /// Those of 32-bit words 0xAA?????? whose alpha is below 128; the words lie as in CreateFromPicture.
+    ClearPixels() = default;  // no pixel
+    /// The pixels whose alpha is below 128, from 32-bit words 0xAA?????? laid out as for CreateFromPicture.
     ClearPixels(const std::uint8_t* words, int Width, int Height, std::ptrdiff_t bytesPerRow);
 
     bool Any() const { return any_; }
     bool AtTopLeft() const { return !clear_.empty() && clear_.front(); }
-    void AddColour(const cDIBSection& picture, std::uint32_t colour);  // all pixels of it
+    void AddColour(const cDIBSection& picture, std::uint32_t colour);  // adds all pixels of this colour
     void Paint(cDIBSection& picture, std::uint32_t colour) const;
-    /// A colour that no other pixel has: magenta, or the first free one from there.
+    /// A colour that no other pixel has: magenta, or the next free one after it.
     std::uint32_t UnusedColour(const cDIBSection& picture) const;
 
 private:
@@ -29,7 +30,7 @@ private:
     bool any_ = false;
 };
 
-/// Black without a picture.
+/// 0x00RRGGBB; black without a picture.
 std::uint32_t TopLeftColour(const cDIBSection& picture);
 
 }  // namespace ornavo

@@ -26,8 +26,8 @@ std::uint32_t Packed(float hue, float saturation, float lightness) {
     return colour;
 }
 
-/// The last colour of each sum of two channels. Pairs of one sum have nearly, but not always, the same
-/// lightness, so it is compared.
+/// The last colour of a sum of greatest and least channel. Pairs of the same sum have nearly always, but not
+/// always, the same lightness, so it is compared.
 struct Remembered {
     float lightness = -1;
     std::uint32_t colour = 0;
@@ -40,9 +40,8 @@ std::array<float, Levels> Shares() {
     return shares;
 }
 
-/// The index of the pixel that would begin at each byte of a block; two thirds of them are not asked for.
-/// That costs less than taking the pixels apart: with a count that it knows, GCC turns this loop into wide
-/// instructions by itself. Reads two bytes beyond the block.
+/// The table index of the pixel that would begin at each byte of a block, though only every third is needed:
+/// GCC vectorises this loop, which is faster than taking the pixels apart. Reads two bytes beyond the block.
 void Indices(const std::uint8_t* from, std::uint16_t* indices) {
     for (int i = 0; i < BlockBytes; ++i) {
         const std::uint8_t a = from[i], b = from[i + 1], c = from[i + 2];
@@ -52,7 +51,8 @@ void Indices(const std::uint8_t* from, std::uint16_t* indices) {
     }
 }
 
-/// Two pixels and two bytes more, to be overwritten by the next pair: fewer and wider stores.
+/// Writes two pixels and two bytes more, which the next pair overwrites: one wide store is faster than
+/// several.
 void PutPair(std::uint8_t* to, std::uint64_t first, std::uint64_t second) {
     constexpr bool LowByteFirst = std::endian::native == std::endian::little;
     const std::uint64_t pair = LowByteFirst ? first | second << 24 : first << 32 | second << 8;
@@ -95,13 +95,13 @@ std::uint32_t ColourTable::ColourOf(const std::uint8_t* pixel) const {
 
 void ColourTable::Apply(const std::uint8_t* from, std::uint8_t* to, std::int64_t count) const {
     const std::uint32_t* const colours = colours_.data();
-    // Not the last block: a pixel must follow, for its bytes are read.
+    // The last block is left out because Indices reads beyond its block.
     for (; count > BlockPixels; count -= BlockPixels, from += BlockBytes, to += BlockBytes) {
         std::array<std::uint16_t, BlockBytes> indices;
         Indices(from, indices.data());
         for (std::size_t i = 0; i < BlockBytes - 6; i += 6)
             PutPair(to + i, colours[indices[i]], colours[indices[i + 3]]);
-        // Nothing beyond the block: in place it has yet to be read.
+        // Write nothing beyond the block: with from == to, it has not been read yet.
         std::memcpy(to + BlockBytes - 6, &colours[indices[BlockBytes - 6]], 4);
         std::memcpy(to + BlockBytes - 3, &colours[indices[BlockBytes - 3]], 3);
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The colours of one hue and saturation, by the greatest and the least channel of the pixel that they
-// replace: nothing else of a pixel decides its lightness.
+// The recoloured pixels for one hue and saturation. A pixel's lightness depends only on its greatest and
+// least channel, so a table by these two has them all.
 #pragma once
 
 #include <cstdint>
@@ -8,22 +8,22 @@
 
 namespace ornavo {
 
+/// The table of the new colours by greatest and least channel.
 class ColourTable {
 public:
-    /// Ready for these two, each 0 to 255; nothing is done if it is already.
+    /// Computes the table for hue and saturation, each 0 to 255, unless it has it already.
     void Make(int hue, int saturation);
-    /// Replaces `count` pixels of blue, green, red. The two places are the same or lie apart.
+    /// Replaces `count` pixels of blue, green, red. `from` and `to` are equal or do not overlap.
     void Apply(const std::uint8_t* from, std::uint8_t* to, std::int64_t count) const;
 
 private:
     std::uint32_t ColourOf(const std::uint8_t* pixel) const;
     int hue_ = -1;
     int saturation_ = -1;
-    std::vector<std::uint32_t> colours_;  // at greatest * 256 + least: blue, green, red, 0 as bytes of memory
+    std::vector<std::uint32_t> colours_;  // at greatest * 256 + least; bytes blue, green, red, 0
 };
 
-/// The scales of the two settings, as the conversions take them: 0 to 255 are once around the circle, from -1
-/// to 5, and 0 to 1.
+/// Convert the settings 0 to 255 to the scales of HLSToRGB: the hue to -1 to 5, the saturation to 0 to 1.
 float TargetHue(int hue);
 float TargetSaturation(int saturation);
 

@@ -17,11 +17,13 @@ float SaturationOf(double max, double min, float lightness) {
     return Narrow(lightness > 0.5f ? (max - min) / (2 - max - min) : (max - min) / (max + min));
 }
 
+/// Channels of 0 to 1.
 struct Channels {
     float r, g, b;
 };
 
-/// The least channel is `min`, the greatest `max`; `d` lies between them and is their narrowed difference.
+/// The colour of hue H whose least channel is `min` and greatest `max`; `d` is their difference, rounded to a
+/// float.
 Channels OnCircle(double H, float min, float max, double d) {
     if (H < 0) return {max, min, Narrow(min - d * H)};
     if (H < 1) return {max, Narrow(d * H + min), min};

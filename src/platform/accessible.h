@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What a screen reader is told of a widget beyond what Qt knows.
+// How the program tells a screen reader more about a widget than Qt does.
 #pragma once
 
 #include <QAccessibleWidget>
 
 namespace ornavo {
 
-/// From the first call on, a screen reader asks an Interface, made from it, about each Widget.
+/// Registers Interface as the accessibility interface of every Widget. Calls after the first do nothing.
 template <class Widget, class Interface>
 void TellReaders() {
     const auto make = [](const QString&, QObject* object) -> QAccessibleInterface* {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Where a text or a picture stands across its control.
+// The horizontal alignment of a text or a picture in its control.
 #pragma once
 
 namespace ornavo {
 
-enum AlignmentCode { LeftAligned = 0, RightAligned = 1, Centred = 2 };  // a file may hold any number
+enum AlignmentCode { LeftAligned = 0, RightAligned = 1, Centred = 2 };  // a file may contain any other number
 
 }  // namespace ornavo

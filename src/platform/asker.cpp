@@ -11,15 +11,15 @@ namespace {
 
 constexpr int Patience = 400, Doubt = 30;  // milliseconds
 
-/// A desktop that sees a box go only later gives the keyboard to another window then. It is taken back once,
-/// unless the user has pressed a button there.
+/// Watches the focus for a while. A desktop that notices late that a dialog has closed then focuses another
+/// window. The focus is taken back once, unless the user has pressed a mouse button.
 class Watch : public QObject {
 public:
     explicit Watch(QWidget* window) : QObject(window), window_(window) {
         qApp->installEventFilter(this);
         QTimer::singleShot(Patience, this, &QObject::deleteLater);
         connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focus) {
-            // The press that gave another window the keyboard is heard after it.
+            // The press by which the user focused another window is reported after the focus change.
             if (focus && focus != window_->windowHandle())
                 QTimer::singleShot(Doubt, this, [this] { TakeBack(); });
         });

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window that a box is asked from.
+// Returns the keyboard focus to the window that opened a dialog.
 #pragma once
 
 #include <QPointer>
@@ -7,11 +7,11 @@
 
 namespace ornavo {
 
-/// The window gets the keyboard, also where a desktop gives it to the main window when a box has gone.
-/// Nothing for null or a window that is hidden.
+/// Gives the window the keyboard focus, and takes it back once if the desktop gives it to another window
+/// shortly after. Does nothing for null or a hidden window.
 void GiveKeyboardTo(QWidget* window);
 
-/// Lives while a box is open: the window gets the keyboard back when this goes.
+/// Lives while a dialog is open; the destructor gives the window the keyboard focus back.
 class Asker {
 public:
     explicit Asker(QWidget* window) : window_(window) {}

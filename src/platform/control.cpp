@@ -14,8 +14,9 @@
 namespace ornavo {
 namespace {
 
-constexpr int MostPixels = (1 << 24) - 1;  // a place or size beyond it is cut to it
+constexpr int MostPixels = (1 << 24) - 1;  // a position or size beyond it is clamped
 
+/// The Qt cursor of a pointer shape.
 struct Pointer {
     MousePointer shape;
     Qt::CursorShape cursor;
@@ -26,13 +27,14 @@ constexpr std::array Pointers = {
     Pointer{PointerLeftRight, Qt::SizeHorCursor}, Pointer{PointerSizeAll, Qt::SizeAllCursor},
 };
 
-/// The codes of the buttons are Qt's own.
+/// The numbers of the buttons are Qt's own.
 Mouse MouseOf(const QMouseEvent& event, int button) {
     const QPoint at = event.position().toPoint();
     const QPoint onScreen = event.globalPosition().toPoint();
     return {button, ShiftOf(event.modifiers()), at.x(), at.y(), onScreen.x(), onScreen.y()};
 }
 
+/// Tells a screen reader a control's role, and its bounds as the description.
 class AccessibleControl : public QAccessibleWidget {
 public:
     explicit AccessibleControl(Control* control) : QAccessibleWidget(control) {}

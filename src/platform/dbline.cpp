@@ -11,8 +11,8 @@
 namespace ornavo {
 namespace {
 
-constexpr int Spare = 2;        // keeps the control of a level or upright line from being empty
-constexpr int Farthest = 8192;  // pixels of the parent beyond which nobody points
+constexpr int Spare = 2;        // pixels; so that the control of a horizontal or vertical line is not empty
+constexpr int Farthest = 8192;  // pixels of the parent; nobody clicks farther away
 const QColor Shade(0, 0, 0, 110);
 
 int Extent(int one, int two) {
@@ -20,12 +20,13 @@ int Extent(int one, int two) {
     return static_cast<int>(std::min<std::int64_t>(distance, std::numeric_limits<int>::max() - Spare));
 }
 
-/// What lies within so many pixels of the line, row by row; of a control at that place and size.
+/// The region of the control within this many pixels of the line. `line` is in the control's pixels,
+/// `control` in its parent's.
 QRegion NearLine(const Rect& line, int pixels, const Rect& control) {
     const int first = std::max(0, -control.top), last = std::min(control.height, Farthest - control.top);
     if (line.height == 0) return QRegion(0, 0, control.width, control.height);
     const double slope = static_cast<double>(line.width) / line.height;
-    const double reach = pixels * std::sqrt(1 + slope * slope);  // of a row, on each side of the line
+    const double reach = pixels * std::sqrt(1 + slope * slope);  // in each row, to each side of the line
     std::vector<QRect> rows;
     for (int y = first; y < last; ++y) {
         const double x = line.left + slope * (y - line.top);
@@ -82,7 +83,7 @@ void dbLine::MoveTo(int x1, int y1, int x2, int y2) {
     LayInnerLine();
 }
 
-/// From corner to corner, in the direction of the ends.
+/// From corner to corner of the control, in the direction from the first end to the second.
 void dbLine::LayInnerLine() {
     const int width = Extent(x1_, x2_), height = Extent(y1_, y2_);
     const Rect before = inner_;

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A straight line that is a control of its own and can be hit.
+// A straight line as a control that can be clicked.
 #pragma once
 
 #include "platform/control.h"
 
 namespace ornavo {
 
+/// A line between two points of its parent.
 class dbLine : public Control {
 public:
     dbLine(QWidget* parent, std::string name, int index = 0);
@@ -14,21 +15,23 @@ public:
     int Y1() const { return y1_; }
     int X2() const { return x2_; }
     int Y2() const { return y2_; }
-    /// Ends in the parent's pixels. Each setter moves only its own axis.
+    /// Set one coordinate of an end, in the parent's pixels. Each setter moves the control along one axis
+    /// only.
     void SetX1(int x);
     void SetX2(int x);
     void SetY1(int y);
     void SetY2(int y);
-    /// Places the control so that it just surrounds the line, with 2 pixels to spare each way.
+    /// Sets both ends, in the parent's pixels. The control is the line's bounding box, 2 pixels wider and
+    /// higher.
     void MoveTo(int x1, int y1, int x2, int y2);
 
     int BorderWidth = 1;
-    bool Shaded = false;  // with a dark rim, so that a light line shows on a light ground
+    bool Shaded = false;  // with a dark rim, so that a light line is visible on a light background
     Colour BorderColor = ornavo::ColourOf(0x80000008);
-    /// From now on the line alone is hit, with so many pixels to each side; what else its control covers lets
-    /// the mouse through to what lies below. 0: the whole control is hit.
+    /// From now on only the line, widened by this many pixels on each side, can be clicked; the rest of the
+    /// control passes the mouse to what is below. 0: the whole control can be clicked.
     void SetHitWidth(int pixels);
-    Rect InnerLine() const { return inner_; }  // left, top to left + width, top + height; signed
+    Rect InnerLine() const { return inner_; }  // in the control's pixels; a negative width runs left
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -25,10 +25,11 @@ constexpr std::size_t MostFonts = 256;
 
 using FontKey = std::tuple<std::string, int, bool, bool, bool, bool>;  // name, pixels, attributes
 
+/// A face that skins name, and the installed face that replaces it.
 struct StandIn {
     const char* asked;
     const char* used;
-    int stretch = QFont::Unstretched;  // where the stand-in runs wider than what was asked
+    int stretch = QFont::Unstretched;  // narrower, because the stand-in is wider than the original
 };
 
 constexpr std::array StandIns = {
@@ -57,14 +58,14 @@ const StandIn* StandInOf(std::string_view name) {
     return found == StandIns.end() ? nullptr : &*found;
 }
 
-/// A name that is none gives the default face.
+/// The default face if the name is blank or a number.
 std::string FaceOf(std::string_view name) {
     const std::string_view face = TrimBlanks(name);
     return face.empty() || IsNumeric(face) ? DefaultFace : std::string(face);
 }
 
 int PixelSize(double points) {
-    const double known = points > 0 ? std::min(points, MostPoints) : 0;  // no number is 0 too
+    const double known = points > 0 ? std::min(points, MostPoints) : 0;  // NaN becomes 0
     return std::max(1, static_cast<int>(std::lround(known * DotsPerPoint)));
 }
 
@@ -78,7 +79,7 @@ QFont NewScreenFont(const Font& font) {
     screen.setFamilies(faces << LastResort);
     screen.setPixelSize(PixelSize(font.Size));
     const bool stood = standIn && !QFontDatabase::hasFamily(screen.families().front());
-    // The application's own font is where a new one begins, its stretch included.
+    // A QFont starts as a copy of the application's font, stretch included.
     screen.setStretch(stood ? standIn->stretch : static_cast<int>(QFont::Unstretched));
     screen.setBold(font.Bold);
     screen.setItalic(font.Italic);
@@ -90,7 +91,7 @@ QFont NewScreenFont(const Font& font) {
     return screen;
 }
 
-/// The fonts made so far: making one costs more than drawing a caption with it.
+/// The fonts made so far, because making one costs more than drawing a caption.
 std::map<FontKey, QFont>& MadeFonts() {
     static std::map<FontKey, QFont> made;
     return made;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The record of a font becomes a font of the screen, the old fonts' stand-ins and symbols included.
+// Converts a skin's font to a font of the screen, with stand-ins for old and symbol fonts.
 #pragma once
 
 #include <QFont>
@@ -10,11 +10,13 @@
 
 namespace ornavo {
 
-/// Points are 96-dpi points on every screen: size * 96 / 72 pixels, rounded, at least 1.
+/// The screen's font. A point is 1/72 inch at 96 dpi on every screen: size * 96 / 72 pixels, rounded, at
+/// least 1.
 QFont ScreenFont(const Font& font);
-/// The text as this font shows it: for a symbol font each character becomes its symbol.
+/// The text as this font draws it: with a symbol font each character becomes its symbol.
 QString ShownText(const Font& font, std::string_view text);
-/// Stand-ins for the jukebox's usual faces. Once, after QApplication and before the first window.
+/// Registers the stand-ins for the jukebox's usual faces. Call once, after QApplication and before the first
+/// window.
 void InstallFontSubstitutes();
 
 }  // namespace ornavo

@@ -14,7 +14,7 @@
 namespace ornavo {
 namespace {
 
-constexpr QSize Graspable = {64, 8};  // so much of the title must lie on a screen
+constexpr QSize Graspable = {64, 8};  // pixels of the title bar that must be on a screen
 
 int FrameWidth() {
     return 2 * screenMetrics.SM_CXFRAME;
@@ -37,7 +37,7 @@ bool CanBeGrasped(const QRect& title) {
     });
 }
 
-/// The corner of a window of that outer size, moved onto the first screen if its title can't be grasped.
+/// The corner of a window of this outer size, moved onto the first screen if its title bar cannot be reached.
 QPoint VisibleCorner(QPoint corner, const QSize& outer) {
     const QScreen* first = QGuiApplication::primaryScreen();
     if (!first || CanBeGrasped({corner, QSize(outer.width(), screenMetrics.SM_CYSIZE)})) return corner;
@@ -75,7 +75,8 @@ void Form::MoveFrame(const QPoint& corner) {
     corner_ = corner;
     if (isVisible() || !windowHandle()) move(corner);
     if (!windowHandle()) return;
-    // A hidden window's new size would come at the next show, and with it a place that knows no frame.
+    // Otherwise a hidden window would take its new size when it is shown, at a position that ignores the
+    // frame.
     windowHandle()->resize(size());
     windowHandle()->setFramePosition(corner);
 }
@@ -97,21 +98,21 @@ void Form::SetWindowState(int state) {
 bool Form::event(QEvent* event) {
     const QEvent::Type type = event->type();
     const bool taken = QWidget::event(event);
-    if (type == QEvent::DeferredDelete) return taken;  // nothing is left of the window
+    if (type == QEvent::DeferredDelete) return taken;  // the window has been deleted
     if (type == QEvent::WindowActivate) Form_Activate();
     if (type == QEvent::Move) TakeCorner(event->spontaneous());
     if (type == QEvent::Show && !event->spontaneous()) KeepCorner();
     return taken;
 }
 
-/// The desktop also moves a window when it takes the frame off or puts it on; what it then tells of the place
-/// knows no frame. It is the user's move only once the window is on the screen.
+/// Notes the new position. The desktop also moves a window when it adds or removes the frame, and then
+/// reports a position without the frame; so its moves count only while the window is on the screen.
 void Form::TakeCorner(bool byDesktop) {
     const bool onScreen = isVisible() && windowHandle() && windowHandle()->isExposed();
     if (WindowState() == StateNormal && (onScreen || !byDesktop)) corner_ = pos();
 }
 
-/// What resized the window while it was hidden would have moved it by its frame.
+/// Restores the position: a resize while the window was hidden would have moved it by its frame.
 void Form::KeepCorner() {
     if (testAttribute(Qt::WA_Moved) && WindowState() == StateNormal) MoveFrame(corner_);
 }

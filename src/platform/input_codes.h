@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The codes of mouse buttons, modifier keys and pointer shapes.
+// The numeric codes of mouse buttons, modifier keys and pointer shapes.
 #pragma once
 
 namespace ornavo {
 
-enum MouseButton { LeftButton = 1, RightButton = 2 };  // 4 is the middle one
+enum MouseButton { LeftButton = 1, RightButton = 2 };  // 4 is the middle button
 
 enum ShiftMask { ShiftKey = 1, CtrlKey = 2, AltKey = 4 };
 

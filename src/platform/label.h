@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A text that lies on its parent without a ground of its own.
+// A text without a background of its own.
 #pragma once
 
 #include <string>
@@ -10,16 +10,16 @@
 
 namespace ornavo {
 
+/// A text on its parent. The members take effect at Refresh.
 class Label : public Control {
 public:
     Label(QWidget* parent, std::string name, int index = 0);
 
-    std::string Caption;  // lines end in CR LF; a line too long for the label goes on below. All of these
-                          // take effect at Refresh
+    std::string Caption;  // lines end in CR LF; long lines are wrapped unless AutoSize
     ornavo::Font Font;
     Colour ForeColor = 0;
     int Alignment = LeftAligned;  // AlignmentCode
-    bool AutoSize = false;        // as large as the text, whose lines then are not broken
+    bool AutoSize = false;        // the control gets the size of the text, whose lines are not wrapped
 
     void Refresh() override;
 
@@ -34,7 +34,7 @@ private:
         int flags = 0;
         bool operator==(const Look&) const = default;
     };
-    Look look_;  // what was last drawn
+    Look look_;  // as last drawn
 };
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How large the panels are: as large as the desktop's own text asks for.
+// The size of the panels, which follows the size of the desktop's text.
 #pragma once
 
 #include <QFont>
@@ -9,11 +9,12 @@ class QWidget;
 
 namespace ornavo {
 
-/// Our face in the size of the desktop's own font, whatever the screen's dpi.
+/// The program's face in the size of the desktop's font, whatever the screen's dpi.
 QFont PanelFont(const QFont& desktop);
 
-/// A panel's measures are designed for 9 points at 96 dpi. They grow with the line height of its font, and
-/// never shrink. Stored widths are the designed ones, so that they mean the same under every font.
+/// Scales a panel's measures, which are designed for 9 points at 96 dpi, by the line height of its font;
+/// never below the designed size. Stored widths are designed ones, so that they mean the same with every
+/// font.
 class PanelScale {
 public:
     explicit PanelScale(const QFont& font);
@@ -22,7 +23,7 @@ public:
 
     int operator()(int designed) const;  // pixels or twips
     QSize operator()(const QSize& designed) const;
-    int Designed(int shown) const;  // the way back
+    int Designed(int shown) const;  // the inverse
 
 private:
     int line_, designedLine_;  // heights of a line, pixels

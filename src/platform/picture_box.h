@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A box with a background, a tiled picture or one at its natural size, and a drawn layer over it.
+// A rectangle with a background, a tiled or a plain picture, and a drawn layer on top.
 #pragma once
 
 #include <QPixmap>
@@ -10,19 +10,21 @@
 
 namespace ornavo {
 
+/// The control of info elements and of the sample's panel.
 class PictureBox : public Control {
 public:
     PictureBox(QWidget* parent, std::string name, int index = 0);
 
-    void SetPicture(PictureRef picture);  // at the box's top left, natural size; null for none
+    void SetPicture(PictureRef picture);  // at the top left in its natural size; null for none
     const PictureRef& GetPicture() const { return picture_; }
-    void Tile(PictureRef picture);  // from the top left over all of the box, also when it grows
-    void Cls();                     // takes away the tiles and empties the drawn layer
-    /// Draws into the layer, which has the box's size.
+    void Tile(PictureRef picture);  // repeated from the top left over the whole box, also after a resize
+    void Cls();                     // removes the tiles and everything drawn
+    /// Draws into the layer, which is as large as the box. Does nothing if the box is empty or too large.
     void Draw(const std::function<void(QPainter&)>& drawing);
-    /// A single line of text, its rectangle's top left given; nothing is broken, "&" is a character.
+    /// Draws one line of text with its top left at that of the area, clipped to the area. Line breaks and "&"
+    /// have no special meaning.
     void DrawText(std::string_view text, const Rect& area);
-    int TextWidth(std::string_view text) const;  // pixels, of such a line
+    int TextWidth(std::string_view text) const;  // pixels, for a line that DrawText draws
 
     ornavo::Font Font;
     Colour ForeColor = 0;

@@ -9,7 +9,7 @@
 namespace ornavo {
 namespace {
 
-/// The editor's own scale is 0 to 127, of which it uses the best alone; the encoder's is 0 to 100.
+/// The jukebox's quality scale ends at 127, the encoder's at 100. Only the best quality is used.
 constexpr int BestQuality = 127, ScaleEnd = 127, EncoderScaleEnd = 100;
 
 constexpr int EncoderQuality(int quality) {

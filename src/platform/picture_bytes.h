@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A picture loses its transparency, and becomes the bytes of a file.
+// Removes the transparency of a picture, and encodes a picture as a file.
 #pragma once
 
 #include <QColor>
@@ -8,14 +8,14 @@
 
 namespace ornavo {
 
-/// Whether any pixel of a picture in a 32-bit format is not opaque.
+/// Whether a pixel of the picture, which has a 32-bit format, is not opaque.
 bool IsSeeThrough(const QImage& picture);
-/// The picture on a ground of that colour, 32 bits a pixel, opaque.
+/// The picture on a background of this colour; 32 bits a pixel, opaque.
 QImage Flattened(const QImage& picture, const QColor& ground);
 
 enum class FileKind { Bmp, Jpeg };
-/// A BMP of 24 bits a pixel behind 54 bytes of headers, or a JPEG of the best quality. Failure 5 for no
-/// picture, and for one that the file can't hold.
+/// The bytes of a BMP file with 24 bits a pixel and 54 bytes of headers, or of a JPEG file of the best
+/// quality. Failure 5 without a picture or if the file format cannot hold it.
 std::string FileBytesOf(const QImage& picture, FileKind kind);
 
 }  // namespace ornavo

@@ -18,12 +18,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int64_t KeptBytes = std::int64_t{64} << 20;  // of pictures that nobody holds at present
-constexpr int DecoderMegabytes = 256;                       // PicturePixelLimit at 4 bytes fits in
+constexpr std::int64_t KeptBytes = std::int64_t{64} << 20;  // of pictures that are kept although unused
+constexpr int DecoderMegabytes = 256;                       // enough for PicturePixelLimit at 4 bytes
 
 std::int64_t bytesInUse = 0;
 
-/// A file as it was when it was read. A changed one differs in size or time.
+/// A file at the time it was read. After a change, its size or time differs.
 struct Stamp {
     std::string path;
     std::uintmax_t size = 0;
@@ -31,11 +31,12 @@ struct Stamp {
     auto operator<=>(const Stamp&) const = default;
 };
 
+/// The cache of decoded pictures.
 struct Shelf {
     std::map<Stamp, std::weak_ptr<const Picture>> known;
     std::map<fs::path, fs::file_time_type>
-        seen;                    // files and their folders, as they were when first asked for
-    std::list<PictureRef> kept;  // the last used in front
+        seen;                    // files and folders with their times when they were first asked for
+    std::list<PictureRef> kept;  // the most recently used first
     std::int64_t keptBytes = 0;
 };
 
@@ -44,7 +45,7 @@ Shelf& shelf() {
     return only;
 }
 
-/// False for what is not there or is no plain file: a pipe would never end, a folder has no bytes.
+/// False if there is no regular file: reading a pipe might never end, and a folder has no bytes.
 bool StampOf(const fs::path& path, Stamp& stamp) {
     std::error_code error;
     if (!fs::is_regular_file(path, error) || error) return false;
@@ -108,7 +109,7 @@ bool Fits(const QSize& size) {
            PixelsOf(size) <= PicturePixelLimit;
 }
 
-/// The canvas that a GIF's header claims; invalid where the file is too short for one.
+/// The canvas size in a GIF's header; invalid if the file is too short.
 QSize CanvasOfGif(const fs::path& path) {
     QFile file(FileName(path));
     if (!file.open(QIODevice::ReadOnly)) return {};
@@ -118,8 +119,8 @@ QSize CanvasOfGif(const fs::path& path) {
     return {at(6), at(8)};
 }
 
-/// The size that decoding takes memory for; invalid where no header tells it. The reader knows but the first
-/// frame of a GIF, which is painted on the whole canvas.
+/// The size for which decoding takes memory; invalid if the header does not tell it. For a GIF, QImageReader
+/// tells the size of the first frame, but the frame is painted on the whole canvas.
 QSize SizeOf(QImageReader& reader, const fs::path& path) {
     const QSize size = reader.size();
     return reader.format() == "gif" ? size.expandedTo(CanvasOfGif(path)) : size;
@@ -127,7 +128,7 @@ QSize SizeOf(QImageReader& reader, const fs::path& path) {
 
 QImage Decoded(QImageReader& reader) {
     QImage image;
-    reader.read(&image);  // of a truncated file it may have a part in spite of a failure
+    reader.read(&image);  // for a truncated file the image may have a part despite a failure
     if (image.isNull() || !Fits(image.size())) return {};
     image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     image.setDevicePixelRatio(1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Picture files become pixels: decoded once, within stated limits, and shared.
+// Reads picture files: each is decoded once, within limits, and shared.
 #pragma once
 
 #include <QImage>
@@ -10,21 +10,21 @@
 
 namespace ornavo {
 
-inline constexpr std::int64_t PicturePixelLimit = 64'000'000;              // of one picture
-inline constexpr int PictureSideLimit = 16'384;                            // pixels
-inline constexpr std::int64_t PictureByteLimit = std::int64_t{512} << 20;  // of all pictures in use together
-inline constexpr std::int64_t ThumbnailPixelLimit = 16'000'000;            // of one picture
+inline constexpr std::int64_t PicturePixelLimit = 64'000'000;              // pixels of one picture
+inline constexpr int PictureSideLimit = 16'384;                            // width and height in pixels
+inline constexpr std::int64_t PictureByteLimit = std::int64_t{512} << 20;  // all pictures in use together
+inline constexpr std::int64_t ThumbnailPixelLimit = 16'000'000;            // pixels of one picture
 
-/// A decoded picture. Two Pictures are the same when they are the same object: LoadPicture gives the same one
-/// again while file, size and time are unchanged and somebody holds it or the cache keeps it.
+/// A decoded picture. LoadPicture returns the same object again as long as the file's path, size and time are
+/// unchanged and the object is in use or in the cache.
 struct Picture {
     QImage image;                // as decoded, never null
-    std::filesystem::path path;  // where it came from
-    QImage fine = {};  // the same with twice the pixels each way, for a fine screen; null without one
+    std::filesystem::path path;  // the file it was read from
+    QImage fine = {};  // with twice the pixels each way, for high-dpi screens; null if there is none
 };
 using PictureRef = std::shared_ptr<const Picture>;
 
-/// A share of PictureByteLimit, held while pixels are in use and given back with it.
+/// Reserves a part of PictureByteLimit; the destructor gives it back.
 class PictureMemory {
 public:
     PictureMemory() = default;
@@ -34,7 +34,8 @@ public:
         return *this;
     }
     ~PictureMemory() { Give(); }
-    /// For so many pixels; empty where one of the limits stands against it.
+    /// Reserves 4 bytes for each of so many pixels. Empty if that exceeds PicturePixelLimit or
+    /// PictureByteLimit.
     static PictureMemory Take(std::int64_t pixels);
     void Give();
     explicit operator bool() const { return bytes_ > 0; }
@@ -43,17 +44,17 @@ private:
     std::int64_t bytes_ = 0;
 };
 
-/// Null for what is no picture, is too large (refused before memory is taken) or can't be read.
+/// Null for a file that is not a picture, is too large (refused before memory is taken) or cannot be read.
 PictureRef LoadPicture(const std::filesystem::path& path);
-/// The first frame of a picture file, shrunk to fit into the size, never enlarged. Null as above, and for
-/// more than ThumbnailPixelLimit pixels, which take too long.
+/// The first frame of a picture file, shrunk to fit into `most` (pixels) but never enlarged. Null as for
+/// LoadPicture, and for more than ThumbnailPixelLimit pixels, which would take too long.
 QImage LoadThumbnail(const std::filesystem::path& path, const QSize& most);
 /// Whether the file is a GIF of more than one frame.
 bool IsAnimatedGIF(const std::filesystem::path& path);
-/// Of a GIF's canvas, which each of its frames is painted on; 0 beyond the limits of one picture.
+/// The pixels of the GIF's canvas, on which each frame is painted; 0 if it exceeds the limits of one picture.
 std::int64_t PixelsOfGif(const std::filesystem::path& path);
-/// Whether a picture that was asked for, or its folder, has been written to since. Then all is to be loaded
-/// anew: what was asked for before is forgotten.
+/// Whether a picture loaded since the last change, or its folder, has been written to. If so, the caller must
+/// load all pictures again, and the list of watched files starts empty.
 bool PicturesChanged();
 
 }  // namespace ornavo

@@ -11,7 +11,8 @@ std::optional<QPoint> PlaceBeside(const QRect& room, const QRect& main, const QS
     for (const bool right : {true, false}) {
         const QRect side = right ? QRect(QPoint(main.right() + 1, top), room.bottomRight())
                                  : QRect(QPoint(room.left(), top), QPoint(main.left() - 1, room.bottom()));
-        // It touches the main window or another one, and stands at the top or below another one.
+        // The window touches the main window or a taken place, and is at the top or right below a taken
+        // place.
         std::vector<int> lefts = {right ? side.left() : side.right() + 1 - window.width()};
         std::vector<int> tops = {top};
         for (const QRect& other : taken) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Like controls that grow on demand and never shrink. Slot 0 is a hidden template.
+// A pool of equal controls that grows on demand and never shrinks. Slot 0 is a hidden template.
 #pragma once
 
 #include <functional>
@@ -8,6 +8,7 @@
 
 namespace ornavo {
 
+/// Controls by slot. A slot is free while its control's Tag is empty.
 template <class T>
 class Pool {
 public:
@@ -17,7 +18,7 @@ public:
 
     int Top() const { return static_cast<int>(controls_.size()) - 1; }
     T& operator[](int index) const { return *controls_.at(static_cast<std::size_t>(index)); }
-    /// The lowest slot from 1 whose Tag is empty; a new visible one where none is.
+    /// The lowest free slot from 1; a new visible control if none is free.
     int GetFree() {
         for (int i = firstFree_; i <= Top(); ++i)
             if ((*this)[i].Tag.empty()) return firstFree_ = i;
@@ -25,12 +26,12 @@ public:
         controls_.back()->setVisible(true);
         return firstFree_;
     }
-    /// One slot more, as it is made; its index.
+    /// Adds a control as `make` returns it, and returns its slot.
     int Load() {
         controls_.push_back(make_(Top() + 1));
         return Top();
     }
-    /// Frees and hides every slot from 1.
+    /// Frees and hides all slots from 1.
     void Clear() {
         for (int i = 1; i <= Top(); ++i) {
             (*this)[i].Tag.clear();
@@ -38,7 +39,7 @@ public:
         }
         firstFree_ = 1;
     }
-    /// A slot has been given back outside of Clear.
+    /// The caller has freed this slot by emptying its Tag.
     void Released(int index) {
         if (index < firstFree_) firstFree_ = index;
     }
@@ -46,7 +47,7 @@ public:
 private:
     std::function<T*(int)> make_;
     std::vector<T*> controls_;  // owned by their parent window
-    int firstFree_ = 1;         // no slot below it is free
+    int firstFree_ = 1;         // no slot from 1 below it is free
 };
 
 }  // namespace ornavo

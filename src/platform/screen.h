@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// What we ask of the screen: the hourglass. A rebuild needs no lock, as Qt paints on return to the event
-// loop.
+// The wait pointer.
 #pragma once
 
 namespace ornavo {
 
-/// The hourglass while it lives, on the whole program.
+/// Shows the wait pointer over the whole program while it lives. Painting needs no lock during a rebuild,
+/// because Qt paints on return to the event loop.
 class WaitPointer {
 public:
     WaitPointer();

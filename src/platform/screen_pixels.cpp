@@ -11,14 +11,14 @@
 namespace ornavo {
 namespace {
 
-/// The least rectangle of whole pixels round a rectangle of device pixels.
+/// The smallest rectangle of whole logical pixels around a rectangle of device pixels.
 QRect Around(const QRect& device, qreal ratio) {
     const QRectF exact(device.x() / ratio, device.y() / ratio, device.width() / ratio,
                        device.height() / ratio);
     return exact.toAlignedRect();
 }
 
-/// `device` out of what was taken of `around`.
+/// The part `device` (device pixels) of a picture of `around` (logical pixels).
 QImage Cut(const QPixmap& taken, const QRect& around, const QRect& device, qreal ratio) {
     if (taken.isNull()) return {};
     const QPoint corner(qRound(around.x() * ratio), qRound(around.y() * ratio));
@@ -35,7 +35,7 @@ QWidget* WidgetOf(const QObject* window) {
 
 }  // namespace
 
-// A screen's corner is the same in pixels and in device pixels; from there on they differ by its ratio.
+// The corner of a screen is the same in logical and in device pixels; from there on they differ by its ratio.
 QPoint DesktopPixels::Pointer() {
     const QPoint pointer = QCursor::pos();
     const QScreen* screen = QGuiApplication::screenAt(pointer);

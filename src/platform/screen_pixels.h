@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Reading what is on the screen, in device pixels: the desktop's, or where the desktop refuses, that of the
-// program's own windows.
+// Reads what is on the screen in device pixels: the desktop, or the program's own windows where the desktop
+// does not allow that.
 #pragma once
 
 #include <QImage>
@@ -12,13 +12,13 @@
 
 namespace ornavo {
 
-/// Something with a pointer on it. All places are device pixels of one plane.
+/// Pixels that can be read, and a pointer on them. All positions are device pixels of one plane.
 class PixelSource {
 public:
     virtual ~PixelSource() = default;
     virtual QPoint Pointer() = 0;
     virtual std::vector<QRect> Screens() = 0;
-    /// The pixels of a rectangle within the screen of that number; null where they can't be had.
+    /// The pixels of a rectangle within the screen of this index, from 0; null if they cannot be read.
     virtual QImage Grab(int screen, const QRect& area) = 0;
 };
 
@@ -30,8 +30,8 @@ public:
     QImage Grab(int number, const QRect& area) override;
 };
 
-/// The one of our windows that the pointer was last seen on, as if it were the only screen. The pointer is
-/// watched from the first question on.
+/// The program's window that the pointer was last seen on, as if it were the only screen. Watches the pointer
+/// from the first call of Pointer on.
 class OwnWindowPixels : public QObject, public PixelSource {
 public:
     QPoint Pointer() override;
@@ -43,7 +43,7 @@ protected:
 
 private:
     QPointer<QWidget> window_;
-    QPointF pointer_;  // pixels of the window, not of the device
+    QPointF pointer_;  // logical pixels of the window
     bool watching_ = false;
 };
 

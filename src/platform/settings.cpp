@@ -20,14 +20,14 @@ namespace {
 
 std::unique_ptr<QSettings> store;
 
-std::unique_ptr<QTemporaryDir> standIn;  // where the settings of this run are when their file is none
+std::unique_ptr<QTemporaryDir> standIn;  // holds the settings of this run if the path is no file
 
 void CloseStore() {
     store.reset();
     standIn.reset();
 }
 
-/// The file behind links; a stand-in for what is no file, which is neither waited for nor replaced.
+/// The file behind links; a temporary file if the path names something that is not a file.
 QString PlainFile(const QString& path) {
     namespace fs = std::filesystem;
     const fs::path place = QFileInfo(path).filesystemFilePath();
@@ -51,7 +51,8 @@ QSettings& Store() {
     return *store;
 }
 
-/// One level of a path in the store. Separators would make more of it, and an empty one would vanish.
+/// A section or key as one level of a QSettings path. Separators would add levels, and an empty level would
+/// vanish.
 QString Level(std::string_view name) {
     if (name.empty()) return QStringLiteral("%");
     QString level = Shown(name);
@@ -59,7 +60,7 @@ QString Level(std::string_view name) {
     return level;
 }
 
-/// The key as it stands in the store, whatever its case; the given one where there is none.
+/// The key as it is stored, in whatever case; the given one if it is not stored.
 QString StoredKey(std::string_view section, std::string_view key) {
     const QString asked = Level(section) + '/' + Level(key);
     if (Store().contains(asked)) return asked;
@@ -75,7 +76,7 @@ QString StoredKey(std::string_view section, std::string_view key) {
 std::string GetSetting(std::string_view section, std::string_view key, std::string_view standard) {
     const QVariant value = Store().value(StoredKey(section, key));
     if (!value.isValid()) return std::string(standard);
-    // A comma that somebody typed into the file makes a list of it.
+    // A comma that somebody typed into the file makes QSettings return a list.
     return value.toStringList().join(QStringLiteral(", ")).toStdString();
 }
 
@@ -88,7 +89,7 @@ void DeleteSetting(std::string_view section, std::string_view key) {
 }
 
 void UseSettingsFile(const QString& path) {
-    // Written out while the application still lives.
+    // Written to disk while the application still exists.
     static const bool once = (qAddPostRoutine(CloseStore), true);
     static_cast<void>(once);
     CloseStore();

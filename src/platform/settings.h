@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's settings: text by section and key, and typed constants over them.
+// The user's settings: texts by section and key, and typed settings on top of them.
 #pragma once
 
 #include <QString>
@@ -10,24 +10,24 @@
 
 namespace ornavo {
 
-/// Sections and keys are compared without regard to case.
+/// Sections and keys are compared without regard to case. `standard` is returned for a missing setting.
 std::string GetSetting(std::string_view section, std::string_view key, std::string_view standard);
 void SaveSetting(std::string_view section, std::string_view key, std::string_view value);
 void DeleteSetting(std::string_view section, std::string_view key);
-/// The file to use from now on, or the one that a link leads to; the default is in the user's configuration
-/// folder. Where something else stands the settings are empty and last for this run alone, which is told on
-/// the error stream.
+/// Sets the file to use from now on, followed if it is a link; the default is in the user's configuration
+/// folder. If the path names something that is not a file, the settings are empty and last only for this run,
+/// and a message goes to the error stream.
 void UseSettingsFile(const QString& path);
 
-/// One setting with its key and default. Read fails (Failure 13) on a text that is not of the type, so that
-/// the caller keeps its designed value.
+/// One setting with its key and default. Read throws Failure 13 for a text that is not of the type, so that
+/// the caller can keep its own value.
 template <class T>
 struct Setting {
     const char* section;
     const char* key;
     T standard;
     T Read() const;
-    T ReadOrStandard() const;  // the default also for a text that is not of the type
+    T ReadOrStandard() const;  // the default also if Read fails
     void Write(const T& value) const;
 };
 template <>

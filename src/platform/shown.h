@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Our texts as Qt's.
+// Converts the program's texts to Qt's.
 #pragma once
 
 #include <QString>
@@ -7,7 +7,7 @@
 
 namespace ornavo {
 
-/// Of UTF-8, which all texts are inside; what is none becomes the replacement character.
+/// From UTF-8; invalid bytes become the replacement character.
 inline QString Shown(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

@@ -16,7 +16,7 @@
 namespace ornavo {
 namespace {
 
-/// Fusion, but a list opens below its box with a scroll bar, and does not lie over it as high as the screen.
+/// The Fusion style, except that a list opens below its box with a scroll bar instead of covering the screen.
 class PanelStyle : public QProxyStyle {
 public:
     PanelStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -26,13 +26,14 @@ public:
     }
 };
 
+/// A colour of the palette, 0xAARRGGBB.
 struct Tone {
     QPalette::ColorRole role;
     QRgb normal;
     QRgb disabled;
 };
 
-/// Warm light neutrals with one blue, whatever the desktop's own colours are.
+/// Warm light neutrals and one blue, independent of the desktop's colours.
 constexpr std::array Tones = {
     Tone{QPalette::Window, 0xFFEFEBE4, 0xFFEFEBE4},
     Tone{QPalette::WindowText, 0xFF26221D, 0xFF9A938A},
@@ -66,7 +67,7 @@ QPalette LightPalette() {
     return palette;
 }
 
-/// A decimal sign that a skin's file can't hold would be lost with the number: the English signs stand in.
+/// Takes the user's number signs, or the English ones if a skin's file cannot hold the user's decimal sign.
 void UseTheirNumberSigns() {
     const QLocale theirs = QLocale::system();
     const NumberSigns signs = {theirs.decimalPoint().toStdString(), theirs.groupSeparator().toStdString()};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands before the first window: environment, style, palette, fonts, number signs.
+// What must be set up before the first window: environment, style, palette, fonts, number signs.
 #pragma once
 
 #include <string>
@@ -8,12 +8,12 @@ class QApplication;
 
 namespace ornavo {
 
-/// Before QApplication: the windowing system's order of choice, whole scale factors.
+/// Before QApplication: prefers X11 to Wayland, and rounds scale factors down to whole numbers.
 void PrepareProcess();
-/// After it: Fusion style, our one light palette, our face in the size of the application's font, which is
-/// the desktop's, font stand-ins, the user's number signs.
+/// After QApplication: Fusion style, the light palette, the program's face in the size of the desktop's font,
+/// stand-ins for fonts, the user's number signs.
 void InitCommonControls(QApplication& application);
-/// Where the program keeps what is the user's: "Skins" and "Recovered" lie in it.
+/// The folder of the user's data; it contains "Skins" and "Recovered". Without a separator at its end.
 std::string DataFolder();
 
 }  // namespace ornavo

@@ -12,8 +12,8 @@ namespace {
 constexpr int FirstCode = 0x21, LastCode = 0xFF;
 using Codes = std::array<char32_t, LastCode - FirstCode + 1>;
 
-// After the mapping that came with the symbols' adoption into Unicode 7. The first row of each table begins
-// at code 0x21; 0 is a code without a symbol.
+// By the mapping with which Unicode 7 adopted the symbols. The first row of each table begins at code 0x21; 0
+// is a code without a symbol.
 // clang-format off
 constexpr Codes Wingdings = {
     0x1F589, 0x2702, 0x2701, 0x1F453, 0x1F56D, 0x1F56E, 0x1F56F, 0x1F57F, 0x2706, 0x1F582, 0x1F583, 0x1F4EA, 0x1F4EB, 0x1F4EC, 0x1F4ED,  // 20
@@ -67,6 +67,7 @@ constexpr Codes Symbol = {
 };
 // clang-format on
 
+/// A symbol font and its table.
 struct SymbolFont {
     const char* name;
     const Codes* codes;
@@ -87,7 +88,7 @@ char32_t SymbolIn(const Codes& codes, int code) {
     return code < FirstCode || code > LastCode ? 0 : codes[static_cast<std::size_t>(code - FirstCode)];
 }
 
-/// 0 for a character without a code.
+/// 0 if the character has no code.
 int CodeOf(char32_t character) {
     if (character >= 0xF020 && character <= 0xF0FF) return static_cast<int>(character & 0xFF);
     const std::string text = QString::fromUcs4(&character, 1).toStdString();

@@ -87,7 +87,7 @@ bool TextBox::eventFilter(QObject* watched, QEvent* event) {
     QMouseEvent here(mouse->type(), mouse->position() + edit_->pos(), mouse->globalPosition(),
                      mouse->button(), mouse->buttons(), mouse->modifiers());
     (this->*handler)(&here);
-    // Where nothing can be typed, the mouse marks no text either.
+    // In a read-only text, the mouse does not select either.
     if (edit_->isReadOnly()) event->accept();
     return edit_->isReadOnly();
 }

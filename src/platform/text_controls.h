@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Text on the canvas: a box with one line of text that can be edited.
+// A control with one line of text that can be edited.
 #pragma once
 
 #include <QPalette>
@@ -11,6 +11,7 @@ class QLineEdit;
 
 namespace ornavo {
 
+/// The search box of a layout.
 class TextBox : public Control {
 public:
     TextBox(QWidget* parent, std::string name);
@@ -18,15 +19,15 @@ public:
     void SetFont(const ornavo::Font& font);
     void SetForeColor(Colour colour);
     void SetBackColor(Colour colour) override;
-    void SetBorderStyle(int style);  // 0 none, 1 a sunken line
+    void SetBorderStyle(int style);  // 0 none, 1 sunken, one pixel
     void SetText(std::string_view text);
     QLineEdit& Edit() { return *edit_; }
 
 protected:
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
-    bool eventFilter(QObject*, QEvent*) override;  // the edit's mouse goes to the listener;
-                                                   // the edit has it too unless it is read-only
+    bool eventFilter(QObject*, QEvent*) override;  // passes the edit's mouse events to the listener,
+                                                   // and to the edit as well unless it is read-only
 
 private:
     void Paint(QPalette::ColorRole role, Colour colour);

@@ -27,14 +27,14 @@ struct TileButton::Look {
     TileLayers layers;
     std::array<Source, 3> sources;  // by Kind
     std::unique_ptr<TileMovie> movie;
-    QImage frame;  // finished picture of the movie's present frame; null until it is painted
+    QImage frame;  // finished picture of the movie's current frame; null until painted
     Size frameSize;
     QTimer repeat;
     bool over = false;
     bool pressed = false;
     bool inside = false;
 
-    /// The one that the mouse asks for, the normal one where there is none.
+    /// The picture for the state of the mouse; the normal one if there is none.
     const Source& Shown() const {
         const Kind kind = pressed && inside ? Down : over ? Over : Normal;
         return sources[kind].IsEmpty() ? sources[Normal] : sources[kind];
@@ -56,7 +56,7 @@ TileButton::TileButton(QWidget* parent, std::string name, int index)
 }
 
 TileButton::~TileButton() {
-    look_->repeat.setParent(nullptr);  // it is freed with the look
+    look_->repeat.setParent(nullptr);  // it is destroyed with the look
 }
 
 bool TileButton::IsAnimatedGIF(const std::string& path) const {
@@ -71,7 +71,7 @@ Colour TileButton::TransparentColor() const {
 }
 
 void TileButton::Refresh() {
-    // An animated picture goes before the plain one.
+    // An animated picture is preferred to the plain one.
     const auto source = [](const PictureRef& picture, const std::string& animated) {
         return Look::Source{animated.empty() ? picture : nullptr, animated};
     };
@@ -89,7 +89,7 @@ void TileButton::Refresh() {
     update();
 }
 
-/// Lets the movie of the shown picture run, if it is one and can be seen.
+/// Starts or stops the animation: it runs if the shown picture is animated and the control visible.
 void TileButton::ShowSource() {
     const std::string& path = look_->Shown().animated;
     if (!look_->movie || look_->movie->Path() != path) {
@@ -104,7 +104,7 @@ void TileButton::ShowSource() {
     if (look_->movie) look_->movie->Run(isVisible());
 }
 
-/// The mouse has come, gone, pressed or let go.
+/// Takes over the state of the mouse and shows the picture for it.
 void TileButton::FollowMouse(bool over, bool pressed, bool inside) {
     const Look::Source* before = &look_->Shown();
     look_->over = over;
@@ -193,7 +193,7 @@ void TileButton::showEvent(QShowEvent*) {
 
 void TileButton::hideEvent(QHideEvent*) {
     look_->repeat.stop();
-    FollowMouse(false, false, false);  // a hidden control hears of no release
+    FollowMouse(false, false, false);  // a hidden control gets no release event
     if (look_->movie) look_->movie->Run(false);
 }
 

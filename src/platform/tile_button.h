@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The picture button: a widget that shows a face and turns the mouse into events.
+// The picture button: a widget that shows a tile face and turns the mouse into events.
 #pragma once
 
 #include <QTimer>
@@ -11,30 +11,32 @@
 
 namespace ornavo {
 
+/// A button with a picture for each state. Its members take effect at Refresh.
 class TileButton : public Control {
     Q_OBJECT
 public:
     TileButton(QWidget* parent, std::string name, int index = 0);
     ~TileButton() override;
 
-    TileState State;      // takes effect at Refresh
-    TileLayers Elements;  // the same
+    TileState State;
+    TileLayers Elements;
     PictureRef Picture, PictureOver, PictureDown;
-    std::string AniPicture, AniPictureOver, AniPictureDown;  // full paths of animated GIFs; "" for none. An
-                                                             // animated picture goes before the plain one
-    std::weak_ptr<const void> ColourOwner;  // whose colour State.TransparentColor is; the caller's own mark
-    bool Repeats = false;                   // while held: after 300 ms, then every 100 ms
+    std::string AniPicture, AniPictureOver, AniPictureDown;  // full paths of animated GIFs; "" for none;
+                                                             // they are shown instead of the plain pictures
+    std::weak_ptr<const void> ColourOwner;  // the skin or layout that State.TransparentColor is from
+    bool Repeats = false;                   // Repeat events while held: after 300 ms, then every 100 ms
 
-    /// Reads back the colour that the control found when the top left pixel rules.
+    /// The key colour in use: with TransColorTopLeft, that of the normal picture's top left pixel.
     Colour TransparentColor() const;
     bool IsAnimatedGIF(const std::string& path) const;
-    /// Draws again if state, layers, pictures or size differ from what was last drawn; cheap otherwise.
+    /// Repaints if state, layers, pictures or an animation's file have changed since the last call; cheap
+    /// otherwise.
     void Refresh() override;
     void RefreshElements() { Refresh(); }
     void SetBackColor(Colour colour) override;
-    /// Back to what a new control shows: no picture, no layer, plain state. Called when a slot is reused.
+    /// Makes the control look like a new one: no picture, no layer, default state. For reusing a slot.
     void Reset();
-    bool IsRunning() const;  // an animation is being shown
+    bool IsRunning() const;  // whether an animation is running
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -53,7 +55,7 @@ private:
     void ShowSource();
     void FollowMouse(bool over, bool pressed, bool inside);
 
-    std::unique_ptr<Look> look_;  // what was last drawn, and how it is drawn at present
+    std::unique_ptr<Look> look_;  // as last drawn, with the state of mouse and animation
 };
 
 }  // namespace ornavo

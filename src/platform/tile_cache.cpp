@@ -10,13 +10,15 @@ namespace {
 
 using Key = std::tuple<qint64, Colour, bool, int, int, int, double>;
 
+/// A finished picture and what it was made from.
 struct Kept {
     Key key;
     std::shared_ptr<const QImage> image;
 };
 
+/// All finished pictures, found by key and dropped by age.
 struct Cache {
-    std::list<Kept> kept;  // the last used in front
+    std::list<Kept> kept;  // the most recently used first
     std::map<Key, std::list<Kept>::iterator> byKey;
     std::int64_t bytes = 0;
 };

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Finished pictures of the buttons, kept within a fixed number of bytes and made again when they were
-// dropped.
+// Caches the finished pictures of buttons, within a fixed number of bytes.
 #pragma once
 
 #include <cstdint>
@@ -12,11 +11,11 @@ namespace ornavo {
 
 inline constexpr std::int64_t TileCacheBytes = std::int64_t{64} << 20;
 
-/// FinishedPicture of a picture that doesn't change. The same object again while picture, key colour,
-/// smoothness, size, scale and angle are the same and it is still kept. Null where FinishedPicture is.
+/// FinishedPicture for a picture that does not change. Returns the cached object for the same picture, key
+/// colour, smoothness, size, scale and angle. Null if FinishedPicture is null.
 std::shared_ptr<const QImage> FinishedTile(const PictureRef& picture, const TileState& state, Size size,
                                            int scale);
-/// Bytes kept at present.
+/// The bytes in the cache.
 std::int64_t TileCacheSize();
 
 }  // namespace ornavo

@@ -15,7 +15,7 @@ namespace {
 constexpr int Edge = 5, Gap = 5;  // pixels
 constexpr int TextFlags = Qt::TextShowMnemonic | Qt::TextSingleLine;
 
-/// A screen reader is told of a button that can be pressed.
+/// Tells a screen reader the button's name and that it can be pressed.
 class AccessibleCommand : public QAccessibleWidget {
 public:
     explicit AccessibleCommand(TileCommand* command) : QAccessibleWidget(command, QAccessible::Button) {}
@@ -91,7 +91,7 @@ QSize TileCommand::sizeHint() const {
     return inner + QSize(2 * Edge, 2 * Edge - 2);
 }
 
-/// Paints it and gives back what is left for the caption.
+/// Paints the picture and returns the area left for the caption.
 QRect TileCommand::PaintPicture(QPainter& painter, const QRect& area) const {
     if (!pictureSize_) return area;
     QRect place(0, 0, pictureSize_, pictureSize_);
@@ -105,7 +105,7 @@ QRect TileCommand::PaintPicture(QPainter& painter, const QRect& area) const {
         place.moveTopLeft({area.left(), area.top() + (area.height() - pictureSize_) / 2});
         rest.setLeft(place.right() + 1 + Gap);
     }
-    // An icon never grows: what is to be larger is taken from the file for twice the pixels.
+    // QIcon never enlarges a picture, so a larger one is taken from the file with twice the pixels.
     const bool grown = picture_.actualSize(place.size()) != place.size();
     const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -157,7 +157,7 @@ void TileCommand::mousePressEvent(QMouseEvent* event) {
     Control::mousePressEvent(event);
 }
 
-// The second press of a quick pair is a press like any other.
+// The second press of a double click counts as another press.
 void TileCommand::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The command button: a picture, a caption or both. Works by mouse and by keys, and has a name for a screen
-// reader.
+// The command button of the panels: a picture, a caption or both, usable by mouse, keys and screen readers.
 #pragma once
 
 #include <QIcon>
@@ -9,21 +8,22 @@
 
 namespace ornavo {
 
+/// A button that emits Click.
 class TileCommand : public Control {
     Q_OBJECT
 public:
     TileCommand(QWidget* parent, std::string name, int index = 0);
 
-    /// "&" marks the mnemonic. It names the button for a screen reader too; a button that has a picture
-    /// alone is named by its caller with setAccessibleName.
+    /// "&" marks the mnemonic. A screen reader tells the caption as the button's name; a button with only a
+    /// picture gets its name by setAccessibleName.
     void SetCaption(const QString& caption);
     const QString& Caption() const { return caption_; }
-    /// A picture file or resource; that of twice the size beside it ("name@2x.png") serves fine screens.
-    /// `size` is its edge in pixels.
+    /// A picture file or resource, shown in a square of `size` pixels. "name@2x.png" beside it is used on
+    /// high-dpi screens.
     void SetPicture(const QString& file, int size = 24);
-    /// The picture over the caption; without it, to its left.
+    /// Puts the picture above the caption; by default it is to the left.
     void SetPictureAbove(bool above);
-    /// What a click does, as if it were clicked. Nothing while it is disabled.
+    /// Emits Click, unless the button is disabled.
     void PerformClick();
 
     QSize sizeHint() const override;
@@ -55,11 +55,11 @@ private:
     QString caption_;
     QIcon picture_;
     int pictureSize_ = 0;
-    int mnemonic_ = 0;  // of the grabbed shortcut; 0 for none
+    int mnemonic_ = 0;  // id of the grabbed shortcut; 0 for none
     bool above_ = false;
     bool over_ = false;
     Held held_ = NotHeld;
-    bool inside_ = false;  // held, and the pointer has not left it
+    bool inside_ = false;  // the pointer is over the held button
 };
 
 }  // namespace ornavo

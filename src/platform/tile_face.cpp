@@ -32,7 +32,7 @@ QImage Keyed(const QImage& picture, const TileState& state) {
     return keyed;
 }
 
-/// Every pixel of the result is that pixel of the picture that lies under its middle.
+/// Each pixel of the result is the pixel of the picture under its middle.
 QImage Stretched(const QImage& picture, const QSize& size) {
     if (picture.size() == size) return picture;
     QImage result(size, picture.format());
@@ -69,7 +69,7 @@ std::pair<double, double> Direction(double quarterTurns) {
     return {std::cos(angle), std::sin(angle)};
 }
 
-/// Whole pixels moved: each pixel of the result is the one that the turn brings under its middle.
+/// Rotates without blending: each pixel of the result is the one that the rotation brings under its middle.
 QImage TurnedHard(const QImage& picture, double quarterTurns) {
     const QImage source = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     QImage result(source.size(), source.format());
@@ -103,7 +103,8 @@ QImage TurnedSoft(const QImage& picture, double quarterTurns) {
     return result;
 }
 
-/// Quarter turns move whole pixels where the sides allow it, so that nothing is blurred needlessly.
+/// Quarter turns are made without blending if the sides allow it, so that the picture is not blurred
+/// needlessly.
 QImage Turned(const QImage& picture, double quarterTurns, bool smooth) {
     if (quarterTurns == 0) return picture;
     const bool whole = quarterTurns == std::floor(quarterTurns) &&
@@ -111,7 +112,7 @@ QImage Turned(const QImage& picture, double quarterTurns, bool smooth) {
     return smooth && !whole ? TurnedSoft(picture, quarterTurns) : TurnedHard(picture, quarterTurns);
 }
 
-/// A size for which no image of its own is made: painted through the painter's own transformation.
+/// Paints a picture too large for a finished one by the painter's own transformation.
 void PaintLarge(QPainter& painter, const QImage& picture, const TileState& state, const QRectF& area) {
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, state.ShowSmooth);
@@ -151,12 +152,12 @@ void PaintGround(QPainter& painter, const TileState& state, Size size, bool plai
                    ScreenColour(BlendColor(EdgeDark, state.BackColor, DarkAlpha)));
 }
 
-/// A distance in pixels that any file may hold, kept where int arithmetic cannot overflow.
+/// A distance in pixels, which may be any number in a file, clamped so that int arithmetic cannot overflow.
 int WholePixels(double distance) {
     return static_cast<int>(std::clamp(distance, -1e8, 1e8));
 }
 
-/// Where something of that width stands between Left and the trimmed right end.
+/// The left end of something of this width, aligned between Left and the trimmed right end.
 int AlignedLeft(const TileLayer& layer, Size size, int width) {
     const auto left = static_cast<double>(layer.Left);
     const double right = size.width - static_cast<double>(layer.RightTrim);
@@ -166,7 +167,7 @@ int AlignedLeft(const TileLayer& layer, Size size, int width) {
     return WholePixels(std::floor(at));
 }
 
-/// Left is the way from the end that Alignment names, or from the middle.
+/// Left is the distance from the side that Alignment names, or from the middle.
 int PictureLeft(const TileLayer& layer, Size size, int width) {
     const auto left = static_cast<double>(layer.Left);
     const double at = layer.Alignment == LeftAligned    ? left
@@ -188,7 +189,7 @@ void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer
     const int top = WholePixels(std::round(layer.Top));
     const QPoint at(AlignedLeft(layer, size, width), top + font.ascent());
     const auto draw = [&](int offset, Colour colour) {
-        if (width > room)  // what is too long ends where its area ends
+        if (width > room)  // clip a long text to its area
             painter.setClipRect(QRect(left + offset, 0, room, size.height));
         painter.setPen(ScreenColour(colour));
         painter.drawText(at + QPoint(offset, offset), text);
@@ -238,7 +239,7 @@ Colour KeyColourOf(const TileState& state, const QImage& picture) {
 
 Colour HiddenColourOf(const TileState& state, const QImage& picture) {
     if (!state.UseTransparency || picture.isNull()) return NoColour;
-    // Such a picture brings its own transparency.
+    // Such a picture has its own transparency.
     if (state.TransColorTopLeft && qAlpha(picture.pixel(0, 0)) != 255) return NoColour;
     return TranslateColor(KeyColourOf(state, picture));
 }
@@ -254,7 +255,7 @@ QImage FinishedPicture(const QImage& picture, const TileState& state, Size size,
             image = image.scaled(target * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         image = Turned(image, turns, true);
     } else {
-        // One pixel of the skin is a square of whole pixels of the screen.
+        // A pixel of the skin is a square of whole pixels of the screen.
         image = Stretched(Turned(Stretched(image, target), turns, false), target * scale);
     }
     image.setDevicePixelRatio(scale);

@@ -9,7 +9,7 @@
 namespace ornavo {
 namespace {
 
-constexpr int ImagesInUse = 3;  // the decoder's, the movie's and ours
+constexpr int ImagesInUse = 3;  // the decoder's, the movie's and the frame's
 
 std::filesystem::file_time_type TimeOf(const std::string& path) {
     std::error_code error;
@@ -28,7 +28,7 @@ TileMovie::TileMovie(std::string path, std::function<void()> onFrame)
     movie_.setCacheMode(QMovie::CacheNone);
     movie_.setFormat("gif");
     movie_.setFileName(name);
-    TakeFrame(reader.read());  // the movie's own start comes to its first frame by itself
+    TakeFrame(reader.read());  // because starting the movie gives its first frame again
     QObject::connect(&movie_, &QMovie::frameChanged, &movie_, [this, onFrame = std::move(onFrame)] {
         TakeFrame(movie_.currentImage());
         onFrame();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An animated GIF that hands out its frames while it runs.
+// An animated GIF that provides its frames while it runs.
 #pragma once
 
 #include <QImage>
@@ -12,16 +12,18 @@
 
 namespace ornavo {
 
+/// Plays an animated GIF and calls `onFrame` for each new frame.
 class TileMovie {
 public:
-    /// Stands at its first frame. A file that is none, or beyond the limits of pictures, has a null frame.
+    /// Starts paused at its first frame. The frame is null if the file is not an animated GIF or exceeds the
+    /// limits of pictures.
     TileMovie(std::string path, std::function<void()> onFrame);
 
     const std::string& Path() const { return path_; }
     const QImage& Frame() const { return frame_; }  // RGB32 or premultiplied ARGB32
-    void Run(bool run);                             // holds still, or goes on where it stood
+    void Run(bool run);                             // runs on from the present frame, or pauses
     bool IsRunning() const { return movie_.state() == QMovie::Running; }
-    bool IsStale() const;  // the file is no longer the one that was opened
+    bool IsStale() const;  // the file has changed since it was opened
 
 private:
     void TakeFrame(QImage next);

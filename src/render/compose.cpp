@@ -18,7 +18,8 @@
 namespace ornavo {
 namespace {
 
-/// A slot of a pool for the element, or -1 with the slot given back.
+/// Gives the element this slot of a pool and returns the slot; -1 for an element without a size, whose slot
+/// is free again.
 template <class T>
 int ClaimSlot(Pool<T>& pool, int slot, dbLayoutElement& element) {
     element.ControlIndex = slot;
@@ -71,7 +72,7 @@ constexpr std::array<ComposeStep, 7> Composings = {ComposeMain,       ComposeBut
 
 void ComposeElement(dbLayoutElement& element, bool preview) {
     const auto type =
-        static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table too
+        static_cast<std::size_t>(element.ElementType);  // a negative type is beyond the table too
     if (type < Composings.size()) Composings[type](element, TargetForm->host(), preview);
 }
 

@@ -8,11 +8,12 @@
 namespace ornavo {
 namespace {
 
+/// A layout and its failures.
 struct Told {
     std::weak_ptr<dbLayout> layout;
     std::vector<std::string> descriptions;
 };
-Told told;  // what the last composition that failed has shown
+Told told;  // of the last composition
 
 }  // namespace
 

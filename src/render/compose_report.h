@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What failed while a layout was composed, told once and not statement by statement.
+// Collects what failed in a composition, to tell it once instead of step by step.
 #pragma once
 
 #include <string>
@@ -10,9 +10,10 @@
 
 namespace ornavo {
 
+/// The failures of one composition.
 class ComposeReport {
 public:
-    /// Runs one step; a Failure in it ends the step and is kept, each description once.
+    /// Runs one step. A Failure ends the step and is noted; each description is noted once.
     template <class Step>
     void Try(Step&& step) {
         try {
@@ -22,8 +23,7 @@ public:
         }
     }
 
-    /// Shows all descriptions in one box, unless the same ones were shown for this layout the last time that
-    /// it was composed.
+    /// Shows all descriptions in one box, unless the previous composition of this layout has shown the same.
     void Show(const dbLayoutRef& layout) const;
 
 private:

@@ -16,7 +16,7 @@ MousePointer PointerOf(const dbLayoutElement& element, bool preview) {
 }  // namespace
 
 void SetupElementCaption(TileButton& button, const dbLayoutElement& element) {
-    Attempt([&] { button.Elements.Add("Caption"); });  // it may be there already
+    Attempt([&] { button.Elements.Add("Caption"); });  // fails if it exists already
     TileLayer& layer = button.Elements.Item("Caption");
     layer.Visible = !element.Caption.empty();
     if (!layer.Visible) return;
@@ -38,7 +38,7 @@ void SetupElementGround(TileButton& button, const dbLayoutElement& element) {
     state.BackStyle = element.UseTransparency ? 0 : 1;
     state.UseTransparency = element.UseTransparency;
     state.TransColorTopLeft = element.UseTopLeftTransparency;
-    // Also under the top left rule: it is what reads back where there is no picture to ask.
+    // Also with UseTopLeftTransparency: TransparentColor() returns it if there is no picture.
     state.TransparentColor = element.TransparentColor;
     state.ShowSmooth = element.ShowSmooth;
 }

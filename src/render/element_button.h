@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A button, picture or volume element on its control.
+// Shows a button, picture or volume element on its control.
 #pragma once
 
 #include "document/dblayoutelements.h"
@@ -7,17 +7,17 @@
 
 namespace ornavo {
 
-/// Everything of the element but its place: pictures, caption, border, transparency, rotation, pointer.
-/// Writes the colour that the picture's top left pixel gave back to the element.
+/// Sets everything but the place: pictures, caption, border, transparency, rotation, pointer. With
+/// UseTopLeftTransparency the element gets the colour of the picture's top left pixel.
 void SetupElementButton(TileButton& button, dbLayoutElement& element, bool preview);
 
-/// The one layer of such a button.
+/// Sets the one text layer of such a button.
 void SetupElementCaption(TileButton& button, const dbLayoutElement& element);
 
-/// Border, ground, key colour and smoothness, as the scroll frame and its bar have them too.
+/// Sets border, background, key colour and smoothness; the scroll frame and its bar use it too.
 void SetupElementGround(TileButton& button, const dbLayoutElement& element);
 
-/// Turned by the element's angle, or not at all.
+/// Rotates by the element's angle, 0 for none.
 void SetupElementRotation(TileButton& button, const dbLayoutElement& element);
 
 }  // namespace ornavo

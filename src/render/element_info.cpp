@@ -17,7 +17,7 @@ namespace ornavo {
 namespace {
 
 constexpr double NewFontSize = 10;
-constexpr int FarAway = 1 << 24;  // pixels before the box, where no text is seen any more
+constexpr int FarAway = 1 << 24;  // pixels to the left or above; nothing so far out is visible
 
 constexpr std::array<std::string_view, 19> SampleTexts = {
     "",
@@ -70,7 +70,7 @@ void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview) {
     box.ForeColor = element.TextColor;
     box.Font = *GetElementFont(element, NewFontSize);
     box.Cls();
-    // In the preview only a plain label has its text from the start; the rest is told by what plays.
+    // In the preview only a user label has its text from the start; playback/info_show draws the others.
     if (preview && element.InfoType != InfoUserLabel) return;
     DrawInfoText(box, InfoSampleText(element), {0, element.CaptionY});
 }

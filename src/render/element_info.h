@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An info element on its control, with the sample text that stands for what the jukebox would tell.
+// Shows an info element on its control, with a sample of the jukebox's text.
 #pragma once
 
 #include <string>
@@ -9,15 +9,15 @@
 
 namespace ornavo {
 
-/// Everything of the element but its place. Makes its scroll speed positive and gives it a font of 10 points
-/// if it has none; both stay in the element.
+/// Sets everything but the place. Changes the element: its scroll speed becomes positive, and it gets a font
+/// of 10 points if it has none.
 void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview);
 
-/// What the canvas shows for the element's InfoType; "" where it shows nothing.
+/// The text on the canvas for the element's InfoType; "" if there is none.
 std::string InfoSampleText(const dbLayoutElement& element);
 
-/// One line, "&" and line breaks as characters, that begins at a place of the box, pixels, which may lie
-/// anywhere; nothing for "".
+/// Draws one line of text whose top left is at a point of the box, in pixels; the point may be outside. "&"
+/// and line breaks have no special meaning.
 void DrawInfoText(PictureBox& box, std::string_view text, const Point& at);
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which controls show an element, by their names.
+// Which control shows which kind of element, by the control's name.
 #pragma once
 
 #include "platform/control.h"
@@ -8,16 +8,17 @@ namespace ornavo {
 
 enum class ElementKind { Button, Main, Info, SearchBox, Scrollframe };
 
+/// A control or pool that shows elements.
 struct ElementFamily {
     std::string_view control;  // the name of the control or of its pool
     ElementKind kind;
-    bool isStandard;  // the layout's own: neither cloned nor deleted
+    bool isStandard;  // part of every layout: not cloned or deleted
 };
 
-/// Null for any other control. The bar belongs to the family of its frame.
+/// Null for any other control. The scroll bar has the kind of its frame.
 const ElementFamily* FamilyOf(const Control& control);
 
-/// A row of a table that has one for each kind.
+/// The row for a kind of a table with one row per kind.
 template <class Table>
 auto& RowOf(Table& table, ElementKind kind) {
     return table[static_cast<std::size_t>(kind)];

@@ -20,7 +20,7 @@ constexpr QAccessible::Role Roles[] = {
 }  // namespace
 
 void TellElement(Control& control, const dbLayoutElement& element) {
-    const auto type = static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table
+    const auto type = static_cast<std::size_t>(element.ElementType);  // a negative type is beyond it
     if (type < std::size(Roles)) control.SetAccessible(Roles[type], Shown(element.ElementName));
 }
 

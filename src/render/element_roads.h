@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Steps that a whole composition and the redraw of one element share.
+// Steps shared by a whole composition and the redraw of a single element.
 #pragma once
 
 #include "document/dblayoutelements.h"
@@ -7,20 +7,21 @@
 
 namespace ornavo {
 
-/// Puts the control at its element's place and ties it to it. False where there is nothing to show: the
-/// control is then nobody's.
+/// Moves the control to its element's place and sets its Tag to the element's key. False for an element
+/// without a size: the Tag is then empty.
 bool Claim(Control& control, const dbLayoutElement& element);
 
-/// What a screen reader says of the control: the element's name, and what it is.
+/// Tells a screen reader the element's name and role.
 void TellElement(Control& control, const dbLayoutElement& element);
 
-/// A control that an element has for itself is shown before its size is known, and stays so when it has none.
+/// Claims the control of an element that has one of its own. The control is made visible first, and stays so
+/// even if the element has no size.
 bool ClaimSingle(Control& control, dbLayoutElement& element);
 
-/// To the front, seen or not.
+/// Brings the control to the front, visible or not.
 void Present(Control& control, bool visible);
 
 void ShowSearchBox(dbLayoutElement& element, LayoutHost& host);
-void ShowScrollframe(dbLayoutElement& element, LayoutHost& host);  // and its bar
+void ShowScrollframe(dbLayoutElement& element, LayoutHost& host);  // and its scroll bar
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The key colour of a sample control and the one that is stored for it: each may come from the other.
+// Exchanges the key colour between a sample control and its stored value.
 #pragma once
 
 #include <memory>
@@ -8,9 +8,9 @@
 
 namespace ornavo {
 
-/// With the rule of the top left pixel the button takes what is stored; without, what is stored follows the
-/// button. `owner` is the skin or the layout in which it is stored: a button that was styled for another
-/// takes what is stored too, so that no skin gets the colour of another.
+/// With isTopLeft the button takes the stored colour; otherwise the button's colour is stored. `owner` is the
+/// skin or layout that stores it. A button last styled for another owner takes the stored colour in any case,
+/// so that no skin gets the colour of another.
 template <class Stored>
 void ExchangeTransparentColor(TileButton& button, bool isTopLeft, const std::shared_ptr<const void>& owner,
                               Colour stored, Stored&& store) {

@@ -10,7 +10,7 @@
 #include "base/text.h"
 #include "platform/shown.h"
 
-// The linker drops from a library what nobody names, and the resources name themselves only.
+// Named here, because the linker drops parts of a library that nothing refers to, such as these resources.
 static void InitResources() {
     Q_INIT_RESOURCE(kiosk);
 }

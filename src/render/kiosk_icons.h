@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The small pictures of the sample panel, drawn for it and part of the program.
+// The small pictures of the sample panel, which are resources of the program.
 #pragma once
 
 #include <string_view>
@@ -8,13 +8,14 @@
 
 namespace ornavo {
 
-/// Pictures by key without regard to case: stars, marks of a song, kinds of lists. Each is read on first use.
+/// Pictures by key, without regard to case: stars, marks of a song, kinds of lists. Each is read on first
+/// use.
 class ImageList {
 public:
-    PictureRef Item(std::string_view key) const;  // Failure 9 where there is no such picture
+    PictureRef Item(std::string_view key) const;  // Failure 9 if there is no such picture
 };
 
-/// The picture that stands for an album's.
+/// The sample of an album's picture.
 PictureRef SampleAlbum();
 
 }  // namespace ornavo

@@ -15,19 +15,21 @@
 namespace ornavo {
 namespace {
 
-constexpr int PictureGap = 4;  // pixels between the picture and its label, and of its shadow
+constexpr int PictureGap = 4;  // pixels between the picture and its label, and from the picture to its shadow
 constexpr int InfoWidth = 40, InfoHeight = 41;
-constexpr int Beside = 100, RowsAtLeast = 300;  // pixels of a row: left free beside it, and in place of none
+constexpr int Beside = 100,
+              RowsAtLeast = 300;  // pixels: room left beside a song row, and the width of a row without room
 constexpr const char* PictureText = "The Tide Comes Over You!\r\n(Quillmar)\r\n(2002)";
 
-/// The Main element's margins and what follows from them, in pixels; 0 where it can't be told.
+/// The Main element's margins and what follows from them, in pixels; 0 if a value cannot be computed.
 struct Measures {
     int marginLeft = 0, marginTop = 0, marginRight = 0, marginBottom = 0;
     int panelLeft = 0, panelTop = 0, panelWidth = 0, panelHeight = 0;
     int pictureSize = 0, songWidth = 0;
 };
 
-// Sums are made of real numbers and made whole at the end, so that what is too large fails and does not wrap.
+// Sums are computed as doubles and rounded at the end, so that a value beyond 32 bits fails instead of
+// wrapping.
 double Real(int number) {
     return number;
 }
@@ -65,7 +67,7 @@ Measures Measure(const PictureBox& pMain) {
     return m;
 }
 
-/// Moves a control by statements on its bounds, each of which may fail by itself.
+/// Changes a control's bounds by statements, each of which may fail on its own.
 template <class... Statements>
 void Place(Control& control, Statements... statements) {
     Rect bounds = control.Bounds();
@@ -98,7 +100,8 @@ void SetupLabel(Label& label, std::string_view colourKey) {
     label.Refresh();
 }
 
-/// Below the picture at these bounds, the shadow moved by a part of its size.
+/// Places the label below the picture, which has these bounds, and its shadow farther by a part of the
+/// picture's size.
 void PlaceLabels(SamplePanel& sample, const Rect& picture) {
     Label &label = sample.but_Label, &shadow = sample.but_LabelShadow;
     const auto move = [&](Label& one, double left, double top) {
@@ -127,8 +130,8 @@ void ShowLabels(SamplePanel& sample) {
     shadow.setVisible(isSeen && Pref("PI_TextShadow").value.ToBoolean());
 }
 
-/// The album picture, its shadow, its label and the button in its corner: a square of `size` pixels at x, y.
-/// Not guarded: what fails ends it, and what comes after it stays as it was.
+/// Sets up the album picture, a square of `size` pixels at x, y, with its shadow, its label and the button in
+/// its corner. A failure ends it, and what would come after stays unchanged.
 void SetupPictures(SamplePanel& sample, int size, int x, int y) {
     TileButton& picture = sample.but_Picture;
     picture.State.ShowBorder = Pref("PI_PictureBorder").value.ToBoolean();

@@ -34,14 +34,14 @@ LayoutHost::LayoutHost(QWidget& window, ControlEvents* listener)
         Listening(single, listener);
     cover_.setAttribute(Qt::WA_TransparentForMouseEvents);
     cover_.hide();
-    // It stands for the jukebox's box: nobody types into the picture of it.
+    // It is only a picture of the jukebox's search box, so nothing can be typed into it.
     tbx_Search.Edit().setReadOnly(true);
     tbx_Search.Edit().setFocusPolicy(Qt::NoFocus);
 }
 
 void LayoutHost::ClearElements() {
-    // Qt adds up what every hidden control uncovers, rectangle by rectangle. A cover that comes and goes
-    // tells it first that all of the window is to be painted again, and then there is nothing to add.
+    // Qt would add up the areas that the hidden controls uncover, one by one. Showing and hiding a cover
+    // first marks the whole window for repainting, so that nothing is left to add.
     cover_.setGeometry(window_.rect());
     cover_.show();
     cover_.hide();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Owner of every control that a layout needs, by the names that the composition uses. Knows no element.
+// Owns all controls that a layout needs, under the names that the composition uses. Knows no element.
 #pragma once
 
 #include "platform/text_controls.h"
@@ -7,29 +7,30 @@
 
 namespace ornavo {
 
+/// The controls of a layout on one window.
 class LayoutHost {
 public:
-    /// The controls become children of the window. The listener hears their mouse.
+    /// The controls become children of the window; the listener gets their mouse events.
     LayoutHost(QWidget& window, ControlEvents* listener);
 
     PictureBox pMain;
-    SamplePanel sample;  // stands on pMain
+    SamplePanel sample;  // on pMain
 
 private:
     QWidget& window_;
-    QWidget cover_;  // never seen; see ClearElements
+    QWidget cover_;  // invisible; used by ClearElements
 
 public:
     Pool<TileButton> Element;
     Pool<PictureBox> pInfo;
-    PictureBox pMainBack;  // never shown; holds the panel's background picture
+    PictureBox pMainBack;  // never visible; holds the panel's background picture
     TextBox tbx_Search;
     TileButton Scrollframe;
     TileButton ScrollBar;
 
     int GetFreeElement() { return Element.GetFree(); }
     int GetFreeInfo() { return pInfo.GetFree(); }
-    /// Every slot freed and hidden, the single controls hidden.
+    /// Frees and hides all slots of the pools and hides the single controls.
     void ClearElements();
 };
 

@@ -10,14 +10,15 @@
 namespace ornavo {
 namespace {
 
-/// One direction of an element: what it keeps its distance to, and the two sizes of the window.
+/// One direction of an element: its anchors and the two sizes of the window.
 struct Axis {
     bool nearLock, farLock, stretch;
     double target, design;
-    double (*half)(double);  // how a far-locked, stretched element rounds its way: the one place where the
-                             // directions differ
+    double (*half)(double);  // rounds the shift of a far-locked, stretched element; the only difference
+                             // between the directions
 };
 
+/// Start and length in one direction.
 struct Span {
     double start, extent;
 };

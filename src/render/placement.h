@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where elements and corners stand in a window of any size: the anchor arithmetic, forward and back.
-// Knows no window and reads no global.
+// Where elements and corners are in a window of any size: the anchor arithmetic and its inverse. Uses no
+// window and no global.
 #pragma once
 
 #include "base/geometry.h"
@@ -9,26 +9,25 @@
 
 namespace ornavo {
 
-/// The window that is composed and the skin's own size, all pixels.
+/// The inner size of the composed window and the size of the skin, in pixels.
 struct Frame {
     int TargetWidth = 0, TargetHeight = 0;
     int DesignWidth = 0, DesignHeight = 0;
 };
 
-/// The element's rectangle in the window. Failure 11 where the skin has no size to divide by, 6 where a
-/// number leaves 32 bits.
+/// The element's rectangle in the window. Failure 11 if the skin's size is 0 where it divides, 6 if a result
+/// exceeds 32 bits.
 Rect GetElementRect(const dbLayoutElement& element, const Frame& frame);
 
-/// The way back: writes LeftX, TopY, WidthX and HeightY so that the element stands at these bounds. Not an
-/// exact inverse where half the difference of the sizes is no whole number. Failures as above; the element
-/// is then unchanged.
+/// The inverse: sets LeftX, TopY, WidthX and HeightY so that the element has these bounds. Not exact if the
+/// sizes differ by an odd number. Failures as above, with the element unchanged.
 void WriteElementBounds(dbLayoutElement& element, const Rect& bounds, const Frame& frame);
 
-/// The corner's place in the window. `forRegion`: for a region, which leaves out its right and bottom edge.
+/// The corner's position in the window. `forRegion` adds 1 at the right and bottom, which a region excludes.
 Point GetPointPosition(const dbPoint& point, const Frame& frame, bool forRegion);
 
-/// The way back of the form that is not for a region: writes X and Y so that the corner stands there.
-/// Failures as above; the point is then unchanged, and so is a direction whose alignment is none.
+/// The inverse of GetPointPosition without `forRegion`: sets X and Y. Failures as above, with the point
+/// unchanged. A coordinate with an unknown alignment is left unchanged.
 void SetPointPosition(dbPoint& point, int x, int y, const Frame& frame);
 
 }  // namespace ornavo

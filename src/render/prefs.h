@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Preferences and fonts of the current skin by key.
+// Access to preferences and fonts of the current skin by key.
 #pragma once
 
 #include <cstdint>
@@ -12,19 +12,19 @@
 
 namespace ornavo {
 
-/// A preference, and its value as text; Failure where there is no such preference.
+/// A preference, and its value as text; Failure 9 if there is no such preference.
 dbSkinPref& Pref(std::string_view key);
 std::string PrefText(std::string_view key);
 
-/// The whole number that a text stands for, 0 if it stands for none.
+/// The integer that the text represents, otherwise 0.
 int SafeLong(const std::string& text);
 
-/// The font of a preference or an element. Where it has none, a font is made, named by its value, and stored:
-/// then the stored one itself is returned, otherwise a copy. Sizes are points.
+/// A copy of the font of a preference or an element. If it has none, a font is made, named by the
+/// preference's or element's value, and stored; then the stored object itself is returned. Sizes are points.
 FontRef GetPrefFont(std::string_view key, double defaultSize);
 FontRef GetElementFont(dbLayoutElement& element, double defaultSize);
 
-/// The height of a text layer in this font, pixels.
+/// The height in pixels of a text layer with this font.
 float TextHeight(const Font& font);
 
 }  // namespace ornavo

@@ -18,7 +18,7 @@
 namespace ornavo {
 namespace {
 
-/// The element's own slot, or a free one: another element may have got the slot that was given back.
+/// The element's own slot, or a free one if another element has taken it in the meantime.
 template <class T>
 T& SlotOf(Pool<T>& pool, dbLayoutElement& element) {
     const int slot = element.ControlIndex;
@@ -85,7 +85,7 @@ Control& ControlOf(dbLayoutElement& element) {
 
 void RedrawElement(dbLayoutElement& element) {
     if (!viewSwitches.ShowElements) return;
-    const auto type = static_cast<std::size_t>(element.ElementType);  // a negative one is beyond the table
+    const auto type = static_cast<std::size_t>(element.ElementType);  // a negative type is beyond it
     if (type < Redraws.size()) Redraws[type](element, TargetForm->host());
 }
 
@@ -95,7 +95,7 @@ bool RedrawSample(const SampleFamily& family) {
         case Redraw::Layout:
             return false;
         case Redraw::Panel:
-            TargetForm->ShowGrid();  // the background is one of its preferences
+            TargetForm->ShowGrid();  // because the canvas's background is a preference of this family
             LayoutKioskPanel();
             SetupKioskPanel();
             break;

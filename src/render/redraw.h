@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What an edit has changed of the composed layout is shown anew, the rest left alone.
+// Redraws the part of the composed layout that an edit has changed.
 #pragma once
 
 #include "document/dblayoutelements.h"
@@ -9,16 +9,16 @@ namespace ornavo {
 class Control;
 struct SampleFamily;
 
-/// The control that shows the element, on the target. One without a size, which has none, gets a hidden one
-/// that it keeps until the next composition. Its Tag is the element's key.
+/// The target's control for the element, with its Tag set to the element's key. An element without a size
+/// gets a hidden control, which it keeps until the next composition.
 Control& ControlOf(dbLayoutElement& element);
 
-/// By the same steps as a composition. An element whose width or height is below 1 loses its control's Tag
-/// and is hidden, if it is a button, a picture, a volume or an info. Draws nothing for other types than 0
-/// to 6.
+/// Redraws the element as a composition would. A button, picture, volume or info whose width or height is
+/// below 1 is hidden and its control's Tag emptied. Does nothing for types other than 0 to 6, or while
+/// elements are hidden.
 void RedrawElement(dbLayoutElement& element);
 
-/// What the preferences of the family say. False where only a composition shows it.
+/// Redraws the controls of the family by its preferences. False if a whole composition is needed.
 bool RedrawSample(const SampleFamily& family);
 
 }  // namespace ornavo

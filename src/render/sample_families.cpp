@@ -12,8 +12,8 @@ namespace {
 constexpr HeadingSize Untold = HeadingSize::Untold, Told = HeadingSize::Told;
 using Sample = SamplePanel;
 
-// In the order in which they are styled: of keys that write their colour to one preference the last one wins.
-// One line for what a row is, one for how it is styled.
+// In the order of styling: if several write their key colour to the same preference, the last one wins. Each
+// row has a line for what the control is and one for how it is styled.
 // clang-format off
 constexpr std::array Families = {
     SampleFamily{"but_Song", "SO", "D", "Main Button (Song & Artist)", Untold, Redraw::Places,

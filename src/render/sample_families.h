@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The controls of the panel's sample as one table: what a click, a sheet, an edit and a composition need to
-// know of each. A new sample control is a member of SamplePanel and a row here.
+// The table of the sample panel's controls, for clicks, sheets, edits and compositions. To add a sample
+// control, add a member to SamplePanel and a row here.
 #pragma once
 
 #include <span>
@@ -12,17 +12,17 @@ namespace ornavo {
 
 std::span<const SampleFamily> SampleFamilies();
 
-/// The family of the control with that name; null for any other control.
+/// The family of the control with this name; null for any other control.
 const SampleFamily* FindSample(std::string_view controlName);
 
-/// The control that is selected when this one of the family is clicked: of a pool the template.
+/// The control that is selected when `clicked` is clicked: the family's button, or the template of its pool.
 Control& SelectedBy(Control& clicked, SamplePanel& sample, const SampleFamily& family);
 
-/// The family's button as its preferences say; nothing for a family without one.
+/// Styles the family's button by its preferences; does nothing for a family without a button.
 void StyleButton(SamplePanel& sample, const SampleFamily& family);
 
-/// After an edit of `prefix` + "_TransparentColor": the family's controls take the stored colour when they
-/// are next styled, also where they would otherwise write theirs to the preference.
+/// Call after an edit of `prefix` + "_TransparentColor": the family's controls then take the stored colour
+/// when they are next styled, even where they would otherwise store their own.
 void TakeTransparentColor(SamplePanel& sample, std::string_view prefix);
 
 }  // namespace ornavo

@@ -5,10 +5,10 @@ namespace ornavo {
 namespace {
 
 constexpr Colour GuideColour = Rgb(128, 128, 128);
-constexpr Rect CaptionPlace = {64, 0, 0, 0};  // its top and size come with the layout and the text
+constexpr Rect CaptionPlace = {64, 0, 0, 0};  // its top and size are set by the layout and the text
 constexpr const char* PanelCaption = "Songs by Artist";
 constexpr int AddAllSize = 40;
-constexpr int KeyHeight = 32, KeyGap = 4;  // a key's caption starts 3 pixels below its top
+constexpr int KeyHeight = 32, KeyGap = 4;  // pixels
 
 }  // namespace
 
@@ -20,7 +20,7 @@ SamplePanel::SamplePanel(PictureBox& panel, ControlEvents* listener)
           return row;
       }) {
     for (Control* control : panel.findChildren<Control*>()) control->Listen(listener);
-    // What only adorns the panel leaves the mouse to it.
+    // Decorations pass the mouse to the panel.
     for (Control* adornment : std::initializer_list<Control*>{&kLine[0], &kLine[1], &lbl_KioskShadow,
                                                               &but_Shadow, &but_LabelShadow})
         adornment->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -36,7 +36,8 @@ SamplePanel::SamplePanel(PictureBox& panel, ControlEvents* listener)
     PlaceKeys();
 }
 
-/// In a row, as on a keyboard. Between the keys the strip is cut out, so that the panel shows and is hit.
+/// Places the keys in a row. The strip is cut out between the keys, so that the panel is visible and can be
+/// clicked there.
 void SamplePanel::PlaceKeys() {
     const std::pair<TileButton*, int> row[] = {
         {&KeyU, 56}, {&KeyN, 44}, {&KeyS, 132}, {&KeyB, 56}, {&KeyE, 80}};

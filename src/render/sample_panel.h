@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The sample of the jukebox's list panel: the controls that stand on `pMain`, as they are before a skin has
-// styled and placed them.
+// The controls of the sample of the jukebox's list panel, on `pMain`, before a skin styles and places them.
 #pragma once
 
 #include <array>
@@ -14,8 +13,9 @@
 
 namespace ornavo {
 
+/// The sample's controls, in the order from back to front.
 struct SamplePanel {
-    /// The listener hears the mouse of all of them.
+    /// The listener gets the mouse events of all controls.
     SamplePanel(PictureBox& panel, ControlEvents* listener);
 
     PictureBox& pMain;
@@ -29,14 +29,14 @@ struct SamplePanel {
     TileButton but_Song{&pMain, "but_Song"};
     TileButton but_Song2{&pMain, "but_Song2"};
     TileButton but_Info{&pMain, "but_Info"};
-    Control pKeyb{&pMain, "pKeyb"};  // the strip of keys, cut out between them
+    Control pKeyb{&pMain, "pKeyb"};  // holds the keys; cut out between them
     TileButton KeyU{&pKeyb, "KeyU"};
     TileButton KeyN{&pKeyb, "KeyN"};
     TileButton KeyS{&pKeyb, "KeyS"};
     TileButton KeyB{&pKeyb, "KeyB"};
     TileButton KeyE{&pKeyb, "KeyE"};
     TileButton but_AddAll{&pMain, "but_AddAll"};
-    Pool<TileButton> lbl_SL;  // a row of letters each; slot 0 is hidden
+    Pool<TileButton> lbl_SL;  // one per row of letters; slot 0 is hidden
     ImageList img_Kiosk;
 
 private:

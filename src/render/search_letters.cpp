@@ -14,7 +14,7 @@ namespace {
 
 constexpr int Letters = 26, SelectedRow = 20;
 
-/// Slots from 1 are freed, and hidden until they are used again.
+/// Frees and hides the slots from 1.
 void HideLetters(Pool<TileButton>& pool) {
     for (int slot = 1; slot <= pool.Top(); ++slot) {
         pool[slot].setVisible(false);
@@ -28,10 +28,11 @@ int GetFreeLetter(Pool<TileButton>& pool) {
     return pool.Load();
 }
 
+/// The measures of the column, in pixels.
 struct Column {
     const SampleFamily& letters;
-    int height = 0;     // of all rows
-    int rowHeight = 0;  // of a letter
+    int height = 0;     // of all rows together
+    int rowHeight = 0;  // of one letter
     int border = 0;
     double fontSize = 0;
 };

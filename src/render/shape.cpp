@@ -8,11 +8,11 @@ namespace {
 
 const QColor Dim(0, 0, 0, 96);
 const QColor LineDark(0, 0, 0, 170), LineLight(255, 255, 255, 230);
-constexpr int Beyond = 10;  // pixels by which the frame of an inverted shape lies outside the window
-constexpr int Far = 4096;   // pixels outside the window where the sides of a region may be cut off
+constexpr int Beyond = 10;  // pixels from the window to the frame of an inverted shape
+constexpr int Far = 4096;   // pixels from the window at which a region may be cut off
 
-/// The same polygon with a frame around the window spliced in after its first corner, so that an odd-even
-/// filling covers what lies outside.
+/// The polygon with a frame around the window inserted after its first corner, so that an odd-even filling
+/// covers the outside.
 QPolygon Inverted(const QPolygon& shape, const Frame& frame) {
     if (shape.isEmpty()) return shape;
     const int right = frame.TargetWidth + Beyond, bottom = frame.TargetHeight + Beyond;
@@ -24,7 +24,7 @@ QPolygon Inverted(const QPolygon& shape, const Frame& frame) {
     return all;
 }
 
-/// How far inside of one edge of the bounds a point lies; negative outside.
+/// The distance of a point from one edge of the bounds; negative outside of it.
 using Depth = double (*)(const QPointF&, const QRectF& bounds);
 constexpr Depth Depths[] = {
     [](const QPointF& at, const QRectF& bounds) { return at.x() - bounds.left(); },
@@ -33,7 +33,7 @@ constexpr Depth Depths[] = {
     [](const QPointF& at, const QRectF& bounds) { return bounds.bottom() - at.y(); },
 };
 
-/// What is left of the polygon inside of one edge; where it was cut its sides run along that edge.
+/// The part of the polygon inside of one edge; where it is cut, its side runs along that edge.
 QPolygonF CutAt(const QPolygonF& polygon, const QRectF& bounds, Depth depth) {
     QPolygonF kept;
     for (qsizetype i = 0; i < polygon.size(); ++i) {
@@ -45,7 +45,8 @@ QPolygonF CutAt(const QPolygonF& polygon, const QRectF& bounds, Depth depth) {
     return kept;
 }
 
-/// The same inside of the window with no corner far away: a region costs memory for each of its rows.
+/// A polygon that is equal inside the window but has no distant corners, because a region costs memory for
+/// each of its rows.
 QPolygon Nearby(const QPolygon& shape, const Frame& frame) {
     const QRect window(0, 0, frame.TargetWidth, frame.TargetHeight);
     const QRect bounds = window.adjusted(-Far, -Far, Far, Far);

@@ -11,16 +11,18 @@
 
 namespace ornavo {
 
-/// The corners in collection order, pixels of the window. Failures of GetPointPosition.
+/// The corners in the order of the collection, in pixels of the window. Throws the failures of
+/// GetPointPosition.
 QPolygon ShapePolygon(const dbLayout& layout, const Frame& frame, bool forRegion);
 
-/// The window's region, odd-even. Empty when the polygon has no inside: then the window stays whole.
+/// The window's region by the odd-even rule. Empty if the polygon has no inside, and then the window is not
+/// cut.
 QRegion ShapeRegion(const dbLayout& layout, const Frame& frame);
 
-/// Measures the composed target and cuts it to the current layout's shape.
+/// Measures the composed target and cuts it to the target layout's shape.
 void ShapeForm();
 
-/// Dims the inside of the shape, or with `inverted` what lies outside, and outlines it so that the line shows
+/// Dims the inside of the shape, or with `inverted` the outside, and draws its outline so that it is visible
 /// on black and on white.
 void DrawShapeOverlay(QPainter& painter, const dbLayout& layout, const Frame& frame, bool inverted);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A picture's name becomes a picture of the current skin.
+// Loads a picture of the current skin by its name.
 #pragma once
 
 #include <string>
@@ -9,11 +9,11 @@
 
 namespace ornavo {
 
-/// Null for an empty name, a missing file or one that is no picture.
+/// Null for an empty name, a missing file or a file that is not a picture.
 PictureRef LoadSkinPicture(std::string_view name);
 
-/// One of a button's three pictures: an animated GIF goes as its path into the animated property, anything
-/// else as a picture into the plain one, and the animated property is emptied.
+/// Sets one of a button's pictures: an animated GIF as its path in `animated`; any other as a picture in
+/// `plain`, with `animated` emptied.
 void SetTilePicture(PictureRef& plain, std::string& animated, std::string_view name);
 
 }  // namespace ornavo

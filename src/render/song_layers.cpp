@@ -22,6 +22,7 @@ void TakeWhole(int& field, std::string_view key) {
     Attempt([&] { field = Pref(key).value.ToLong(); });
 }
 
+/// A text of a row: its layer, and the keys of its preferences.
 struct TextRow {
     std::string_view layer, text, font, align, left, top, colour;
     double fontSize;
@@ -46,6 +47,7 @@ void AddText(TileButton& button, const TextRow& row) {
     TakeWhole(layer.ForeColor, row.colour);
 }
 
+/// An icon of a row: its layer, and the keys of its preferences.
 struct IconRow {
     std::string_view layer, image, align, left, top;
 };
@@ -64,7 +66,7 @@ TileLayer& AddIcon(TileButton& button, const IconRow& row, std::string_view imag
     return layer;
 }
 
-/// Where the first star stands and how far it is to the next: a row at the right end grows to the left.
+/// The place of the first star and the step to the next, in pixels. A row at the right end grows to the left.
 struct StarRow {
     float left = 0;
     float step = IconStep;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands on the sample's song rows: texts, icons and the stars of a rating.
+// The layers of the sample's song rows: texts, icons and the stars of a rating.
 #pragma once
 
 #include <string_view>
@@ -10,10 +10,10 @@ namespace ornavo {
 
 enum class SongRow { TwoLines, OneLine };
 
-/// All layers anew.
+/// Makes all layers of the row anew.
 void SetupSongLayers(TileButton& button, SongRow row);
 
-/// A text layer's font from a preference, and the layer's height with it.
+/// Sets a text layer's font from a preference, and the layer's height by the font.
 void TakeFont(TileLayer& layer, std::string_view key, double defaultSize);
 
 }  // namespace ornavo

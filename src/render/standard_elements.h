@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The three elements that every layout has: the panel, the search box, and the scroll frame with its bar.
+// The standard elements of every layout: the panel, the search box, and the scroll frame with its bar.
 #pragma once
 
 #include "document/dblayoutelements.h"
@@ -7,19 +7,19 @@
 
 namespace ornavo {
 
-/// Each sets up everything of its control but the place, which the control has already.
+/// Each sets everything of its control but the place.
 void SetupMainPanel(LayoutHost& host, const dbLayoutElement& element);
 void SetupSearchElement(TextBox& box, const dbLayoutElement& element);
 void SetupScrollElement(LayoutHost& host, dbLayoutElement& element);
 
-/// The bar of the frame, by the frame's own element: its picture is PicOn. Without the rule of the top left
-/// pixel the element's key colour follows the bar's.
+/// Sets the bar of the scroll frame by the frame's element: its picture is PicOn. Without
+/// UseTopLeftTransparency the element gets the bar's key colour.
 void SetupScrollBar(TileButton& bar, dbLayoutElement& element);
 
-/// The panel's background picture: tiled from its top left, or stretched over it on black.
+/// Draws the panel's background picture: tiled from the top left, or stretched over the panel on black.
 void DrawMainBackground(LayoutHost& host, bool stretch);
 
-/// The bar's place in a frame at these bounds.
+/// The bar's bounds in a frame with these bounds, in the same pixels.
 Rect ScrollBarRect(const Rect& frame);
 
 }  // namespace ornavo

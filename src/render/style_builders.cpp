@@ -18,7 +18,7 @@
 namespace ornavo {
 namespace {
 
-/// A button and its family: where a step reads and what it sets.
+/// A button to style and its family.
 struct Styling {
     const SampleFamily& family;
     TileButton& button;
@@ -30,7 +30,7 @@ struct Styling {
 
 using Step = void (*)(const Styling&);
 
-/// One statement of a step: a preference by its name without the prefix, converted to the field's type.
+/// Sets a field from a preference, which is named without its prefix and converted to the field's type.
 template <class T>
 void Take(const Styling& styling, T& field, std::string_view name) {
     Attempt([&] {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The preferences of a family on the controls of the panel's sample. A statement that fails (a preference is
-// missing, a picture can't be read) is left out, and the next one runs.
+// Styles the controls of the sample panel by the preferences of their family. A step that fails, because a
+// preference is missing or invalid, is skipped.
 #pragma once
 
 #include "platform/text_controls.h"
@@ -10,7 +10,7 @@ namespace ornavo {
 
 struct SampleFamily;
 
-/// Each styles a button of the family and leaves the Refresh to its caller.
+/// Each styles a button of the family; the caller must call Refresh.
 void SetupInfoButton(const SampleFamily& family, TileButton& button);
 void SetupAddAllButton(const SampleFamily& family, TileButton& button);
 void SetupSongButton(const SampleFamily& family, TileButton& button);

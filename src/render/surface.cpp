@@ -19,11 +19,11 @@ namespace {
 
 constexpr Colour CanvasColour = ColourOf(0x8000000C);
 constexpr Colour DotColour = Rgb(110, 100, 100);
-constexpr int LeastGrid = 3;  // pixels; with both spacings below it there is no grid
+constexpr int LeastGrid = 3;  // pixels; no grid is drawn if both spacings are smaller
 constexpr int MostGrid = 100'000;
 constexpr int DotsPerLine = 5;
 
-/// The skin's background; null when it has none. Failure when it has one that can't be loaded.
+/// The skin's background; null if it has none. Failure if it cannot be loaded.
 PictureRef BackgroundPicture() {
     const std::string name = PrefText("SP_BackgroundPicture");
     if (name.empty()) return nullptr;
@@ -33,7 +33,7 @@ PictureRef BackgroundPicture() {
     return picture;
 }
 
-// Lines and dots are filled rectangles: whole pixels of the skin at every scale of the screen.
+// Filled rectangles, because they cover whole pixels of the skin at every scale of the screen.
 void DrawLine(QPainter& painter, int x, int y, int width, int height, const QColor& colour) {
     painter.fillRect(x, y, width, height, colour);
 }
@@ -47,7 +47,7 @@ void DrawGrid(QPainter& painter, int width, int height, int gridX, int gridY) {
         const QColor lines = ScreenColour(BlendColor(DotColour, 0, 128));
         for (int x = 0; x <= width; x += DotsPerLine * stepX) DrawLine(painter, x, 0, 1, height, lines);
         for (int y = 0; y <= height; y += DotsPerLine * stepY) DrawLine(painter, 0, y, width, 1, lines);
-        std::vector<QRect> grid;  // painted in one call: thousands of dots on every canvas
+        std::vector<QRect> grid;  // in one call, because a canvas has thousands of dots
         for (int x = 0; x <= width; x += stepX)
             for (int y = 0; y <= height; y += stepY) grid.emplace_back(x, y, 1, 1);
         painter.setPen(Qt::NoPen);
@@ -81,7 +81,7 @@ void Surface::ShowGrid(const Frame& frame, double devicePixelRatio) {
 void Surface::Paint(QPainter& painter, const QRect& area) const {
     const QSize covered = drawn_.deviceIndependentSize().toSize();
     if (!QRect(QPoint(0, 0), covered).contains(area)) painter.fillRect(area, ScreenColour(CanvasColour));
-    painter.drawPixmap(0, 0, drawn_);  // the painter is clipped to what must be painted
+    painter.drawPixmap(0, 0, drawn_);  // the painter clips it to the area
 }
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What lies behind the elements of the canvas: background picture, shape overlay, grid and guide lines.
+// What is drawn behind the elements of the canvas: background picture, shape overlay, grid and guide lines.
 #pragma once
 
 #include <QPixmap>
@@ -9,21 +9,23 @@
 
 namespace ornavo {
 
+/// The canvas's background, drawn once and painted from a pixmap.
 class Surface {
 public:
-    /// Draws everything anew for a window of this size, by the current skin, layout and view switches. When
-    /// the skin's background can't be loaded, what was there stays as it is; a shape that has no place leaves
-    /// the background alone.
+    /// Draws everything for a window of this size, by the current skin, layout and view switches. If the
+    /// skin's background cannot be loaded, the old drawing stays. If the shape cannot be placed, only the
+    /// background is drawn.
     void ShowGrid(const Frame& frame, double devicePixelRatio);
 
-    /// Fills the area (pixels of the window); what ShowGrid has not covered is the plain canvas colour.
+    /// Paints the area, in pixels of the window. Parts that ShowGrid has not drawn get the plain canvas
+    /// colour.
     void Paint(QPainter& painter, const QRect& area) const;
 
 private:
     QPixmap drawn_;
 };
 
-/// The grid and the two guide lines through the middle of a window of this size.
+/// The grid, and the two guide lines through the middle of a window of this size. All values are pixels.
 void DrawGrid(QPainter& painter, int width, int height, int gridX, int gridY);
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is being composed: one target and one layout for the whole program, and what a target offers.
+// What is being composed: the one target and layout of the whole program.
 #pragma once
 
 #include <QRegion>
@@ -11,17 +11,17 @@ namespace ornavo {
 
 class LayoutHost;
 
-/// A window that can be composed: the canvas, the preview, or the tool's window without a screen.
+/// A window that can be composed: the canvas, the preview, or the invisible window of the command-line tool.
 class CompositionTarget {
 public:
     virtual ~CompositionTarget() = default;
     virtual int ScaleWidth() const = 0;  // inner size, pixels
     virtual int ScaleHeight() const = 0;
     virtual LayoutHost& host() = 0;
-    virtual void ShowForm() {}                // the window comes to be seen
-    virtual void ShowShapePoints() {}         // the canvas alone has corners,
-    virtual void ShowGrid() {}                // and a surface of its own
-    virtual void SetShape(const QRegion&) {}  // the preview alone is cut to its shape
+    virtual void ShowForm() {}                // makes the window visible
+    virtual void ShowShapePoints() {}         // only the canvas shows corners
+    virtual void ShowGrid() {}                // and has a surface
+    virtual void SetShape(const QRegion&) {}  // only the preview is cut to the shape
 };
 
 extern CompositionTarget* TargetForm;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// What the designer chose to see on the canvas.
+// What the user wants to see on the canvas.
 #pragma once
 
 namespace ornavo {
 
-/// Program-wide; read from the settings at start.
+/// The view switches of the whole program; read from the settings at start.
 struct ViewSwitches {
     int GridX = 10, GridY = 10;  // pixels
     bool SnapGrid = false;
