@@ -38,31 +38,26 @@ void InNext(Work work) {
 
 TEST(QtPrompts, ABoxShowsWhatIsSaidAndGivesTheButton) {
     QtPrompts prompts;
-    struct Row {
-        Buttons buttons;
-        QMessageBox::StandardButton pressed;  // NoButton: the Escape key, Default: Return
-        Answer answer;
-    };
-    const Row rows[] = {{Buttons::Ok, QMessageBox::Ok, Answer::Ok},
-                        {Buttons::Ok, QMessageBox::NoButton, Answer::Ok},
-                        {Buttons::YesNo, QMessageBox::Yes, Answer::Yes},
-                        {Buttons::YesNo, QMessageBox::No, Answer::No},
-                        {Buttons::YesNo, QMessageBox::Default, Answer::No},
-                        {Buttons::YesNoCancel, QMessageBox::Default, Answer::Yes},
-                        {Buttons::YesNoCancel, QMessageBox::Yes, Answer::Yes},
-                        {Buttons::YesNoCancel, QMessageBox::No, Answer::No},
-                        {Buttons::YesNoCancel, QMessageBox::Cancel, Answer::Cancel},
-                        {Buttons::YesNoCancel, QMessageBox::NoButton, Answer::Cancel}};
-    for (const Row& row : rows) {
-        InNext<QMessageBox>([&row](QMessageBox& box) {
+    using Box = QMessageBox;  // NoButton: the Escape key, Default: Return
+    const std::tuple<Buttons, Box::StandardButton, Answer> rows[] = {
+        {Buttons::Ok, Box::Ok, Answer::Ok},
+        {Buttons::Ok, Box::NoButton, Answer::Ok},
+        {Buttons::YesNo, Box::Yes, Answer::Yes},
+        {Buttons::YesNo, Box::Default, Answer::No},
+        {Buttons::YesNoCancel, Box::Default, Answer::Yes},
+        {Buttons::YesNoCancel, Box::No, Answer::No},
+        {Buttons::YesNoCancel, Box::Cancel, Answer::Cancel},
+        {Buttons::YesNoCancel, Box::NoButton, Answer::Cancel}};
+    for (const auto& [buttons, pressed, answer] : rows) {
+        InNext<Box>([pressed = pressed](Box& box) {
             EXPECT_EQ(box.text(), "<b>not bold</b>");
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
-            EXPECT_EQ(box.icon(), QMessageBox::Question);
-            if (row.pressed == QMessageBox::NoButton) return QTest::keyClick(&box, Qt::Key_Escape);
-            if (row.pressed == QMessageBox::Default) return QTest::keyClick(&box, Qt::Key_Return);
-            box.button(row.pressed)->click();
+            EXPECT_EQ(box.icon(), Box::Question);
+            if (pressed == Box::NoButton) return QTest::keyClick(&box, Qt::Key_Escape);
+            if (pressed == Box::Default) return QTest::keyClick(&box, Qt::Key_Return);
+            box.button(pressed)->click();
         });
-        EXPECT_EQ(prompts.Message("<b>not bold</b>", "Title", Icon::Question, row.buttons), row.answer);
+        EXPECT_EQ(prompts.Message("<b>not bold</b>", "Title", Icon::Question, buttons), answer);
     }
 }
 
@@ -81,25 +76,17 @@ TEST(QtPrompts, TheKeyboardGoesBackToTheWindowThatAsked) {
         if (twice) {
             InNext<QInputDialog>([&](QInputDialog& box) {
                 EXPECT_EQ(box.parentWidget(), &panel);
-                box.reject();
+                EXPECT_EQ(box.textValue(), "Big Party");
+                box.setTextValue("Hütte");
+                box.accept();
             });
-            prompts.Input("Enter a name", "Title", "");
+            EXPECT_EQ(prompts.Input("Enter a name", "Title", "Big Party"), "Hütte");
         }
         QCoreApplication::processEvents();
         EXPECT_EQ(QApplication::focusWidget(), &other) << twice;
     }
-}
-
-TEST(QtPrompts, AnInputIsTheTextOrNothing) {
-    QtPrompts prompts;
-    InNext<QInputDialog>([](QInputDialog& box) {
-        EXPECT_EQ(box.textValue(), "Big Party");
-        box.setTextValue("Hütte");
-        box.accept();
-    });
-    EXPECT_EQ(prompts.Input("Enter a name", "New Layout", "Big Party"), "Hütte");
     InNext<QInputDialog>([](QInputDialog& box) { box.reject(); });
-    EXPECT_EQ(prompts.Input("Enter a name", "New Layout", "Big Party"), std::nullopt);
+    EXPECT_EQ(prompts.Input("Enter a name", "Title", "Big Party"), std::nullopt);
 }
 
 TEST(QtPrompts, AFileIsChosenFromTheNearestFolderThatIsThere) {
@@ -119,13 +106,8 @@ TEST(QtPrompts, AFileIsChosenFromTheNearestFolderThatIsThere) {
     EXPECT_EQ(prompts.File(question), path.toStdString());
     InNext<QFileDialog>([](QFileDialog& box) { box.reject(); });
     EXPECT_EQ(prompts.File(question), std::nullopt);
-}
-
-TEST(QtPrompts, FiltersAreThoseOfTheDialog) {
-    EXPECT_EQ(NameFilters("All Pictures|*.jpg;*.bmp|JPEG (*.jpg)|*.jpg"),
-              (QStringList{"All Pictures (*.jpg *.bmp)", "JPEG (*.jpg)"}));
-    EXPECT_EQ(NameFilters("A|*.a:B|*.b"), (QStringList{"A (*.a)", "B (*.b)"}));
-    EXPECT_TRUE(NameFilters("").isEmpty());
+    EXPECT_EQ(NameFilters("All Pictures|*.jpg;*.bmp|JPEG (*.jpg)|*.jpg:B|*.b"),
+              (QStringList{"All Pictures (*.jpg *.bmp)", "JPEG (*.jpg)", "B (*.b)"}));
 }
 
 TEST(QtPrompts, AColourAndTheCustomOnesComeBack) {
@@ -189,68 +171,61 @@ TEST(QtPrompts, OfAFontOnlyWhatWasPickedChanges) {
     EXPECT_EQ(prompts.FontOf(start, {}), std::nullopt);
 }
 
-class FailingPrompts : public ScriptedPrompts {
-public:
-    std::optional<std::string> File(const FileQuestion&) override { throw Failure(513, "", "no dialog"); }
-};
-
-TEST(CommonDialog, AFileIsGivenWithItsTitleOrNothingChanges) {
-    ScriptedPrompts prompts;
+class DialogTest : public ::testing::Test, protected ScriptedPrompts {
+protected:
+    std::optional<std::string> File(const FileQuestion& question) override {
+        if (fails) throw Failure(513, "", "no dialog");
+        return ScriptedPrompts::File(question);
+    }
     cCommonDialog dialog;
     std::string file = "old.jpg", title = "old";
-    prompts.files = {"/skins/Blue/back.jpg"};
+    bool fails = false;
+};
+
+TEST_F(DialogTest, AFileIsGivenWithItsTitleOrNothingChanges) {
+    files = {"/skins/Blue/back.jpg"};
     EXPECT_TRUE(dialog.VBGetOpenFileName(file, title, {"A|*.a", "/skins", "Open Picture", "bmp"}));
-    EXPECT_EQ(file, "/skins/Blue/back.jpg");
-    EXPECT_EQ(title, "back.jpg");
+    EXPECT_EQ(file + ' ' + title, "/skins/Blue/back.jpg back.jpg");
     EXPECT_EQ(dialog.APIReturn(), 1);
-    const FileQuestion& asked = prompts.questions.at(0);
+    const FileQuestion& asked = questions.at(0);
     EXPECT_EQ(asked.title + ' ' + asked.filter + ' ' + asked.folder + ' ' + asked.name,
               "Open Picture A|*.a /skins old.jpg");
     EXPECT_FALSE(asked.save);
     EXPECT_FALSE(dialog.VBGetOpenFileName(file, title, {}));
+    EXPECT_TRUE(dialog.APIReturn() == 0 && dialog.ExtendedError() == 0) << "cancelled";
+    fails = true;
+    EXPECT_FALSE(dialog.VBGetOpenFileName(file, title, {}));
+    EXPECT_EQ(dialog.ExtendedError(), 0xFFFF);
     EXPECT_EQ(file + ' ' + title, "/skins/Blue/back.jpg back.jpg");
-    EXPECT_EQ(dialog.APIReturn(), 0);
-    EXPECT_EQ(dialog.ExtendedError(), 0) << "cancelled";
+    file.assign(261, 'x');
+    EXPECT_FALSE(dialog.VBGetOpenFileName(file, title, {}));
+    EXPECT_EQ(dialog.ExtendedError(), 0x3003) << "the name is too long to be asked for";
+    file.assign(260, 'x');
+    fails = false;
+    files = {"/a"};
+    EXPECT_TRUE(dialog.VBGetOpenFileName(file, title, {}));
 }
 
-TEST(CommonDialog, ASavedNameGetsTheExtensionItLacks) {
-    ScriptedPrompts prompts;
-    cCommonDialog dialog;
-    const std::pair<const char*, const char*> rows[] = {{"/a.b/c", "/a.b/c.bmp"}, {"/a/c.jpg", "/a/c.jpg"}};
-    for (const auto& [typed, saved] : rows) {
-        std::string file, title;
-        prompts.files = {typed};
+TEST_F(DialogTest, ASavedNameGetsTheExtensionItLacks) {
+    for (const auto& [typed, saved] : {std::pair{"/a.b/c", "/a.b/c.bmp"}, {"/a/c.jpg", "/a/c.jpg"}}) {
+        files = {typed};
         EXPECT_TRUE(dialog.VBGetSaveFileName(file, title, {"", "", "", "bmp"}));
         EXPECT_EQ(file, saved);
     }
-    EXPECT_TRUE(prompts.questions.at(0).save);
+    EXPECT_TRUE(questions.at(0).save);
 }
 
-TEST(CommonDialog, AFailureGivesFalseAndItsNumber) {
-    FailingPrompts prompts;
-    cCommonDialog dialog;
-    std::string file, title;
-    EXPECT_FALSE(dialog.VBGetOpenFileName(file, title, {}));
-    EXPECT_NE(dialog.ExtendedError(), 0);
-    const int failed = dialog.ExtendedError();
-    file.assign(261, 'x');
-    EXPECT_FALSE(dialog.VBGetOpenFileName(file, title, {}));
-    EXPECT_NE(dialog.ExtendedError(), failed) << "the name is too long to be asked for";
-    EXPECT_EQ(file.size(), 261u);
-}
-
-TEST(CommonDialog, CustomColoursLiveAsLongAsTheProgram) {
-    ScriptedPrompts prompts;
+TEST_F(DialogTest, CustomColoursLiveAsLongAsTheProgram) {
     Colour colour = Rgb(1, 2, 3);
     cCommonDialog().SetCustomColor(15, Rgb(9, 9, 9));
-    EXPECT_FALSE(cCommonDialog().VBChooseColor(colour));
+    EXPECT_FALSE(dialog.VBChooseColor(colour));
     EXPECT_EQ(colour, Rgb(1, 2, 3));
-    EXPECT_EQ(prompts.customColours[15], Rgb(9, 9, 9));
-    EXPECT_EQ(prompts.customColours[0], Rgb(255, 255, 255));
-    prompts.colours = {Rgb(4, 5, 6)};
-    EXPECT_TRUE(cCommonDialog().VBChooseColor(colour));
+    EXPECT_EQ(customColours[15], Rgb(9, 9, 9));
+    EXPECT_EQ(customColours[0], Rgb(255, 255, 255));
+    colours = {Rgb(4, 5, 6)};
+    EXPECT_TRUE(dialog.VBChooseColor(colour));
     EXPECT_EQ(colour, Rgb(4, 5, 6));
-    EXPECT_EQ(cCommonDialog().CustomColor(15), Rgb(9, 9, 9));
+    EXPECT_EQ(dialog.CustomColor(15), Rgb(9, 9, 9));
 }
 
 }  // namespace

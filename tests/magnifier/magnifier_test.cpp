@@ -11,34 +11,32 @@
 namespace ornavo::testing {
 namespace {
 
-const std::vector<QRect> OneScreen = {{0, 0, 1600, 1200}};
-
 TEST(Pieces, LieAboutThePointerAndWithinTheScreens) {
-    const std::vector<QRect> twoScreens = {{0, 0, 100, 100}, {100, 20, 100, 100}};
-    const std::vector<QRect> leftScreen = {{0, 0, 100, 100}, {-100, 0, 100, 100}};
-    const std::vector<Piece> seam = {{0, {95, 15, 5, 10}, {0, 0, 40, 80}},
-                                     {1, {100, 20, 5, 5}, {40, 40, 40, 40}}};
-    struct Row {
+    const std::vector<QRect> two = {{0, 0, 100, 100}, {100, 20, 100, 100}},
+                             left = {{0, 0, 100, 100}, {-100, 0, 100, 100}}, one = {{0, 0, 1600, 1200}};
+    const struct {
         const char* name;
         QPoint pointer;
         QSize picture;
         int zoom;
         std::vector<QRect> screens;
         std::vector<Piece> pieces;
-    };
-    const Row rows[] = {
-        {"middle", {100, 80}, {40, 20}, 4, OneScreen, {{0, {95, 78, 10, 5}, {0, 0, 40, 20}}}},
-        {"top left", {0, 0}, {40, 40}, 4, OneScreen, {{0, {0, 0, 5, 5}, {20, 20, 20, 20}}}},
-        {"end", {1599, 1199}, {40, 40}, 4, OneScreen, {{0, {1594, 1194, 6, 6}, {0, 0, 24, 24}}}},
-        {"half to even", {100, 100}, {42, 46}, 4, OneScreen, {{0, {95, 94, 11, 12}, {0, 0, 44, 48}}}},
-        {"as it is", {100, 100}, {9, 9}, 1, OneScreen, {{0, {96, 96, 9, 9}, {0, 0, 9, 9}}}},
-        {"half a pixel", {100, 100}, {10, 10}, 32, OneScreen, {{0, {100, 100, 1, 1}, {0, 0, 32, 32}}}},
-        {"seam", {100, 20}, {80, 80}, 8, twoScreens, seam},
-        {"left of the first", {-50, 5}, {40, 40}, 4, leftScreen, {{1, {-55, 0, 10, 10}, {0, 0, 40, 40}}}},
-        {"beyond all", {5000, 5000}, {40, 40}, 4, OneScreen, {}},
-        {"no room", {100, 100}, {0, 20}, 4, OneScreen, {}},
-    };
-    for (const Row& row : rows)
+    } rows[] = {{"middle", {100, 80}, {40, 20}, 4, one, {{0, {95, 78, 10, 5}, {0, 0, 40, 20}}}},
+                {"top left", {0, 0}, {40, 40}, 4, one, {{0, {0, 0, 5, 5}, {20, 20, 20, 20}}}},
+                {"end", {1599, 1199}, {40, 40}, 4, one, {{0, {1594, 1194, 6, 6}, {0, 0, 24, 24}}}},
+                {"half to even", {100, 100}, {42, 46}, 4, one, {{0, {95, 94, 11, 12}, {0, 0, 44, 48}}}},
+                {"as it is", {100, 100}, {9, 9}, 1, one, {{0, {96, 96, 9, 9}, {0, 0, 9, 9}}}},
+                {"half a pixel", {100, 100}, {10, 10}, 32, one, {{0, {100, 100, 1, 1}, {0, 0, 32, 32}}}},
+                {"seam",
+                 {100, 20},
+                 {80, 80},
+                 8,
+                 two,
+                 {{0, {95, 15, 5, 10}, {0, 0, 40, 80}}, {1, {100, 20, 5, 5}, {40, 40, 40, 40}}}},
+                {"left of the first", {-50, 5}, {40, 40}, 4, left, {{1, {-55, 0, 10, 10}, {0, 0, 40, 40}}}},
+                {"beyond all", {5000, 5000}, {40, 40}, 4, one, {}},
+                {"no room", {100, 100}, {0, 20}, 4, one, {}}};
+    for (const auto& row : rows)
         EXPECT_EQ(PiecesOf(row.pointer, row.picture, row.zoom, row.screens), row.pieces) << row.name;
 }
 
@@ -62,31 +60,24 @@ public:
     bool refuses = false;
 };
 
-class Counted : public Magnify {
-public:
-    using Magnify::Magnify;
-    int paints = 0;
-
-protected:
-    void paintEvent(QPaintEvent* event) override {
-        ++paints;
-        Magnify::paintEvent(event);
-    }
-};
-
-class MagnifyTest : public ::testing::Test {
+class MagnifyTest : public ::testing::Test, public QObject {
 protected:
     MagnifyTest() : magnify(nullptr, desktop, own) {
         magnify.SetBorderStyle(0);
         magnify.resize(40, 40);
         magnify.tmr.setInterval(1000000);
+        magnify.installEventFilter(this);
         own.blue = 200;
     }
     void Show() {
         magnify.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&magnify));
         QCoreApplication::processEvents();
-        magnify.paints = desktop.grabs = 0;
+        paints = desktop.grabs = 0;
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint;
+        return false;
     }
     void Fire() {
         if (!magnify.tmr.isActive()) return;
@@ -96,7 +87,8 @@ protected:
     }
     QRgb Shown(int x, int y) { return magnify.grab().toImage().pixel(x, y); }
     Plane desktop, own;
-    Counted magnify;
+    Magnify magnify;
+    int paints = 0;
 };
 
 TEST_F(MagnifyTest, EachPixelBecomesABlockAndTheRestIsBackground) {
@@ -118,14 +110,24 @@ TEST_F(MagnifyTest, OnlyAChangeIsPainted) {
     Show();
     for (int i = 0; i < 5; ++i) Fire();
     EXPECT_EQ(desktop.grabs, 5);
-    EXPECT_EQ(magnify.paints, 0);
+    EXPECT_EQ(paints, 0);
     desktop.blue = 7;
     Fire();
-    EXPECT_EQ(magnify.paints, 1);
+    EXPECT_EQ(paints, 1);
     magnify.SetZoom(16);
     EXPECT_EQ(desktop.grabs, 6) << "the next tick shows it";
     Fire();
-    EXPECT_EQ(magnify.paints, 2);
+    EXPECT_EQ(paints, 2);
+    desktop.refuses = true;
+    Fire();
+    EXPECT_EQ(Shown(0, 0), own.At(49, 49)) << "where the desktop refuses our own windows are shown";
+    own.refuses = true;
+    own.pointer = {10, 10};
+    Fire();
+    EXPECT_EQ(Shown(0, 0), own.At(49, 49)) << "nothing can be read: the last picture stays";
+    desktop.refuses = false;
+    Fire();
+    EXPECT_EQ(Shown(0, 0), desktop.At(49, 49));
 }
 
 TEST_F(MagnifyTest, AFrozenOneKeepsItsPicture) {
@@ -157,26 +159,9 @@ TEST_F(MagnifyTest, ZoomsAreSixAndTheWheelStepsThroughThem) {
         QCoreApplication::sendEvent(&magnify, &event);
         return magnify.Zoom();
     };
-    EXPECT_EQ(turn(120), 32);
-    EXPECT_EQ(turn(-60), 32);
-    EXPECT_EQ(turn(-60), 16);
-    EXPECT_EQ(turn(-360), 2);
-    EXPECT_EQ(turn(-360), 1);
-    EXPECT_EQ(turn(120), 2);
-}
-
-TEST_F(MagnifyTest, WhereTheDesktopRefusesOurOwnWindowsAreShown) {
-    Show();
-    desktop.refuses = true;
-    Fire();
-    EXPECT_EQ(Shown(0, 0), own.At(40, 40));
-    own.refuses = true;
-    own.pointer = {10, 10};
-    Fire();
-    EXPECT_EQ(Shown(0, 0), own.At(40, 40)) << "nothing can be read: the last picture stays";
-    desktop.refuses = false;
-    Fire();
-    EXPECT_EQ(Shown(0, 0), desktop.At(40, 40));
+    for (const auto& [eighths, zoom] :
+         {std::pair{120, 32}, {-60, 32}, {-60, 16}, {-360, 2}, {-360, 1}, {120, 2}})
+        EXPECT_EQ(turn(eighths), zoom) << eighths;
 }
 
 TEST(FrmMagnifier, StandsWhereItWasAndMarksTheMiddle) {
