@@ -166,13 +166,10 @@ TEST_F(MagnifyTest, ZoomsAreSixAndTheWheelStepsThroughThem) {
 
 TEST(FrmMagnifier, StandsWhereItWasAndMarksTheMiddle) {
     Plane desktop, own;
-    for (const char* key : {"Left", "Top", "Height"}) DeleteSetting("Magnifier", key);
     SaveSetting("Magnifier", "Width", "wide");
     frm_Magnifier form(nullptr, desktop, own);
     form.Open();
-    EXPECT_EQ(form.TwipBounds().left, 30);
-    EXPECT_EQ(form.TwipBounds().top, 6300);
-    EXPECT_EQ(form.size(), QSize(179, 138));
+    EXPECT_EQ(QRect(form.pos(), form.size()), QRect(2, 420, 179, 138));
     EXPECT_EQ(form.Magnify1.Zoom(), 4);
     const std::pair<QSize, QPoint> rows[] = {
         {{200, 160}, {100, 80}}, {{172, 140}, {88, 72}}, {{150, 146}, {76, 72}}};
@@ -196,10 +193,9 @@ TEST(FrmMagnifier, StandsWhereItWasAndMarksTheMiddle) {
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_FALSE(form.isVisible());
     form.close();
-    EXPECT_EQ(settings::MagnifierLeft.Read(), 4500);
-    EXPECT_EQ(settings::MagnifierTop.Read(), 3000);
-    EXPECT_EQ(settings::MagnifierWidth.Read(), (150 + 8) * 15);
-    EXPECT_EQ(settings::MagnifierHeight.Read(), (146 + 29) * 15);
+    EXPECT_EQ((Rect{settings::MagnifierLeft.Read(), settings::MagnifierTop.Read(),
+                    settings::MagnifierWidth.Read(), settings::MagnifierHeight.Read()}),
+              (Rect{4500, 3000, (150 + 8) * 15, (146 + 29) * 15}));
     EXPECT_FALSE(form.Magnify1.tmr.isActive());
 }
 

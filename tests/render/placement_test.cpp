@@ -63,18 +63,6 @@ TEST(Placement, EveryRowInBothDirectionsAndBack) {
     EXPECT_EQ(GetElementRect(mixed, {150, 130, 100, 100}), (Rect{30, 100, 40, 40}));
 }
 
-TEST(Placement, BoundsAtOddDifferencesGoToTheEvenNeighbour) {
-    // Of bounds 30, 40 in a window of 101, skin 100.
-    for (const Row& row : {Row{true, false, true, 0, 30, 40},    // 40 - 0.5 -> 40
-                           Row{false, true, true, 0, 70, 40},    // 71 - 0.5 -> 70
-                           Row{false, false, false, 0, 30, 40},  // 30 - 0.5 -> 30
-                           Row{true, true, false, 0, 30, 39}}) {
-        dbLayoutElement e = ElementOf(row.near, row.far, row.stretch);
-        WriteElementBounds(e, {30, 30, 40, 40}, {101, 101, 100, 100});
-        EXPECT_EQ(Fields(e), (Rect{row.left, row.left, row.width, row.width}));
-    }
-}
-
 TEST(Placement, WhatHasNoNumberIsAFailure) {
     dbLayoutElement stretched = ElementOf(false, false, true), far = ElementOf(true, true, false);
     EXPECT_THROW(GetElementRect(stretched, {100, 100, 0, 0}), Failure);
