@@ -2,37 +2,18 @@
 // The built tool, run as a script would run it, and what it leaves on the disk.
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
+#include <QImage>
 #include <QImageReader>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <cstdlib>
+
+#include "support/temporary_folder.h"
 
 namespace ornavo::testing {
 namespace {
-
-struct Outcome {
-    int code;
-    QByteArray out, err;
-};
-
-Outcome RunTool(const QStringList& words, const QString& workingFolder = {}) {
-    QProcess tool;
-    tool.setWorkingDirectory(workingFolder);
-    tool.start(QStringLiteral(ORNAVO_BINARY_DIR "/ornavo-cli"), words);
-    tool.waitForFinished(60'000);
-    return {tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1, tool.readAllStandardOutput(),
-            tool.readAllStandardError()};
-}
-
-QByteArray Bytes(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-}
 
 const char* const SkinText =
     "<Skin>\n<SkinWidth>100</SkinWidth>\n<SkinHeight>80</SkinHeight>\n"
@@ -53,33 +34,58 @@ const char* const SkinText =
 class ToolTest : public ::testing::Test {
 protected:
     ToolTest() {
-        qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
+        qputenv("XDG_DATA_HOME", Path("data").toUtf8());
         Write(SkinText);
     }
     ~ToolTest() override { qunsetenv("XDG_DATA_HOME"); }
-    void Write(const QByteArray& text) const { Write(skin_ + "/SkinSettings.xml", text); }
-    static void Write(const QString& path, const QByteArray& text) {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    /// Its exit code, run beside the skin "Blue"; what it wrote is in out_ and err_.
+    int Run(const QString& words) {
+        QProcess tool;
+        tool.setWorkingDirectory(Path(""));
+        tool.start(QStringLiteral(ORNAVO_BINARY_DIR "/ornavo-cli"), words.split(' '));
+        tool.waitForFinished(60'000);
+        out_ = tool.readAllStandardOutput();
+        err_ = tool.readAllStandardError();
+        return tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1;
     }
-    const QTemporaryDir folder_;
-    const QString skin_ = folder_.filePath("Blue");
+    bool Told(const QString& text) const { return err_.contains(text.toUtf8()); }
+    /// Draws the layout with these options.
+    QImage Rendered(const QString& options) {
+        EXPECT_EQ(Run("render Blue --layout Standard --out out.png" + options), 0) << err_.constData();
+        return QImage(Path("out.png"));
+    }
+    QString Path(const char* name) const { return QString::fromStdString(folder_ / name); }
+    void Write(const QByteArray& text) const { folder_.Write("Blue/SkinSettings.xml", text.toStdString()); }
+    QByteArray Read(const char* name) const {
+        return QByteArray::fromStdString(TemporaryFolder::Read(folder_ / name));
+    }
+    QByteArray Settings() const { return Read("Blue/SkinSettings.xml"); }
+    /// Three pixels wide: the padding of a row is a pixel's worth.
+    void MakePicture(QRgb top, QRgb bottom) const {
+        QImage picture(3, 2, QImage::Format_ARGB32);
+        picture.fill(top);
+        for (int x = 0; x < 3; ++x) picture.setPixel(x, 1, bottom);
+        ASSERT_TRUE(picture.save(Path("in.png")));
+    }
+    QImage Recoloured(const QString& words) {
+        EXPECT_EQ(Run("recolour in.png " + words), 0) << err_.constData();
+        return QImage(Path(words.section(' ', 0, 0).toLatin1()));
+    }
+
+    const TemporaryFolder folder_;
+    QByteArray out_, err_;
 };
 
 TEST_F(ToolTest, DumpTellsTheModelAndChangesNothing) {
-    const Outcome raw = RunTool({"dump", skin_ + "/SkinSettings.xml", "--raw"});
-    ASSERT_EQ(raw.code, 0) << raw.err.toStdString();
-    const QJsonObject skin = QJsonDocument::fromJson(raw.out).object();
+    ASSERT_EQ(Run("dump " + Path("Blue/SkinSettings.xml") + " --raw"), 0) << err_.constData();
+    const QJsonObject skin = QJsonDocument::fromJson(out_).object();
     EXPECT_EQ(skin["SkinName"], "Blue");
     EXPECT_EQ(skin["SkinHeight"], 80);
-    const QJsonArray prefs = skin["dbSkinPrefs"].toArray();
-    ASSERT_EQ(prefs.size(), 2);
-    EXPECT_EQ(prefs[0]["Value"], 255);
-    EXPECT_EQ(prefs[0]["Font"]["Size"], 8.25);
-    EXPECT_EQ(prefs[0]["Font"]["Bold"], true);
-    EXPECT_EQ(prefs[1]["Value"], QString::fromUtf8("G\xC3\xBCte"));
-    EXPECT_TRUE(prefs[1]["Font"].isNull());
+    EXPECT_EQ(skin["dbSkinPrefs"], QJsonDocument::fromJson(R"([
+        {"Key":"SP_ColLight","PrefType":1,"Caption":"","Value":255,"Font":
+            {"Name":"Arial","Size":8.25,"Bold":true,"Italic":false,"Strikethrough":false,"Underline":false}},
+        {"Key":"XX_Text","PrefType":0,"Caption":"","Value":"G\u00FCte","Font":null}])")
+                                       .array());
     const QJsonObject layout = skin["dbLayouts"][0].toObject();
     EXPECT_EQ(layout["LayoutName"], "Main screen");
     EXPECT_EQ(layout["dbPoints"][0]["Order"], 2);
@@ -89,50 +95,46 @@ TEST_F(ToolTest, DumpTellsTheModelAndChangesNothing) {
     EXPECT_EQ(element["PicNormal"], "");
     EXPECT_FALSE(element.contains("ControlIndex"));
     EXPECT_TRUE(element.contains("Font") && element["Font"].isNull());
-    const Outcome whole = RunTool({"dump", skin_});
-    EXPECT_EQ(QJsonDocument::fromJson(whole.out)["dbSkinPrefs"].toArray().size(), 182);
-    EXPECT_EQ(Bytes(skin_ + "/SkinSettings.xml"), SkinText);
+    Run("dump Blue");
+    EXPECT_EQ(QJsonDocument::fromJson(out_)["dbSkinPrefs"].toArray().size(), 182);
+    EXPECT_EQ(Settings(), SkinText);
 }
 
 TEST_F(ToolTest, PlaceTellsRectanglesAndCorners) {
-    const Outcome placed = RunTool({"place", skin_, "--layout", "standard", "--size", "130x101"});
-    ASSERT_EQ(placed.code, 0) << placed.err.toStdString();
-    EXPECT_EQ(QJsonDocument::fromJson(placed.out), QJsonDocument::fromJson(R"({"width":130,"height":101,
+    ASSERT_EQ(Run("place Blue --layout standard --size 130x101"), 0) << err_.constData();
+    EXPECT_EQ(QJsonDocument::fromJson(out_), QJsonDocument::fromJson(R"({"width":130,"height":101,
         "elements":[{"Key":"box","left":10,"top":96,"width":50,"height":10}],
         "points":[{"Order":1,"x":0,"y":0},{"Order":2,"x":100,"y":0},{"Order":3,"x":0,"y":101}]})"));
-    EXPECT_EQ(QJsonDocument::fromJson(RunTool({"place", skin_, "--layout", "Standard"}).out)["height"], 80);
+    Run("place Blue --layout Standard");
+    EXPECT_EQ(QJsonDocument::fromJson(out_)["height"], 80);
 }
 
 TEST_F(ToolTest, SaveWritesBackAndUnderAnotherName) {
-    ASSERT_EQ(RunTool({"save", skin_}).code, 0);
-    const QByteArray once = Bytes(skin_ + "/SkinSettings.xml");
-    EXPECT_TRUE(
-        once.startsWith("<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\r\n<!-- Generated by Ornavo "));
+    ASSERT_EQ(Run("save Blue"), 0);
+    const QByteArray once = Settings();
     EXPECT_TRUE(once.contains("\t\t\t<Value>G\xFCte</Value>\r\n"));
     EXPECT_EQ(once.count("<SkinPref>"), 182);
-    ASSERT_EQ(RunTool({"save", skin_, "--as", "Red/1"}).code, 0);
-    EXPECT_EQ(Bytes(folder_.filePath("Red_1/SkinSettings.xml")),
+    ASSERT_EQ(Run("save Blue --as Red/1"), 0);
+    EXPECT_EQ(Read("Red_1/SkinSettings.xml"),
               QByteArray(once).replace("<SkinName>Blue<", "<SkinName>Red_1<"));
-    for (const char* bad : {"..", "**", "", "  "})
-        EXPECT_EQ(RunTool({"save", skin_, "--as", bad}).code, 2) << bad;
+    for (const QString bad : {"..", "**", ""})
+        EXPECT_EQ(Run("save Blue --as " + bad), 2) << bad.toStdString();
 }
 
 TEST_F(ToolTest, SaveTakesNoOtherSkinsPlaceUnasked) {
-    const QString copy = folder_.filePath("Copy"), red = folder_.filePath("Red"), file = "/skinSETTINGS.xml";
-    for (const QString& folder : {copy, red})
-        Write(folder + file, "<Skin>\n<SkinName>Red</SkinName>\n</Skin>\n");
-    const QByteArray before = Bytes(red + file);
-    for (const QStringList& words : {QStringList{"save", copy}, {"save", skin_, "--as", "Red"}}) {
-        const Outcome refused = RunTool(words);
-        EXPECT_EQ(refused.code, 1) << words.join(' ').toStdString();
-        EXPECT_TRUE(refused.err.contains((red + file).toUtf8())) << refused.err.constData();
-        EXPECT_EQ(Bytes(red + file), before);
+    const char* const red = "Red/skinSETTINGS.xml";
+    for (const char* file : {red, "Copy/skinSETTINGS.xml"})
+        folder_.Write(file, "<Skin>\n<SkinName>Red</SkinName>\n</Skin>\n");
+    const QByteArray before = Read(red);
+    for (const char* words : {"save Copy", "save Blue --as Red"}) {
+        EXPECT_EQ(Run(words), 1) << words;
+        EXPECT_TRUE(Told(Path(red))) << err_.constData();
+        EXPECT_EQ(Read(red), before);
     }
-    const Outcome asked = RunTool({"save", copy, "--replace"});
-    EXPECT_EQ(asked.code, 0) << asked.err.constData();
-    EXPECT_EQ(asked.out, (red + file + '\n').toUtf8());
-    EXPECT_NE(Bytes(red + file), before);
-    EXPECT_EQ(RunTool({"save", red}).code, 0) << "the folder that was opened";
+    EXPECT_EQ(Run("save Copy --replace"), 0) << err_.constData();
+    EXPECT_EQ(out_, Path(red).toUtf8() + '\n');
+    EXPECT_NE(Read(red), before);
+    EXPECT_EQ(Run("save Red"), 0) << "the folder that was opened";
 }
 
 TEST_F(ToolTest, SaveTellsWhatIsLost) {
@@ -141,169 +143,103 @@ TEST_F(ToolTest, SaveTellsWhatIsLost) {
             "<Value>G", "<PrefType>5</PrefType>\n<Value>" + path.toUtf8() + "</Value>\n<Caption>G");
     };
     Write(withPicture("gone.png"));
-    const Outcome dropped = RunTool({"save", skin_});
-    EXPECT_EQ(dropped.code, 0);
-    EXPECT_TRUE(dropped.err.contains("gone.png is not there")) << dropped.err.toStdString();
-    QFile::copy(skin_ + "/SkinSettings.xml", folder_.filePath("a.png"));
-    QDir(skin_).mkdir("a.png");
-    Write(withPicture(folder_.filePath("a.png")));
-    const Outcome uncopied = RunTool({"save", skin_});
-    EXPECT_EQ(uncopied.code, 1);
-    EXPECT_TRUE(uncopied.err.contains("could not be copied")) << uncopied.err.toStdString();
+    EXPECT_EQ(Run("save Blue"), 0);
+    EXPECT_TRUE(Told("gone.png is not there")) << err_.constData();
+    folder_.Write("a.png", "");
+    folder_.Write("Blue/a.png/in the way", "");
+    Write(withPicture(Path("a.png")));
+    EXPECT_EQ(Run("save Blue"), 1);
+    EXPECT_TRUE(Told("could not be copied")) << err_.constData();
     const QByteArray torn = QByteArray(SkinText).left(700);
     Write(torn);
-    EXPECT_TRUE(RunTool({"dump", skin_}).err.contains("damaged"));
-    EXPECT_EQ(RunTool({"save", skin_}).code, 1);
-    EXPECT_EQ(Bytes(skin_ + "/SkinSettings.xml"), torn);
-    EXPECT_EQ(RunTool({"save", skin_, "--replace"}).code, 0);
-    const QDir recovered(folder_.filePath("data/ornavo/Recovered"));
-    ASSERT_EQ(recovered.entryList(QDir::Files).size(), 1);
-    EXPECT_EQ(Bytes(recovered.filePath(recovered.entryList(QDir::Files).first())), torn);
+    Run("dump Blue");
+    EXPECT_TRUE(Told("damaged"));
+    EXPECT_EQ(Run("save Blue"), 1);
+    EXPECT_EQ(Settings(), torn);
+    EXPECT_EQ(Run("save Blue --replace"), 0);
+    const auto recovered = folder_.Files("data/ornavo/Recovered");
+    ASSERT_EQ(recovered.size(), 1u);
+    EXPECT_EQ(recovered.begin()->second, torn.toStdString());
 }
 
 TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
-    const QString out = folder_.filePath("out.png");
-    ASSERT_EQ(RunTool({"render", skin_, "--layout", "Standard", "--out", out, "--edge", "hard"}).code, 0);
-    const QImage preview(out);
+    const QImage preview = Rendered(" --edge hard");
     EXPECT_EQ(preview.size(), QSize(100, 80));
     EXPECT_EQ(preview.pixelColor(99, 79).alpha(), 0);
     EXPECT_EQ(preview.pixelColor(2, 2).alpha(), 255);
-    ASSERT_EQ(RunTool({"render", skin_, "--layout", "Standard", "--out", out, "--view", "canvas", "--size",
-                       "90x90"})
-                  .code,
-              0);
-    const QImage canvas(out);
+    const QImage canvas = Rendered(" --view canvas --size 90x90");
     EXPECT_EQ(canvas.size(), QSize(90, 90));
     EXPECT_EQ(canvas.pixelColor(18, 88), QColor(Qt::green)) << "the element, from the bottom edge";
-}
-
-TEST_F(ToolTest, AHugeSkinIsDrawnAsLargeAsAWindow) {
     Write(QByteArray(SkinText).replace(">100</SkinWidth", ">900000</SkinWidth"));
-    const QString out = folder_.filePath("out.png");
-    const Outcome drawn = RunTool({"render", skin_, "--layout", "Standard", "--out", out});
-    EXPECT_EQ(drawn.code, 0);
-    EXPECT_TRUE(drawn.err.contains("composed at 8192 x 80")) << drawn.err.toStdString();
-    EXPECT_EQ(QImageReader(out).size(), QSize(8192, 80));
-    EXPECT_EQ(RunTool({"place", skin_, "--layout", "Standard", "--size", "900001x80"}).code, 0);
+    EXPECT_EQ(Rendered("").size(), QSize(8192, 80));
+    EXPECT_TRUE(Told("composed at 8192 x 80")) << err_.constData();
+    EXPECT_EQ(Run("place Blue --layout Standard --size 900001x80"), 0);
 }
 
 TEST_F(ToolTest, ANameIsThatOfAUsersSkinUnlessSomethingStandsThere) {
-    const QString own = folder_.filePath("data/ornavo/Skins");
-    EXPECT_EQ(RunTool({"dump", "Blue"}).code, 1);
-    EXPECT_FALSE(QFile::exists(folder_.filePath("data"))) << "nothing is made";
-    ASSERT_TRUE(QDir().mkpath(own) && QDir().rename(skin_, own + "/Blue"));
-    EXPECT_EQ(RunTool({"save", "blue"}).out, (own + "/Blue/SkinSettings.xml\n").toUtf8());
-    QDir().mkdir(skin_);
-    EXPECT_TRUE(RunTool({"dump", "Blue"}, folder_.path()).err.contains(skin_.toUtf8()));
+    const std::filesystem::path own = folder_ / "data/ornavo/Skins";
+    std::filesystem::rename(folder_ / "Blue", folder_ / "Hidden");
+    EXPECT_EQ(Run("dump Blue"), 1);
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "data")) << "nothing is made";
+    std::filesystem::create_directories(own);
+    std::filesystem::rename(folder_ / "Hidden", own / "Blue");
+    Run("save blue");
+    EXPECT_EQ(out_.toStdString(), (own / "Blue/SkinSettings.xml").string() + "\n");
+    std::filesystem::create_directory(folder_ / "Blue");
+    Run("dump Blue");
+    EXPECT_TRUE(Told(Path("Blue"))) << err_.constData();
 }
 
-TEST_F(ToolTest, ExitCodes) {
-    const struct {
-        QStringList words;
-        int code;
-    } rows[] = {
-        {{}, 2},
-        {{"paint", skin_}, 2},
-        {{"dump"}, 2},
-        {{"dump", ""}, 2},
-        {{"dump", skin_, "--nonsense"}, 2},
-        {{"dump", skin_, skin_}, 2},
-        {{"place", skin_}, 2},
-        {{"place", skin_, "--layout", "Standard", "--size", "0x5"}, 2},
-        {{"place", skin_, "--layout", "Standard", "--size", "5"}, 2},
-        {{"render", skin_, "--layout", "Standard", "--out", "x.png", "--view", "both"}, 2},
-        {{"render", skin_, "--layout", "Standard", "--out", "x.png", "--size", "8193x80"}, 2},
-        {{"dump", folder_.filePath("None")}, 1},
-        {{"place", skin_, "--layout", "None"}, 1},
-        {{"render", skin_, "--layout", "Standard", "--out", folder_.filePath("no/folder.png")}, 1},
-        {{"--help"}, 0},
-        {{"--version"}, 0},
-    };
-    for (const auto& row : rows) {
-        const Outcome outcome = RunTool(row.words);
-        EXPECT_EQ(outcome.code, row.code) << row.words.join(' ').toStdString();
-        EXPECT_EQ(outcome.err.isEmpty(), row.code == 0) << row.words.join(' ').toStdString();
-    }
-}
-
-class RecolourTest : public ::testing::Test {
-protected:
-    int Run(const QStringList& words) {
-        const Outcome outcome = RunTool(QStringList("recolour") + words);
-        said_ = outcome.err;
-        return outcome.code;
-    }
-    QString Path(const QString& name) const { return folder_.filePath(name); }
-    /// Three pixels wide: the padding of a row is a pixel's worth.
-    void MakePicture(const QString& name, QRgb top, QRgb bottom) const {
-        QImage picture(3, 2, QImage::Format_ARGB32);
-        picture.fill(top);
-        for (int x = 0; x < 3; ++x) picture.setPixel(x, 1, bottom);
-        ASSERT_TRUE(picture.save(Path(name)));
-    }
-    QTemporaryDir folder_;
-    QByteArray said_;
-};
-
-TEST_F(RecolourTest, BmpHasLongHeadersAndTheBottomRowFirst) {
-    MakePicture("in.png", qRgb(255, 0, 0), qRgb(10, 200, 30));
-    ASSERT_EQ(Run({Path("in.png"), Path("OUT.BMP"), "--hue", "20", "--saturation", "100"}), 0);
-    EXPECT_TRUE(said_.isEmpty()) << said_.constData();
-    const QByteArray bytes = Bytes(Path("OUT.BMP"));
+TEST_F(ToolTest, RecolourWritesBmpsAndJpegs) {
+    MakePicture(qRgb(255, 0, 0), qRgb(10, 200, 30));
+    const QImage bmp = Recoloured("OUT.BMP --hue 20 --saturation 100");
+    EXPECT_TRUE(err_.isEmpty()) << err_.constData();
+    const QByteArray bytes = Read("OUT.BMP");
     ASSERT_EQ(bytes.size(), 58 + 2 * 12);
-    EXPECT_EQ(bytes.mid(58, 3).toHex(), "6b4092");      // 10, 200, 30 recoloured
+    EXPECT_EQ(bytes.mid(58, 3).toHex(), "6b4092");      // the bottom row's 10, 200, 30 recoloured
     EXPECT_EQ(bytes.mid(58 + 9, 3).toHex(), "000000");  // padding recoloured: black stays black
-    const QImage back(Path("OUT.BMP"));
-    ASSERT_EQ(back.size(), QSize(3, 2));
-    EXPECT_EQ(back.pixel(2, 1), qRgb(146, 64, 107));
-    EXPECT_GT(qRed(back.pixel(0, 0)), qGreen(back.pixel(0, 0)));
-}
-
-TEST_F(RecolourTest, JpegIsOfTheBestQuality) {
-    MakePicture("in.png", qRgb(255, 0, 0), qRgb(255, 0, 0));
-    ASSERT_EQ(Run({Path("in.png"), Path("out.jpg"), "--hue", "20", "--saturation", "100"}), 0);
-    const QImage back(Path("out.jpg"));
-    ASSERT_EQ(back.size(), QSize(3, 2));
-    ASSERT_EQ(Run({Path("in.png"), Path("out.bmp"), "--hue", "20", "--saturation", "100"}), 0);
-    const QRgb got = back.pixel(1, 1), wanted = QImage(Path("out.bmp")).pixel(1, 1);
+    EXPECT_EQ(bmp.pixel(2, 1), qRgb(146, 64, 107));
+    MakePicture(qRgb(255, 0, 0), qRgb(255, 0, 0));
+    const QImage jpeg = Recoloured("out.jpg --hue 20 --saturation 100");
+    ASSERT_EQ(jpeg.size(), QSize(3, 2));
+    const QRgb got = jpeg.pixel(1, 1), wanted = bmp.pixel(0, 0);
     EXPECT_LE(std::abs(qRed(got) - qRed(wanted)), 2);
     EXPECT_LE(std::abs(qGreen(got) - qGreen(wanted)), 2);
     EXPECT_LE(std::abs(qBlue(got) - qBlue(wanted)), 2);
-    EXPECT_EQ(Bytes(Path("out.jpg")).left(2).toHex(), "ffd8");
+    EXPECT_EQ(Read("out.jpg").left(2).toHex(), "ffd8");
+    MakePicture(qRgba(0, 0, 0, 0), qRgb(0, 0, 0));
+    const QImage onWhite = Recoloured("white.bmp --hue 0 --saturation 255");
+    EXPECT_TRUE(Told("in.png is transparent")) << err_.constData();
+    EXPECT_EQ(onWhite.pixel(0, 0), qRgb(255, 255, 255));
+    EXPECT_EQ(onWhite.pixel(0, 1), qRgb(0, 0, 0));
 }
 
-TEST_F(RecolourTest, TransparencyIsToldAndPutOnWhite) {
-    MakePicture("in.png", qRgba(0, 0, 0, 0), qRgb(0, 0, 0));
-    ASSERT_EQ(Run({Path("in.png"), Path("out.bmp"), "--hue", "0", "--saturation", "255"}), 0);
-    EXPECT_TRUE(said_.contains("in.png is transparent")) << said_.constData();
-    EXPECT_EQ(QImage(Path("out.bmp")).pixel(0, 0), qRgb(255, 255, 255));
-    EXPECT_EQ(QImage(Path("out.bmp")).pixel(0, 1), qRgb(0, 0, 0));
-}
-
-TEST_F(RecolourTest, RefusesAndWritesNothing) {
-    MakePicture("in.png", qRgb(1, 2, 3), qRgb(4, 5, 6));
-    QFile text(Path("text.png"));
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("no picture") > 0);
-    text.close();
-    const QString in = Path("in.png"), out = Path("out.bmp");
-    const QStringList one = {"--hue", "1", "--saturation", "1"};
-    const std::pair<QStringList, int> rows[] = {{{in, out, "--hue", "256", "--saturation", "1"}, 2},
-                                                {{in, out, "--hue=-1", "--saturation", "1"}, 2},
-                                                {{in, out, "--hue", "1", "--saturation", "1.5"}, 2},
-                                                {{in, out, "--hue", "", "--saturation", "1"}, 2},
-                                                {{in, out, "--hue", "1"}, 2},
-                                                {QStringList{in} + one, 2},
-                                                {QStringList{in, out, out} + one, 2},
-                                                {QStringList{in, Path("out.png")} + one, 2},
-                                                {QStringList{Path("none.png"), out} + one, 1},
-                                                {QStringList{Path("text.png"), out} + one, 1},
-                                                {QStringList{in, Path("no/out.bmp")} + one, 1},
-                                                {QStringList{in, Path("no/out.jpg")} + one, 1}};
-    for (const auto& [words, code] : rows) {
-        EXPECT_EQ(Run(words), code) << words.join(' ').toStdString();
-        EXPECT_FALSE(said_.isEmpty()) << words.join(' ').toStdString();
+TEST_F(ToolTest, ExitCodes) {
+    MakePicture(qRgb(1, 2, 3), qRgb(4, 5, 6));
+    folder_.Write("text.png", "no picture");
+    const std::size_t files = folder_.Files().size();
+    const QString render = "render Blue --layout Standard --out ", in = "recolour in.png ";
+    const QString one = " --hue 1 --saturation 1";
+    const std::pair<int, std::vector<QString>> codes[] = {
+        {2,
+         {"", "paint Blue", "dump", "dump ", "dump Blue --nonsense", "dump Blue Blue", "place Blue",
+          "place Blue --layout Standard --size 0x5", "place Blue --layout Standard --size 5",
+          render + "x.png --view both", render + "x.png --size 8193x80", "recolour in.png" + one,
+          in + "out.bmp --hue 256 --saturation 1", in + "out.bmp --hue=-1 --saturation 1",
+          in + "out.bmp --hue 1 --saturation 1.5", in + "out.bmp --hue  --saturation 1",
+          in + "out.bmp --hue 1", in + "out.bmp out.bmp" + one, in + "out.png" + one}},
+        {1,
+         {"dump None", "place Blue --layout None", render + "no/folder.png",
+          "recolour none.png out.bmp" + one, "recolour text.png out.bmp" + one, in + "no/out.bmp" + one,
+          in + "no/out.jpg" + one}},
+        {0, {"--help", "--version"}}};
+    for (const auto& [code, lines] : codes) {
+        for (const QString& words : lines) {
+            EXPECT_EQ(Run(words), code) << words.toStdString();
+            EXPECT_EQ(err_.isEmpty(), code == 0) << words.toStdString();
+        }
     }
-    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+    EXPECT_EQ(folder_.Files().size(), files);
 }
 
 }  // namespace
