@@ -2,12 +2,10 @@
 #include "picture/frm_pictureeditor.h"
 
 #include <gtest/gtest.h>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "editor/settings_keys.h"
@@ -22,7 +20,7 @@ namespace {
 
 class PictureEditorTest : public SkinTest {
 protected:
-    void Open(const char* picture, const char* finalName = "a") {
+    void Open(const char* picture = "a.png", const char* finalName = "a") {
         form_ = std::make_unique<frm_PictureEditor>(nullptr);
         form_->SetSelKey(selKey_);
         form_->SetFinalName(finalName);
@@ -33,6 +31,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     }
     static void Click(TileCommand* button) { QTest::mouseClick(button, Qt::LeftButton); }
+    std::array<int, 2> Sliders() const { return {form_->hscHue->value(), form_->hscSaturation->value()}; }
     void ClickPreset(int row) const {
         const QRect place = form_->lstPresets->visualItemRect(form_->lstPresets->item(row));
         QTest::mouseClick(form_->lstPresets->viewport(), Qt::LeftButton, {}, place.center());
@@ -42,7 +41,6 @@ protected:
         for (int i = 0; i < form_->lstPresets->count(); ++i) names += form_->lstPresets->item(i)->text();
         return names;
     }
-    std::array<int, 2> Sliders() const { return {form_->hscHue->value(), form_->hscSaturation->value()}; }
     static QRgb Seen(const DibView* box, int x, int y) {
         return box->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32).pixel(x, y);
     }
@@ -69,7 +67,7 @@ TEST_F(PictureEditorTest, BothBoxesShowTheirPixelsWhereverTheyAreScrolled) {
     for (int y = 0; y < large.height(); ++y)
         for (int x = 0; x < large.width(); ++x) large.setPixel(x, y, qRgb(x & 255, y & 255, (x + y) / 9));
     ASSERT_TRUE(large.save(Path("a.png")));
-    Open("a.png");
+    Open();
     for (const QPoint corner : {QPoint(0, 0), QPoint(301, 77), QPoint(9999, 9999)}) {
         form_->picResult->horizontalScrollBar()->setValue(corner.x());
         form_->picResult->verticalScrollBar()->setValue(corner.y());
@@ -88,52 +86,50 @@ TEST_F(PictureEditorTest, SlidersGoByKeysWheelAndPress) {
     Picture("a.png", QColor(90, 30, 200));
     settings::PictureHue.Write(40);
     settings::PictureSaturation.Write(999);
-    Open("a.png");
+    Open();
     EXPECT_EQ(Sliders(), (std::array{40, 255}));
     const auto expect = [&](int hue) {
         EXPECT_EQ(form_->lblHueValue->text().toInt(), hue);
         EXPECT_EQ(Seen(form_->picResult, 1, 1), Recoloured(qRgb(90, 30, 200), hue, 255)) << hue;
     };
-    const std::pair<Qt::Key, int> keys[] = {
-        {Qt::Key_Right, 41}, {Qt::Key_PageUp, 49}, {Qt::Key_End, 255}, {Qt::Key_Home, 0}, {Qt::Key_Up, 1}};
-    for (const auto& [key, hue] : keys) {
+    for (const auto& [key, hue] :
+         {std::pair{Qt::Key_Right, 41}, {Qt::Key_PageUp, 49}, {Qt::Key_End, 255}, {Qt::Key_Home, 0}}) {
         QTest::keyClick(form_->hscHue, key);
         expect(hue);
     }
     QTest::mouseClick(form_->hscHue, Qt::LeftButton, {}, QPoint(form_->hscHue->width() - 20, 12));
-    expect(9);
+    expect(8);
     QWheelEvent turn(QPointF(50, 12), form_->hscHue->mapToGlobal(QPointF(50, 12)), {}, QPoint(0, 120), {}, {},
                      Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(form_->hscHue, &turn);
-    expect(9 + QApplication::wheelScrollLines());
+    expect(8 + QApplication::wheelScrollLines());
 }
 
 TEST_F(PictureEditorTest, PresetsAreSavedPickedAndDeleted) {
     Picture("a.png", Qt::red);
-    Open("a.png");
+    Open();
     EXPECT_FALSE(form_->btn_DeletePreset->isEnabled());
     prompts_.inputs = {"  Sea ", "   ", "Rust"};
     form_->hscHue->setValue(170);
-    Click(form_->btn_SavePreset);
-    Click(form_->btn_SavePreset);
+    for (int times = 0; times < 2; ++times) Click(form_->btn_SavePreset);
     form_->hscSaturation->setValue(20);
     Click(form_->btn_SavePreset);
     EXPECT_EQ(PresetNames(), (QStringList{"Sea", "Rust"}));
-    ClickPreset(0);
-    EXPECT_EQ(Sliders(), (std::array{170, 100}));
-    form_->hscHue->setValue(3);
-    ClickPreset(0);  // the same once more
-    EXPECT_EQ(Sliders(), (std::array{170, 100}));
+    for (int times = 0; times < 2; ++times) {
+        ClickPreset(0);  // also the one that is selected
+        EXPECT_EQ(Sliders(), (std::array{170, 100}));
+        form_->hscHue->setValue(3);
+    }
     QTest::keyClick(form_->lstPresets, Qt::Key_Down);
     EXPECT_EQ(Sliders(), (std::array{170, 20}));
     Click(form_->btn_SavePreset);  // cancelled
     EXPECT_EQ(prompts_.asked.front(), "Save preset: Enter name for Color preset []");
     EXPECT_EQ(prompts_.asked.back(), "Save preset: Enter name for Color preset [Rust]");
     ClickPreset(0);
-    Click(form_->btn_DeletePreset);
-    EXPECT_EQ(PresetNames(), QStringList{"Rust"});
-    Click(form_->btn_DeletePreset);  // none is selected
-    EXPECT_EQ(PresetNames(), QStringList{"Rust"});
+    for (int times = 0; times < 2; ++times) {
+        Click(form_->btn_DeletePreset);  // and with none selected
+        EXPECT_EQ(PresetNames(), QStringList{"Rust"});
+    }
 }
 
 TEST_F(PictureEditorTest, SavesOrStaysOpen) {
@@ -155,32 +151,16 @@ TEST_F(PictureEditorTest, SavesOrStaysOpen) {
     Click(form_->btn_Save);
     EXPECT_FALSE(form_->isVisible() || form_->IsCanceled());
     EXPECT_EQ(form_->EditPicture(), Path("b.jpg").toStdString());
-    EXPECT_EQ(settings::PictureHue.Read(), 7);
-    EXPECT_FALSE(settings::SaveAsBMP.Read());
+    EXPECT_TRUE(settings::PictureHue.Read() == 7 && !settings::SaveAsBMP.Read());
 
     Picture("a.png", Qt::green);  // what is kept is opened, and the settings with it
-    Open("a.png");
+    Open();
     EXPECT_EQ(Seen(form_->picSource, 0, 0), qRgb(90, 30, 200));
     EXPECT_TRUE(form_->optJPG->isChecked());
     form_->tbx_FinalName->setText("b");
     EXPECT_EQ(Notice(), "The skin has a picture \"b.jpg\"; saving replaces it.");
     QTest::keyClick(form_.get(), Qt::Key_Escape);
     EXPECT_TRUE(form_->IsCanceled() && !form_->isVisible());
-}
-
-TEST_F(PictureEditorTest, TellsWhatIsLost) {
-    QImage half(2, 1, QImage::Format_ARGB32);
-    half.setPixel(0, 0, qRgba(255, 0, 0, 255));
-    half.setPixel(1, 0, qRgba(255, 0, 0, 0));
-    ASSERT_TRUE(half.save(Path("half.png")));
-    Add("E1", 1, {0, 0, 10, 10}).BackgroundColor = Rgb(10, 20, 30);
-    for (const auto& [key, ground] : {std::pair{"E1", qRgb(10, 20, 30)}, {"", qRgb(255, 255, 255)}}) {
-        selKey_ = key;
-        Open("half.png");
-        EXPECT_TRUE(Notice().contains("transparent")) << key;
-        EXPECT_EQ(Seen(form_->picSource, 0, 0), qRgb(255, 0, 0));
-        EXPECT_EQ(Seen(form_->picSource, 1, 0), ground);
-    }
     Open("gone.png");
     EXPECT_EQ(Notice(), "\"gone.png\" can't be opened as a picture.");
     EXPECT_FALSE(form_->btn_Save->isEnabled());
@@ -191,64 +171,58 @@ TEST_F(PictureEditorTest, TellsWhatIsLost) {
 TEST_F(PictureEditorTest, WhatIsClearStaysClearForItsElement) {
     const QRgb key = qRgb(1, 254, 3), red = qRgb(255, 0, 0), half = qRgb(100, 100, 110);
     dbLayoutElement& element = Add("E1", 1, {0, 0, 10, 10});
-    element.UseTransparency = true;
     element.TransparentColor = Rgb(1, 254, 3);
     element.BackgroundColor = Rgb(0, 0, 20);
-    selKey_ = "E1";
-    const QRgb colours[] = {red, qRgba(0, 0, 0, 127), qRgba(200, 200, 200, 128), key};
-    const auto open = [&](bool topLeft, const std::vector<int>& order) {
+    const auto open = [&](std::initializer_list<QRgb> pixels) {
         QImage picture(4, 1, QImage::Format_ARGB32);
-        for (int x = 0; x < 4; ++x) picture.setPixel(x, 0, colours[order[static_cast<std::size_t>(x)]]);
-        ASSERT_TRUE(picture.save(Path("key.png")));
-        element.UseTopLeftTransparency = topLeft;
-        Open("key.png");
+        for (int x = 0; x < 4; ++x) picture.setPixel(x, 0, pixels.begin()[x]);
+        ASSERT_TRUE(picture.save(Path("a.png")));
+        Open();
         form_->hscHue->setValue(0);  // red becomes magenta
         form_->hscSaturation->setValue(255);
-        EXPECT_TRUE(Notice().contains("A JPEG can't keep that.")) << Notice().toStdString();
     };
+    const QRgb clear = qRgba(0, 0, 0, 127), seeThrough = qRgba(200, 200, 200, 128);
+    for (const auto& [selected, ground] : {std::pair{"E1", qRgb(0, 0, 20)}, {"", qRgb(255, 255, 255)}}) {
+        selKey_ = selected;
+        open({red, qRgba(255, 0, 0, 0), red, red});
+        EXPECT_TRUE(Notice().contains("transparent")) << selected;
+        EXPECT_EQ(Seen(form_->picSource, 0, 0), red);
+        EXPECT_EQ(Seen(form_->picSource, 1, 0), ground);
+    }
+    selKey_ = "E1";
+    element.UseTransparency = true;
     const auto result = [&](int x) { return Seen(form_->picResult, x, 0); };
-    open(false, {0, 1, 2, 3});
+    open({red, clear, seeThrough, key});
+    EXPECT_TRUE(Notice().contains("A JPEG can't keep that.")) << Notice().toStdString();
     const QRgb expected[] = {qRgb(255, 0, 255), key, Recoloured(half, 0, 255), key};
     for (int x = 0; x < 4; ++x) EXPECT_EQ(result(x), expected[x]) << x;
     EXPECT_EQ(Seen(form_->picSource, 1, 0), key);
-    open(true, {0, 1, 2, 3});
+    element.UseTopLeftTransparency = true;
+    open({red, clear, seeThrough, key});
     EXPECT_EQ(result(1), result(0));
     EXPECT_EQ(result(3), Recoloured(key, 0, 255));
-    open(true, {1, 0, 2, 3});
+    open({clear, red, seeThrough, key});
     for (int x = 1; x < 4; ++x) EXPECT_NE(result(0), result(x)) << x;
 }
 
-class PresetsTest : public ::testing::Test {
-protected:
-    PresetsTest() { UseSettingsFile(folder_.filePath("settings.ini")); }
-    static std::string Stored(const std::string& key) { return GetSetting("Picture-Editor", key, "-"); }
-    QTemporaryDir folder_;
-};
-
-TEST_F(PresetsTest, AreAddedAndCloseUpWhenOneGoes) {
+TEST_F(PictureEditorTest, PresetsAreStoredAndCloseUpWhenOneGoes) {
+    const auto stored = [](const char* key) { return GetSetting("Picture-Editor", key, "-"); };
     const std::vector<Preset> added = {
         {"Sea", "170", "90"}, {"Rust = 1; \"x\"", "42", "0"}, {"Sea", "0", "255"}};
     for (const Preset& preset : added)
         AddPreset(preset.name, std::stoi(preset.hue), std::stoi(preset.saturation));
-    EXPECT_EQ(ReadPresets(), added);
     for (const int index : {-1, 3}) DeletePreset(index);
     EXPECT_EQ(ReadPresets(), added);
     DeletePreset(1);
     EXPECT_EQ(ReadPresets(), (std::vector{added[0], added[2]}));
-    EXPECT_EQ(Stored("PresetCount") + Stored("PresetName2") + Stored("HUE2") + Stored("Sat2"), "2Sea0255");
-    EXPECT_EQ(Stored("PresetName3") + Stored("HUE3") + Stored("Sat3"), "---");
-    DeletePreset(0);
-    DeletePreset(0);
-    EXPECT_EQ(Stored("PresetCount"), "0");
-}
-
-TEST_F(PresetsTest, WhatTheSettingsLackOrGarble) {
+    EXPECT_EQ(stored("PresetCount") + stored("PresetName2") + stored("HUE2") + stored("Sat2"), "2Sea0255");
+    EXPECT_EQ(stored("PresetName3") + stored("HUE3") + stored("Sat3"), "---");
+    for (int times = 0; times < 2; ++times) DeletePreset(0);
+    EXPECT_EQ(stored("PresetCount"), "0");
     SaveSetting("Picture-Editor", "PresetCount", "2");
     SaveSetting("Picture-Editor", "hue1", "much");
-    const std::vector<Preset> expected = {{"<empty>", "much", "100"}, {"<empty>", "100", "100"}};
-    EXPECT_EQ(ReadPresets(), expected);
-    const std::pair<const char*, int> counts[] = {{"-4", 0}, {"many", 0}, {"2000000000", MostPresets}};
-    for (const auto& [text, count] : counts) {
+    EXPECT_EQ(ReadPresets(), (std::vector<Preset>{{"<empty>", "much", "100"}, {"<empty>", "100", "100"}}));
+    for (const auto& [text, count] : {std::pair{"-4", 0}, {"many", 0}, {"2000000000", MostPresets}}) {
         SaveSetting("Picture-Editor", "PresetCount", text);
         EXPECT_EQ(ReadPresets().size(), count) << text;
     }

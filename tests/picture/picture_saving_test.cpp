@@ -49,13 +49,10 @@ protected:
 TEST_F(SavingTest, TheKeptSourceIsFound) {
     for (const char* name : {"a.PNG", "b.jpg", "B.png", "b.bmp", "c.d.png", "c.d.e.png"})
         folder_.Write(std::string("Blue/Original/") + name, "kept");
-    const std::pair<const char*, const char*> cases[] = {{"a.bmp", "Blue/Original/a.PNG"},
-                                                         {"A.jpg", "Blue/Original/a.PNG"},
-                                                         {"b.bmp", "Blue/Original/b.bmp"},
-                                                         {"B.bmp", "Blue/Original/B.png"},
-                                                         {"c.bmp", "Blue/c.bmp"},
-                                                         {"c.d.bmp", "Blue/Original/c.d.png"},
-                                                         {"/far/b.gif", "Blue/Original/b.bmp"}};
+    const std::pair<const char*, const char*> cases[] = {
+        {"A.jpg", "Blue/Original/a.PNG"},     {"b.bmp", "Blue/Original/b.bmp"},
+        {"B.bmp", "Blue/Original/B.png"},     {"c.bmp", "Blue/c.bmp"},
+        {"c.d.bmp", "Blue/Original/c.d.png"}, {"/far/b.gif", "Blue/Original/b.bmp"}};
     for (const auto& [picture, source] : cases) EXPECT_EQ(Named(SourcePath(picture)), source) << picture;
     EXPECT_EQ(SourcePath("/far/x.gif"), "/far/x.gif");
 }
@@ -66,13 +63,12 @@ TEST_F(SavingTest, KeepsTheSourceOnceAndWritesTheFile) {
     EXPECT_EQ(Named(Save("a.bmp", "a")), "Blue/a.bmp");
     EXPECT_EQ(Named(Save("a.bmp", "a", FileKind::Jpeg)), "Blue/a.jpg");
     EXPECT_EQ(Named(Save((folder_ / "far/z.gif").string(), "y")), "Blue/y.bmp");
-    std::map<std::string, std::string> files = folder_.Files();
-    const std::string jpeg = files["Blue/a.jpg"], bmp = files["Blue/y.bmp"];
-    files["Blue/a.jpg"] = files["Blue/y.bmp"] = "";
+    const std::map<std::string, std::string> files = folder_.Files();
+    const std::string jpeg = files.at("Blue/a.jpg"), bmp = files.at("Blue/y.bmp");
     EXPECT_EQ(files, (std::map<std::string, std::string>{{"Blue/Original/a.bmp", "source"},
                                                          {"Blue/Original/z.gif", "far"},
-                                                         {"Blue/a.jpg", ""},
-                                                         {"Blue/y.bmp", ""},
+                                                         {"Blue/a.jpg", jpeg},
+                                                         {"Blue/y.bmp", bmp},
                                                          {"far/z.gif", "far"}}));
     EXPECT_EQ(jpeg.substr(0, 2), "\xFF\xD8");
     ASSERT_EQ(bmp.size(), 54u + 2 * 12);
@@ -83,12 +79,14 @@ TEST_F(SavingTest, KeepsTheSourceOnceAndWritesTheFile) {
 }
 
 TEST_F(SavingTest, AJpegTakesTheBmpsPlaceUnlessItIsShownElsewhere) {
-    struct Case {
+    const struct {
         const char *shown, *alsoShown, *picture;
         bool stays;
-    };
-    for (const Case& c : {Case{"k.bmp", "x.png", "k.bmp", false}, Case{"k.bmp", "K.BMP", "k.bmp", true},
-                          Case{"k.bmp", "s.png", "s.png", true}, Case{"x.png", "s.png", "s.png", false}}) {
+    } cases[] = {{"k.bmp", "x.png", "k.bmp", false},
+                 {"k.bmp", "K.BMP", "k.bmp", true},
+                 {"k.bmp", "s.png", "s.png", true},
+                 {"x.png", "s.png", "s.png", false}};
+    for (const auto& c : cases) {
         while (layout_->dbLayoutElements->Count() > 0) layout_->dbLayoutElements->Remove(1);
         Show("A", c.shown);
         Show("B", c.alsoShown);
@@ -124,31 +122,25 @@ TEST_F(SavingTest, LeavesTheSkinsFolderByNoRoad) {
     EXPECT_EQ(TemporaryFolder::Read(folder_ / "Blue/Original/a.png"), "source");
 }
 
-/// Each step towards the disk fails once: the skin has its old picture and no kept source, or everything is
-/// new.
+/// Each step towards the disk fails once: the skin has its old picture and no kept source, or all is new.
 TEST_F(SavingTest, AnyStepMayFail) {
     for (const FileKind kind : {FileKind::Bmp, FileKind::Jpeg}) {
         int failed = 0;
-        for (int bad = 1;; ++bad) {
+        bool reached = true;
+        for (int bad = 1; reached; ++bad) {
             fs::remove_all(folder_ / "Blue");
             folder_.Write("Blue/a.bmp", "source");
             folder_.Write("Blue/a.jpg", "old");
             const auto before = folder_.Files();
-            bool wentWell = false, reached = false;
-            {
-                const FullDisk disk(bad, bad);
-                wentWell = FailureNumber([&] { Save("a.bmp", "a", kind); }) == 0;
-                reached = disk.steps >= bad;
-            }
-            if (!wentWell) ++failed;
-            if (!reached) break;
+            const FullDisk disk(bad, bad);
+            const bool wentWell = FailureNumber([&] { Save("a.bmp", "a", kind); }) == 0;
+            reached = disk.steps >= bad;
+            failed += !wentWell;
             const auto after = folder_.Files();
-            if (!wentWell) {
-                EXPECT_EQ(after, before) << "step " << bad;
-            } else {
-                EXPECT_EQ(after.at("Blue/Original/a.bmp"), "source") << "step " << bad;
-                EXPECT_NE(after.at(kind == FileKind::Bmp ? "Blue/a.bmp" : "Blue/a.jpg").substr(0, 3), "old");
-            }
+            EXPECT_TRUE(wentWell || after == before) << "step " << bad;
+            if (!wentWell) continue;
+            EXPECT_EQ(after.at("Blue/Original/a.bmp"), "source") << "step " << bad;
+            EXPECT_NE(after.at(kind == FileKind::Bmp ? "Blue/a.bmp" : "Blue/a.jpg").substr(0, 3), "old");
         }
         EXPECT_GE(failed, 9);
     }

@@ -3,6 +3,7 @@
 // else changed, the canvas shows it after the tick as a whole composition would, and the file that is saved
 // has it too.
 #include "properties/row_edit_fixture.h"
+#include "render/sample_families.h"
 
 namespace ornavo::testing {
 namespace {
@@ -12,10 +13,10 @@ dbLayoutElement& Named(const char* key) {
 }
 
 struct Selection {
-    const char* name;
-    Control& (*control)(CanvasParts&);
-    bool isSample = false;
+    std::string name;           // of a sample's control, if there is no element
+    const char* element = "";   // its key
     void (*prepare)() = [] {};  // what decides which rows there are
+    const char* onlyRow = "";   // that the others have not
 };
 
 /// For the list of tests.
@@ -23,46 +24,29 @@ void PrintTo(const Selection& selection, std::ostream* out) {
     *out << selection.name;
 }
 
-template <const char* Key>
-Control& Of(CanvasParts&) {
-    return ControlOf(Named(Key));
+std::vector<Selection> Selections() {
+    std::vector<Selection> all = {
+        {"Main", "Main"},
+        {"Button", "Button1"},
+        {"ButtonWithAmount", "Button1", [] { Named("Button1").ActionType = 10; }, "Value"},
+        {"ButtonWithScript", "Button1", [] { Named("Button1").ActionType = 12; }, "dbScript"},
+        {"Picture", "Picture1"},
+        {"Volume", "Volume1"},
+        {"Label", "Info1"},
+        {"InfoVolume", "Info1", [] { Named("Info1").InfoType = 5; }},
+        {"SongProperty", "Info1", [] { Named("Info1").InfoType = 20; }, "InfoField"},
+        {"SearchBox", "SearchBox"},
+        {"Scrollbar", "Scrollbar"},
+        {"Corner"},
+    };
+    for (const SampleFamily& family : SampleFamilies())
+        if (family.redraw != Redraw::Layout) all.push_back({std::string(family.control)});
+    return all;
 }
-constexpr char Main[] = "Main", Button[] = "Button1", Graphic[] = "Picture1", Volume[] = "Volume1",
-               Info[] = "Info1", SearchBox[] = "SearchBox", Scrollbar[] = "Scrollbar";
 
-// clang-format off
-const Selection Selections[] = {
-    {"Main", Of<Main>},
-    {"Button", Of<Button>},
-    {"ButtonWithAmount", Of<Button>, false, [] { Named(Button).ActionType = 10; }},
-    {"ButtonWithScript", Of<Button>, false, [] { Named(Button).ActionType = 12; }},
-    {"Picture", Of<Graphic>},
-    {"Volume", Of<Volume>},
-    {"Label", Of<Info>},
-    {"InfoVolume", Of<Info>, false, [] { Named(Info).InfoType = 5; }},
-    {"SongProperty", Of<Info>, false, [] { Named(Info).InfoType = 20; }},
-    {"SearchBox", Of<SearchBox>},
-    {"Scrollbar", Of<Scrollbar>},
-    {"Corner", [](CanvasParts& p) -> Control& { return p.points.cPointMover[1]; }},
-    {"Skin", nullptr, true},
-    {"AddAll", [](CanvasParts& p) -> Control& { return p.host.sample.but_AddAll; }, true},
-    {"InfoButton", [](CanvasParts& p) -> Control& { return p.host.sample.but_Info; }, true},
-    {"Song", [](CanvasParts& p) -> Control& { return p.host.sample.but_Song; }, true},
-    {"Song2", [](CanvasParts& p) -> Control& { return p.host.sample.but_Song2; }, true},
-    {"KeyN", [](CanvasParts& p) -> Control& { return p.host.sample.KeyN; }, true},
-    {"KeyE", [](CanvasParts& p) -> Control& { return p.host.sample.KeyE; }, true},
-    {"KeyS", [](CanvasParts& p) -> Control& { return p.host.sample.KeyS; }, true},
-    {"KeyU", [](CanvasParts& p) -> Control& { return p.host.sample.KeyU; }, true},
-    {"KeyB", [](CanvasParts& p) -> Control& { return p.host.sample.KeyB; }, true},
-    {"Letters", [](CanvasParts& p) -> Control& { return p.host.sample.lbl_SL[1]; }, true},
-    {"Cover", [](CanvasParts& p) -> Control& { return p.host.sample.but_Picture; }, true},
-    {"Labels", [](CanvasParts& p) -> Control& { return p.host.sample.lbl_Kiosk; }, true},
-};
-// clang-format on
-
-// What no timer draws, by the kind of row.
-const std::set<std::string> Undrawn[] = {
-    {"ElementName", "dbScript", "Value", "SP_SkinInformation.Value"}, {"Resizer", "Dragger"}, {}};
+// What no timer draws.
+const std::set<std::string> Undrawn = {"ElementName", "dbScript", "SP_SkinInformation.Value", "Resizer",
+                                       "Dragger"};
 // What can be seen of every element that has the row.
 const std::set<std::string> Seen = {"LeftX",           "TopY",    "WidthX", "HeightY", "Visible",
                                     "BackgroundColor", "Caption", "X",      "Y"};
@@ -70,77 +54,67 @@ const std::set<std::string> Seen = {"LeftX",           "TopY",    "WidthX", "Hei
 const std::set<std::string> Waiting = {"Main.HeightY", "SP_BackgroundPicture.Value"};
 
 /// What an edit of the name may also change: without the rule it is the control's, which has another one.
-std::string KeyColourBeside(const std::string& name) {
+std::string KeyColourBeside(std::string name) {
     const std::string rule = "UseTopLeftTransparency";
     const std::size_t at = name.find(rule);
-    return at == std::string::npos ? ""
-                                   : name.substr(0, at) + "TransparentColor" + name.substr(at + rule.size());
+    return at == std::string::npos ? "" : name.replace(at, rule.size(), "TransparentColor");
 }
 
 class EveryRowTest : public RowEditTest, public ::testing::WithParamInterface<Selection> {
 protected:
-    enum class Kind { Text, Tick, List };
-    using Row = std::pair<std::string, Kind>;  // its key
-
     /// The skin as it was, and the selection made.
     void Begin() {
-        QFile file(Path("SkinSettings.xml"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(beginning_);
-        file.close();
+        ReplaceFile(objSkin->SkinFile(), beginning_);
         form_->ResetSelection();
         objSkin = std::make_shared<dbSkin>(Stored());
         objCurrentLayout = objSkin->dbLayouts->Item(1);
         Compose();
-        const Selection& chosen = GetParam();
-        Control& control = chosen.control ? chosen.control(form_->parts()) : skinButton_;
-        chosen.isSample ? SelectSample(control) : Select(control);
+        const auto& [name, element, prepare, row] = GetParam();
+        if (*element) return Select(element);
+        if (name == "Corner") return Select(form_->parts().points.cPointMover[1]);
+        for (QWidget* widget : host().pMain.findChildren<QWidget*>()) {
+            auto* sample = dynamic_cast<Control*>(widget);  // of the letters the first one that is seen
+            if (sample && sample->Name == name && sample->Index == (name == "lbl_SL"))
+                return SelectSample(*sample);
+        }
+        SelectSample(skinButton_);
     }
-    std::vector<Row> Rows() {
-        std::vector<Row> rows;
+    std::set<std::string> Rows() {
+        std::set<std::string> keys;
         RowPools& pools = panel_->parts().pools;
-        for (int i = 1; i <= pools.chk_Boolean.Top(); ++i) Append(rows, pools.chk_Boolean[i].Tag, Kind::Tick);
-        for (int i = 1; i <= pools.cboPic.Top(); ++i) Append(rows, pools.cboPic[i].Tag, Kind::List);
-        for (int i = 1; i <= pools.tbx_Prop.Top(); ++i)
-            if (!Check(pools.tbx_Prop[i].Tag)) Append(rows, pools.tbx_Prop[i].Tag, Kind::Text);
-        return rows;
+        for (int i = 1; i <= pools.chk_Boolean.Top(); ++i) keys.insert(pools.chk_Boolean[i].Tag);
+        for (int i = 1; i <= pools.cboPic.Top(); ++i) keys.insert(pools.cboPic[i].Tag);
+        for (int i = 1; i <= pools.tbx_Prop.Top(); ++i) keys.insert(pools.tbx_Prop[i].Tag);
+        keys.erase("");
+        return keys;
     }
-    static void Append(std::vector<Row>& rows, const std::string& key, Kind kind) {
-        if (!key.empty()) rows.emplace_back(key, kind);
-    }
-    std::string Now(const std::string& key) { return GetRowValue(panel_->parts().BoundObject, key).ToText(); }
 
     /// What the row's value has become; by the same way as a user, and another one than before.
-    std::string Edit(const Row& row) {
-        const auto& [key, kind] = row;
-        if (kind == Kind::Tick) return EditTick(*Check(key));
-        if (kind == Kind::List) return EditList(*Combo(key));
+    std::string Edit(const std::string& key) {
+        if (RowCheck* check = Check(key)) {
+            const bool after = !check->Value();
+            Press(*check, Qt::Key_Space);
+            return key == "Value" ? "-1" : after ? "True" : "";
+        }
+        if (RowCombo* combo = Combo(key)) {
+            const int before = combo->ListIndex();
+            const bool isLast = before + 1 == combo->count() || (key == "ElementType" && before == TypeInfo);
+            Press(*combo, isLast ? Qt::Key_Up : Qt::Key_Down);
+            return std::to_string(before + (isLast ? -1 : 1));
+        }
         RowText& box = *Box(key);
-        const int buttonKind = box.button ? box.button->kind : 0;
-        if (buttonKind == KindFont) return EditFont(*box.button);
-        std::string text = Now(key) == "7" ? "8" : "7";
-        if (buttonKind == KindPicture) text = "new.bmp";
-        if (buttonKind == KindColour) text = Now(key) == "255" ? "65280" : "255";
+        const int kind = box.button ? box.button->kind : 0;
+        if (kind == KindFont) {
+            prompts_.fonts = {Font{.Name = "DejaVu Serif", .Size = 17, .Bold = true}};
+            QTest::mouseClick(box.button, Qt::LeftButton);
+            return "DejaVu Serif";
+        }
+        const std::string now = GetRowValue(panel_->parts().BoundObject, key).ToText();
+        std::string text = now == "7" ? "8" : "7";
+        if (kind == KindPicture) text = "new.bmp";
+        if (kind == KindColour) text = now == "255" ? "65280" : "255";
         Type(box, text);
         return text;
-    }
-    std::string EditTick(RowCheck& check) {
-        const bool after = !check.Value();
-        Press(check, Qt::Key_Space);
-        if (check.Tag == "Value") return "-1";
-        return after ? "True" : "";
-    }
-    std::string EditList(RowCombo& combo) {
-        const int before = combo.ListIndex();
-        const bool isLast = before + 1 == combo.count() || (combo.Tag == "ElementType" && before == TypeInfo);
-        const int after = before + (isLast ? -1 : 1);
-        Press(combo, after > before ? Qt::Key_Down : Qt::Key_Up);
-        return std::to_string(after);
-    }
-    std::string EditFont(TileCommand& button) {
-        prompts_.fonts = {Font{.Name = "DejaVu Serif", .Size = 17, .Bold = true}};
-        QTest::mouseClick(&button, Qt::LeftButton);
-        return "DejaVu Serif";
     }
 
     void ExpectOneChange(const std::string& name, const std::string& expected, const Snapshot& before) {
@@ -157,64 +131,61 @@ protected:
     void ExpectDrawn(const std::string& key, const std::string& name, const QImage& before) {
         EXPECT_EQ(objSkin->Dirty, key == "ElementType");
         Tick();
-        EXPECT_TRUE(objSkin->Dirty);
-        EXPECT_FALSE(timer().isActive());
+        EXPECT_TRUE(objSkin->Dirty && !timer().isActive() && panel_->isVisible());
         const QImage after = Canvas(Part());
-        if (Seen.contains(key)) {
-            EXPECT_NE(after, before);
-        }
-        EXPECT_TRUE(panel_->isVisible());
+        EXPECT_TRUE(after != before || !Seen.contains(key));
         if (Waiting.contains(name)) return;
         form_->UpdateCurrentLayout();
         EXPECT_EQ(after, Canvas(Part())) << "unlike a whole composition";
     }
-    void EditOnce(const Row& row) {
-        SCOPED_TRACE(row.first);
+    void EditOnce(const std::string& key) {
         const Snapshot before = SnapshotOf(*objSkin);
         const QImage picture = Canvas(Part());
-        const std::string selected = SelKey(), preference(GetClass(row.first));
+        const std::string selected = SelKey(), preference(GetClass(key));
+        const bool isDrawn = !Undrawn.contains(key) && (key != "Value" || Check(key));
         objSkin->Dirty = false;
-        const std::string expected = Edit(row);
-        if (row.first == "ShowElement") {
+        const std::string expected = Edit(key);
+        if (key == "ShowElement") {
             EXPECT_NE(SelKey(), selected);
             return;
         }
-        EXPECT_EQ(timer().isActive(), !Undrawn[static_cast<int>(row.second)].contains(row.first));
+        EXPECT_EQ(timer().isActive(), isDrawn);
         const std::string owner = preference.empty() ? selected : preference;
-        const std::string name = owner + '.' + std::string(GetMethod(row.first));
-        if (timer().isActive()) ExpectDrawn(row.first, name, picture);
+        const std::string name = owner + '.' + std::string(GetMethod(key));
+        if (timer().isActive()) ExpectDrawn(key, name, picture);
         ExpectOneChange(name, expected, before);
     }
     /// What the edit may change. Other controls of a sample's family wait for the next composition.
     QRect Part() {
-        if (!GetParam().isSample || SelControl() == &skinButton_) return form_->rect();
+        const bool isSample = !*GetParam().element && GetParam().name != "Corner";
+        if (!isSample || SelControl() == &skinButton_) return form_->rect();
         return {SelControl()->mapTo(form_.get(), QPoint()), SelControl()->size()};
     }
 
     Control skinButton_{nullptr, "btn_SkinProperties"};
-    QByteArray beginning_;
+    std::string beginning_;
 };
 
 TEST_P(EveryRowTest, EveryRow) {
-    GetParam().prepare();
+    const auto& [name, element, prepare, onlyRow] = GetParam();
+    prepare();
     Compose();
     objSkin->SaveSkin(false);
-    QFile file(Path("SkinSettings.xml"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    beginning_ = file.readAll();
+    beginning_ = ReadFile(objSkin->SkinFile());
     Begin();
-    const std::vector<Row> rows = Rows();
-    ASSERT_GE(rows.size(), 2U);
-    const std::set<std::string> fixed = {"Main", "SearchBox", "Scrollbar"};
-    for (const Row& row : rows) {
-        if (row.first == "ElementType" && fixed.contains(GetParam().name)) continue;
+    const std::set<std::string> rows = *onlyRow ? std::set<std::string>{onlyRow} : Rows(),
+                                fixed = {"Main", "SearchBox", "Scrollbar"};
+    ASSERT_GE(rows.size(), *onlyRow ? 1U : 2U);
+    for (const std::string& row : rows) {
+        if (row == "ElementType" && fixed.contains(name)) continue;
+        SCOPED_TRACE(row);
         Begin();
         EditOnce(row);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Sheet, EveryRowTest, ::testing::ValuesIn(Selections),
-                         [](const auto& tested) { return std::string(tested.param.name); });
+INSTANTIATE_TEST_SUITE_P(Sheet, EveryRowTest, ::testing::ValuesIn(Selections()),
+                         [](const auto& tested) { return tested.param.name; });
 
 }  // namespace
 }  // namespace ornavo::testing

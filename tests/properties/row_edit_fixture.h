@@ -4,16 +4,18 @@
 #pragma once
 
 #include <QClipboard>
+#include <algorithm>
 #include <chrono>
 #include <map>
 #include <set>
 
-#include "base/failure.h"
+#include "base/files.h"
 #include "document/codes.h"
 #include "document/fields.h"
 #include "properties/frm_properties.h"
 #include "render/redraw.h"
 #include "support/canvas_fixture.h"
+#include "support/step_layer.h"
 
 namespace ornavo::testing {
 
@@ -38,21 +40,18 @@ void Collect(Snapshot& fields, const std::string& owner, const T& object) {
 inline Snapshot SnapshotOf(const dbSkin& skin) {
     Snapshot fields;
     const dbLayout& layout = *skin.dbLayouts->Item(1);
-    for (const dbLayoutElementRef& element : *layout.dbLayoutElements)
-        Collect(fields, element->Key, *element);
-    for (const dbPointRef& point : *layout.dbPoints)
-        Collect(fields, "K" + std::to_string(point->Order), *point);
-    for (const dbSkinPrefRef& pref : *skin.dbSkinPrefs) Collect(fields, pref->Key, *pref);
+    for (const auto& element : *layout.dbLayoutElements) Collect(fields, element->Key, *element);
+    for (const auto& point : *layout.dbPoints) Collect(fields, "K" + std::to_string(point->Order), *point);
+    for (const auto& pref : *skin.dbSkinPrefs) Collect(fields, pref->Key, *pref);
     return fields;
 }
 
 /// The fields in which the two differ.
 inline std::set<std::string> Differences(const Snapshot& a, const Snapshot& b) {
+    std::vector<Snapshot::value_type> differing;
+    std::set_symmetric_difference(a.begin(), a.end(), b.begin(), b.end(), std::back_inserter(differing));
     std::set<std::string> names;
-    for (const auto& [name, value] : a)
-        if (const auto other = b.find(name); other == b.end() || other->second != value) names.insert(name);
-    for (const auto& [name, value] : b)
-        if (!a.contains(name)) names.insert(name);
+    for (const auto& [name, value] : differing) names.insert(name);
     return names;
 }
 
@@ -65,8 +64,7 @@ protected:
         AddOneOfEach();
         panel_ = std::make_unique<frm_Properties>(form_.get(), windows_, *form_);
         EXPECT_EQ(timer().interval(), 100);
-        timer().setInterval(
-            std::chrono::hours(1));  // it fires when the test says so, however slow the machine
+        timer().setInterval(std::chrono::hours(1));  // it fires when the test says so
         windows_.real = panel_.get();
         Compose();
         objSkin->SaveSkin(false);
@@ -75,18 +73,20 @@ protected:
 
     /// None lies over another.
     void AddOneOfEach() {
-        constexpr Rect places[] = {{20, 20, 400, 500}, {430, 20, 100, 60},  {540, 20, 100, 60},
-                                   {430, 90, 100, 60}, {430, 160, 200, 30}, {430, 200, 150, 20},
-                                   {700, 20, 40, 400}};
-        for (int type = TypeMain; type <= TypeScrollbar; ++type) {
-            const std::string name = type == TypeMain        ? "Main"
-                                     : type == TypeSearchBox ? "SearchBox"
-                                     : type == TypeScrollbar ? "Scrollbar"
-                                                             : std::string(ElementTypeNames[type]) + "1";
-            dbLayoutElement& element = Add(name.c_str(), type, places[type]);
-            element.ElementName = name;
+        const struct {
+            const char* key;
+            Rect place;
+            bool hasPicture;
+        } elements[] = {{"Main", {20, 20, 400, 500}, false},    {"Button1", {430, 20, 100, 60}, true},
+                        {"Picture1", {540, 20, 100, 60}, true}, {"Volume1", {430, 90, 100, 60}, true},
+                        {"Info1", {430, 160, 200, 30}, false},  {"SearchBox", {430, 200, 150, 20}, false},
+                        {"Scrollbar", {700, 20, 40, 400}, true}};
+        int type = TypeMain;
+        for (const auto& row : elements) {
+            dbLayoutElement& element = Add(row.key, type++, row.place);
+            element.ElementName = row.key;
             element.Visible = true;
-            if (type != TypeMain && type != TypeInfo && type != TypeSearchBox) element.PicNormal = "old.png";
+            if (row.hasPicture) element.PicNormal = "old.png";
             element.TextColor = 0xFFFFFF;
             element.Caption = "Play";
         }
@@ -149,6 +149,7 @@ protected:
     }
     QImage Canvas(const QRect& part) { return form_->grab(part).toImage(); }
 
+    const StepLayer disk_;  // which needn't last
     std::unique_ptr<frm_Properties> panel_;
 
 private:
