@@ -42,14 +42,11 @@ TEST_F(PanelTest, ASkinThatCannotBeReadLeavesTheOpenOne) {
     MakeSkin("Red", {"Standard"});
     prompts_.files = {Settings("Red").string()};
     const dbSkinRef open = objSkin;
-    {
-        const FullDisk disk;
-        Click(panel_->btn_OpenSkin);
-    }
+    const FullDisk disk;
+    Click(panel_->btn_OpenSkin);
     EXPECT_EQ(objSkin, open);
-    ASSERT_EQ(prompts_.asked.size(), 1u);
-    EXPECT_EQ(prompts_.asked[0], "Loading Skin Error: The file \"" + Settings("Red").string() +
-                                     "\" could not be read: No space left on device");
+    EXPECT_EQ(prompts_.asked, (Texts{"Loading Skin Error: The file \"" + Settings("Red").string() +
+                                     "\" could not be read: No space left on device"}));
 }
 
 TEST_F(PanelTest, ChoosingByMouseAndKeys) {
@@ -72,65 +69,48 @@ TEST_F(PanelTest, ChoosingByMouseAndKeys) {
 
 TEST_F(PanelTest, NewLayoutsAreNamedInTheList) {
     OpenBlue();
-    const struct { const char *typed, *key; } rows[] = {{"2005", "L2005"}, {"Late Night", "Late_Night"}};
-    for (const auto& row : rows) {
+    for (const auto& [typed, key] : {std::pair{"2005", "L2005"}, {"Late Night", "Late_Night"}}) {
         objSkin->Dirty = false;
         ClickItem(List().topLevelItemCount() - 1);
-        TypeLabel(row.typed);
-        ExpectShown(row.key);
+        TypeLabel(typed);
+        ExpectShown(key);
         EXPECT_EQ(objCurrentLayout->dbPoints->Count(), 4);
-        EXPECT_TRUE(objSkin->Dirty);
-        EXPECT_TRUE(panel_->btn_CloneLayout->isEnabled());
+        EXPECT_TRUE(objSkin->Dirty && panel_->btn_CloneLayout->isEnabled());
     }
     objSkin->Dirty = false;
-    for (const char* typed : {"", LayoutList::AddNewText}) {
+    for (const char* typed : {"", LayoutList::AddNewText, "big party"}) {
+        EXPECT_EQ(prompts_.asked, Texts());
         ClickItem(4);
         TypeLabel(typed);
     }
-    EXPECT_TRUE(prompts_.asked.empty());
-    ClickItem(4);
-    TypeLabel("big party");
-    ASSERT_EQ(prompts_.asked.size(), 1u);
-    EXPECT_EQ(prompts_.asked[0], "Layout already exists: Layout already exists in current Skin!");
+    EXPECT_EQ(prompts_.asked, Texts{"Layout already exists: Layout already exists in current Skin!"});
     EXPECT_FALSE(objSkin->Dirty);
     EXPECT_EQ(Items(), QStringList({"Standard", "Big Party", "2005", "Late Night", LayoutList::AddNewText}));
 }
 
 TEST_F(PanelTest, ARenameKeepsTheKeyAndTheLock) {
     OpenBlue();
-    Press(Qt::Key_F2);
-    TypeLabel(QString::fromUtf8("Every\u65E5"));
-    EXPECT_EQ(Items().first(), "Every?") << "as the file will have it";
+    for (const char* typed : {"Every\u65E5", ""}) {
+        Press(Qt::Key_F2);
+        TypeLabel(QString::fromUtf8(typed));
+        EXPECT_EQ(Items().first(), "Every?") << "as the file will have it";
+    }
     EXPECT_EQ(objSkin->dbLayouts->Item("Standard")->LayoutName, "Every?");
     EXPECT_FALSE(objSkin->Dirty);
-    Press(Qt::Key_F2);
-    TypeLabel("");
-    EXPECT_EQ(Items().first(), "Every?");
     Press(Qt::Key_Delete);
-    EXPECT_EQ(prompts_.asked,
-              (std::vector<std::string>{"Layout locked: You cannot delete Standard Layout!"}));
+    EXPECT_EQ(prompts_.asked, Texts{"Layout locked: You cannot delete Standard Layout!"});
     EXPECT_EQ(objSkin->dbLayouts->Count(), 2);
 }
 
-TEST_F(PanelTest, DeletingAsks) {
-    OpenBlue();
-    ClickItem(1);
-    prompts_.answers = {Answer::No, Answer::Yes};
-    Press(Qt::Key_Delete);
-    EXPECT_EQ(prompts_.asked[0], "Delete Layout: Do really want to delete Layout 'Big Party'?");
-    EXPECT_EQ(objSkin->dbLayouts->Count(), 2);
-    EXPECT_FALSE(objSkin->Dirty);
-    Press(Qt::Key_Delete);
-    EXPECT_EQ(Items(), QStringList({"Standard", LayoutList::AddNewText}));
-    EXPECT_TRUE(objSkin->Dirty);
-    ExpectShown("Standard");
-}
-
-TEST_F(PanelTest, AfterADeletionAnotherLayoutIsChosen) {
+TEST_F(PanelTest, DeletingAsksAndChoosesAnother) {
     MakeSkin("Blue", {"One", "Two", "Three"});
     panel_->LoadDebug(PlaceOfSkin("Blue", Root().string()));
     panel_->show();
     ClickItem(0);
+    prompts_.answers = {Answer::No};
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(prompts_.asked, Texts{"Delete Layout: Do really want to delete Layout 'One'?"});
+    EXPECT_TRUE(objSkin->dbLayouts->Count() == 3 && !objSkin->Dirty);
     for (const char* next : {"Two", "Three", ""}) {
         prompts_.answers = {Answer::Yes};
         Press(Qt::Key_Delete);
@@ -141,10 +121,11 @@ TEST_F(PanelTest, AfterADeletionAnotherLayoutIsChosen) {
              {panel_->btn_SkinProperties, panel_->btn_CloneLayout, panel_->btn_SaveToSkin})
             EXPECT_EQ(part->isEnabled(), *next != 0) << next;
     }
+    EXPECT_TRUE(objSkin->Dirty);
     EXPECT_EQ(canvas_.composed, objCurrentLayout) << "the canvas is bare";
     prompts_.asked.clear();
     Press(Qt::Key_Delete);
-    EXPECT_TRUE(prompts_.asked.empty()) << "nothing is selected";
+    EXPECT_EQ(prompts_.asked, Texts()) << "nothing is selected";
     ClickItem(0);
     TypeLabel("Four");
     EXPECT_TRUE(panel_->btn_SkinProperties->isEnabled() && panel_->btn_SaveToSkin->isEnabled());
@@ -154,56 +135,42 @@ TEST_F(PanelTest, ANewSkin) {
     OpenBlue();
     Click(panel_->btn_CreateNewSkin);
     ASSERT_TRUE(panel_->AddNewSkin);
-    EXPECT_EQ(panel_->AddNewSkin->tbx_Width->text(), "1024");
-    EXPECT_EQ(panel_->AddNewSkin->tbx_Height->text(), "768");
     panel_->AddNewSkin->tbx_SkinName->setText("   ");
     QTest::keyClick(panel_->AddNewSkin->tbx_SkinName, Qt::Key_Return);
-    EXPECT_EQ(prompts_.asked, (std::vector<std::string>{"Ornavo: Please enter a Skin name!"}));
+    EXPECT_EQ(prompts_.asked, Texts{"Ornavo: Please enter a Skin name!"});
     QTest::keyClick(panel_->AddNewSkin, Qt::Key_Escape);
     EXPECT_EQ(objSkin->SkinName, "Blue") << "Escape cancels";
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    SaveSetting("CreateNewSkin", "Height", "tall");
     Click(panel_->btn_CreateNewSkin);
     ASSERT_TRUE(panel_->AddNewSkin);
-    panel_->AddNewSkin->tbx_SkinName->setText("My:Skin?");
-    panel_->AddNewSkin->tbx_Width->setText("100");
-    panel_->AddNewSkin->tbx_Height->setText("1200");
-    QTest::keyClick(panel_->AddNewSkin->tbx_Width, Qt::Key_Return);
+    frm_AddNewSkin& dialog = *panel_->AddNewSkin;
+    EXPECT_EQ(dialog.tbx_Width->text() + "x" + dialog.tbx_Height->text(), "1024x768");
+    const std::pair<const char*, const char*> sizes[] = {
+        {"601", "601"},   {"", "600"},         {"x", "600"},   {"-700", "600"},
+        {"9e999", "600"}, {"1920 px", "1920"}, {"600", "600"}, {"100", "600"}};
+    for (const auto& [typed, kept] : sizes) {
+        dialog.tbx_Width->setText(typed);
+        QFocusEvent leaves(QEvent::FocusOut, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(dialog.tbx_Width, &leaves);
+        EXPECT_EQ(dialog.tbx_Width->text(), kept) << typed;
+    }
+    dialog.tbx_SkinName->setText("My:Skin?");
+    dialog.tbx_Height->setText("1200");
+    QTest::keyClick(dialog.tbx_Width, Qt::Key_Return);
     EXPECT_EQ(objSkin->SkinName, "My;Skin!");
     EXPECT_TRUE(objSkin->SkinWidth == 600 && objSkin->SkinHeight == 1200);
     EXPECT_EQ(objSkin->SkinFolder(), (Root() / "Skins" / "My;Skin!").string() + "/");
     EXPECT_EQ(Items(), QStringList({"Admin-Mode", "Kiosk-Mode", LayoutList::AddNewText}));
     EXPECT_FALSE(objSkin->Dirty || fs::exists(Root() / "Skins" / "My;Skin!"));
-    EXPECT_EQ(settings::NewSkinWidth.Read(), 600);
-    EXPECT_EQ(settings::NewSkinHeight.Read(), 1200);
+    EXPECT_TRUE(settings::NewSkinWidth.Read() == 600 && settings::NewSkinHeight.Read() == 1200);
     ExpectShown("Admin-Mode");
-}
-
-TEST_F(PanelTest, TheSizesOfANewSkin) {
-    SkinFiles files(Root().string(), "");
-    SaveSetting("CreateNewSkin", "Height", "tall");
-    auto* dialog = new frm_AddNewSkin(panel_.get(), files);
-    EXPECT_EQ(dialog->tbx_Height->text(), "768") << "a text where a number should be";
-    dialog->show();
-    const struct {
-        const char *typed, *kept;
-    } rows[] = {{"100", "600"}, {"600", "600"},  {"601", "601"},   {"", "600"},
-                {"x", "600"},   {"-700", "600"}, {"9e999", "600"}, {"1920 px", "1920"}};
-    for (const auto& row : rows) {
-        dialog->tbx_Width->selectAll();
-        QTest::keyClick(dialog->tbx_Width, Qt::Key_Backspace);
-        QTest::keyClicks(dialog->tbx_Width, row.typed);
-        QFocusEvent leaves(QEvent::FocusOut, Qt::TabFocusReason);
-        QCoreApplication::sendEvent(dialog->tbx_Width, &leaves);
-        EXPECT_EQ(dialog->tbx_Width->text(), row.kept) << row.typed;
-    }
-    dialog->close();
 }
 
 TEST_F(PanelTest, TheQuestionAtTheEnd) {
     OpenBlue();
     panel_->MoveTwips({1500, 1200, 3045, 4500});
-    EXPECT_TRUE(panel_->close());
-    EXPECT_TRUE(prompts_.asked.empty()) << "an unchanged skin asks nothing";
+    EXPECT_TRUE(panel_->close() && prompts_.asked.empty()) << "an unchanged skin asks nothing";
     const struct {
         Answer answer;
         bool full;
@@ -219,10 +186,10 @@ TEST_F(PanelTest, TheQuestionAtTheEnd) {
         objSkin->SkinWidth = 999;
         settings::SkinProjectLeft.Write(0);
         prompts_.answers = {row.answer};
-        std::unique_ptr<FullDisk> full;
-        if (row.full) full = std::make_unique<FullDisk>();
-        EXPECT_EQ(panel_->close(), row.outcome == Unload::Done);
-        full.reset();
+        {
+            const FullDisk disk(row.full ? 1 : std::numeric_limits<int>::max());
+            EXPECT_EQ(panel_->close(), row.outcome == Unload::Done);
+        }
         EXPECT_EQ(panel_->LastUnload(), row.outcome);
         EXPECT_EQ(panel_->isVisible(), row.outcome != Unload::Done);
         EXPECT_EQ(objSkin->Dirty, row.changed);

@@ -20,19 +20,16 @@ TEST_F(PanelTest, SavingRepairsTheNameFirst) {
         EXPECT_EQ(prompts_.asked.back(), "Ornavo: Please enter a Skin name!");
         EXPECT_EQ(objSkin->SkinName, "My;Skin!");
     }
+    Press(Qt::Key_F2);
+    ASSERT_NE(Label(), nullptr);
+    Label()->setText("Everyday");
+    panel_->tbx_SkinName->setText("My;Skin!");
+    EXPECT_TRUE(panel_->SaveSkin());
+    EXPECT_EQ(Stored("My;Skin!").dbLayouts->Item("Standard")->LayoutName, "Everyday") << "an open label too";
     panel_->tbx_SkinName->setText("Blue");
     prompts_.answers = {Answer::No};
     EXPECT_FALSE(panel_->SaveSkin());
     EXPECT_EQ(objSkin->SkinName, "My;Skin!") << "the pictures are still found there";
-}
-
-TEST_F(PanelTest, AnOpenLabelIsTakenBeforeASave) {
-    OpenBlue();
-    Press(Qt::Key_F2);
-    ASSERT_NE(Label(), nullptr);
-    Label()->setText("Everyday");
-    EXPECT_TRUE(panel_->SaveSkin());
-    EXPECT_EQ(Stored("Blue").dbLayouts->Item("Standard")->LayoutName, "Everyday");
 }
 
 TEST_F(PanelTest, CloningTwice) {
@@ -59,28 +56,22 @@ TEST_F(PanelTest, ACloneThatCannotBeSavedChangesNothing) {
     objSkin->Dirty = true;
     const dbLayoutRef before = objCurrentLayout;
     prompts_.inputs = {"Other"};
-    {
-        const FullDisk full;
-        Click(panel_->btn_CloneLayout);
-    }
+    const FullDisk full;
+    Click(panel_->btn_CloneLayout);
     EXPECT_EQ(objSkin->dbLayouts->Count(), 2);
     EXPECT_TRUE(objCurrentLayout == before && objSkin->Dirty);
     EXPECT_NE(prompts_.asked.back().find("No space left on device"), std::string::npos);
     ExpectShown("Standard");
 }
 
-TEST_F(PanelTest, FreeNames) {
+TEST(LayoutCopy, FreeNames) {
     dbSkin skin;
     for (const char* name : {"Party", "Party (cloned2)", "Odd (cloned)"}) skin.AddNewLayout(name);
-    const struct {
-        const char *given, *free;
-    } rows[] = {{"Ball", "Ball"},
-                {"Party", "Party (cloned3)"},
-                {"Party (cloned2)", "Party (cloned3)"},
-                {"Party (cloned7) x", "Party (cloned3)"},
-                {"Ball (cloned)", "Ball (cloned2)"},
-                {"Odd (cloned)", "Odd (cloned2)"}};
-    for (const auto& row : rows) EXPECT_EQ(GetFreeClonedText(skin, row.given), row.free) << row.given;
+    for (const auto& [given, free] : {std::pair{"Ball", "Ball"},
+                                      {"Party", "Party (cloned3)"},
+                                      {"Party (cloned7) x", "Party (cloned3)"},
+                                      {"Odd (cloned)", "Odd (cloned2)"}})
+        EXPECT_EQ(GetFreeClonedText(skin, given), free) << given;
 }
 
 TEST_F(PanelTest, InsertingIntoAnotherSkin) {

@@ -23,6 +23,7 @@ namespace ornavo::testing {
 
 namespace fs = std::filesystem;
 using Unload = frm_SkinProject::Unload;
+using Texts = std::vector<std::string>;
 
 class PanelTest : public ::testing::Test {
 protected:
@@ -33,11 +34,8 @@ protected:
         panel_ = std::make_unique<frm_SkinProject>(nullptr, windows_, canvas_,
                                                    SkinFiles(Root().string(), (Root() / "data").string()));
         panel_->show();
-        Activate(*panel_);
-    }
-    static void Activate(QWidget& window) {
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        panel_->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(panel_.get()));
     }
 
     fs::path Root() const { return fs::canonical(folder_.path().toStdString()); }
