@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/dragging.h"
 
-#include <QMenu>
-
 #include "canvas/anchors.h"
 #include "canvas/read_out.h"
 #include "document/codes.h"
@@ -109,30 +107,6 @@ TEST_F(DraggingTest, HandlesStandAroundTheSelectionAndWinThePress) {
     Release(308, 140);
     EXPECT_FALSE(anchors().Anchor[0]->isVisible()) << "the selection was lost";
     EXPECT_EQ(e.WidthX, 105);
-}
-
-TEST_F(DraggingTest, TheMenuOffersWhatTheFamilyAllows) {
-    AddAll();
-    for (const auto& [key, all] : {std::pair{"Main", false},
-                                   {"Button1", true},
-                                   {"Info1", true},
-                                   {"SearchBox", false},
-                                   {"Scrollframe", false}}) {
-        std::map<int, bool> enabled;
-        QTimer::singleShot(0, form_.get(), [&] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            ASSERT_NE(menu, nullptr);
-            for (const QAction* item : menu->actions())
-                if (!item->isSeparator()) enabled[item->data().toInt()] = item->isEnabled();
-            menu->close();
-        });
-        const Rect at = Fields(Element(key));
-        Click(at.left + 5, at.top + 5, Qt::RightButton);
-        EXPECT_EQ(enabled,
-                  (std::map<int, bool>{{5, all}, {11, all}, {21, true}, {22, true}, {31, all}, {32, all}}))
-            << key;
-        EXPECT_EQ(SelKey(), key);
-    }
 }
 
 TEST_F(DraggingTest, AnotherButtonIsASlipOfTheHandAndACompositionEndsTheDrag) {

@@ -119,10 +119,7 @@ TEST_F(ComposeTest, VisibleIsObeyedButByThePanelAndTheSwitchOnTheCanvas) {
 }
 
 TEST_F(ComposeTest, WhatTheCompositionWritesToTheModel) {
-    QImage keyed(2, 2, QImage::Format_RGB32);
-    keyed.fill(Qt::green);
-    keyed.setPixelColor(0, 0, QColor(1, 2, 3));
-    ASSERT_TRUE(keyed.save(Path("keyed.bmp")));
+    Picture("keyed.bmp", QColor(1, 2, 3));
     dbLayoutElement& topLeft = Add("top left", TypePicture, {0, 0, 10, 10});
     topLeft.PicNormal = "keyed.bmp";
     topLeft.UseTransparency = topLeft.UseTopLeftTransparency = true;

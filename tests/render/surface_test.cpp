@@ -109,7 +109,17 @@ TEST_F(SurfaceTest, CornersFarAwayCostNothingAndChangeNothingInTheWindow) {
     const std::pair<std::vector<Point>, QRegion> rows[] = {
         {{{-most, 40}, {most, 40}, {most, -most}, {-most, -most}}, QRegion(0, 0, 100, 40)},
         {{{0, 0}, {most, 0}, {0, most}}, QRegion(0, 0, 100, 80)},
-        {{{40, -most}, {40, most}, {-most, most}, {-most, -most}}, QRegion(0, 0, 40, 80)},
+        {{{-most, -most},
+          {most, -most},
+          {most, most},
+          {-most, most},
+          {-most, -most},
+          {20, 20},
+          {70, 20},
+          {70, 60},
+          {20, 60},
+          {20, 20}},
+         QRegion(0, 0, 100, 80).subtracted(QRegion(20, 20, 50, 40))},  // a hole, wound as its frame is
         {{{10, -300}, {30, -300}, {30, 300}, {10, 300}}, QRegion(10, 0, 20, 80)}};
     for (const auto& [corners, seen] : rows) {
         objCurrentLayout->dbPoints = std::make_shared<dbPoints>();
