@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+#include "editor/selection.h"
+#include "editor/skin_drop.h"
+#include "platform/control.h"
+#include "support/recorded_windows.h"
+#include "support/scripted_prompts.h"
+#include "support/temporary_folder.h"
+
+namespace ornavo::testing {
+namespace {
+
+TEST(Selection, IsAControlAndAKey) {
+    std::string told;
+    Selection selection(
+        [&](Control& corner, bool isSelected) { told += (isSelected ? "+" : "-") + corner.Tag; });
+    Control element(nullptr, "btn_Element"), sample(nullptr, "but_Song");
+    Control corner(nullptr, "cPointMover"), other(nullptr, "cPointMover");
+    element.Tag = "Button1", sample.Tag = "no key", corner.Tag = "K1", other.Tag = "K2";
+    const struct {
+        std::function<void()> step;
+        Control* control;
+        const char *key, *told;  // of the corners: which one shows that it is selected, or no longer
+    } rows[] = {{[&] { selection.Select(element); }, &element, "Button1", ""},
+                {[&] { selection.Select(corner); }, &corner, "K1", "+K1"},
+                {[&] { selection.Select(other); }, &other, "K2", "-K1+K2"},
+                {[&] { selection.Follow(other); }, &other, "K2", ""},
+                {[&] { selection.Follow(corner); }, &corner, "K2", "-K2"},
+                {[&] { selection.ForgetControl(); }, nullptr, "K2", "-K1"},
+                {[&] { selection.Follow(element); }, &element, "K2", ""},
+                {[&] { selection.SelectSample(sample); }, &sample, "", ""},
+                {[&] { selection.Select(other); }, &other, "K2", "+K2"},
+                {[&] { selection.Clear(); }, nullptr, "", "-K2"}};
+    for (const auto& row : rows) {
+        told.clear();
+        row.step();
+        EXPECT_EQ(selection.SelControl(), row.control) << &row - rows;
+        EXPECT_EQ(selection.SelKey() + " " + told, std::string(row.key) + " " + row.told) << &row - rows;
+        EXPECT_EQ(selection.IsCorner(), row.control == &corner || row.control == &other) << &row - rows;
+    }
+    {
+        const Raised open = selection.KeepPropertiesOpen();
+        EXPECT_TRUE(selection.KeepsPropertiesOpen());
+    }
+    EXPECT_FALSE(selection.KeepsPropertiesOpen());
+}
+
+TEST(SkinDrop, TakesOneSkinAlone) {
+    const TemporaryFolder folder;
+    for (const char* file : {"Blue/skinSettings.XML", "Blue/a.png", "plain/a.txt"}) folder.Write(file, "");
+    ScriptedPrompts prompts;
+    RecordedWindows windows;
+    QWidget window;
+    new SkinDrop(window, windows);
+    EXPECT_TRUE(window.acceptDrops());
+    const std::pair<std::vector<const char*>, bool> rows[] = {
+        {{"Blue"}, true},   {{"Blue/skinSettings.XML"}, true}, {{"Blue/a.png"}, false},
+        {{"plain"}, false}, {{"SkinSettings.xml"}, false},     {{"Blue", "plain"}, false},
+        {{}, false}};
+    for (const auto& [names, isTaken] : rows) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const char* name : names) urls += QUrl::fromLocalFile(QString::fromStdString(folder / name));
+        data.setUrls(urls);
+        const std::string path = isTaken ? (folder / names[0]).string() : "";
+        windows.opened.clear();
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(&window, &enter);
+        EXPECT_EQ(enter.isAccepted(), isTaken) << path;
+        EXPECT_EQ(windows.opened, "");
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        windows.failure = "torn";
+        QCoreApplication::sendEvent(&window, &drop);
+        EXPECT_EQ(windows.opened, path);
+    }
+    EXPECT_EQ(prompts.asked, std::vector<std::string>(2, "Loading Skin Error: torn"));
+}
+
+}  // namespace
+}  // namespace ornavo::testing
