@@ -215,17 +215,5 @@ TEST_F(PanelTest, TheLonePanelCanStillSave) {
     EXPECT_TRUE(panel_->close());
 }
 
-TEST_F(PanelTest, ADroppedFolderIsOpened) {
-    MakeSkin("Blue", {"Standard"});
-    const std::string blue = Settings("Blue").parent_path();
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(blue))});
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(panel_.get(), &enter);
-    QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(panel_.get(), &event);
-    EXPECT_EQ(windows_.opened, blue);
-}
-
 }  // namespace
 }  // namespace ornavo::testing

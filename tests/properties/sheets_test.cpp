@@ -17,10 +17,10 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-Texts Captions(const Sheet& sheet, bool headings) {
+Texts Headings(const Sheet& sheet) {
     Texts texts;
     for (const SheetRow& row : sheet)
-        if ((row.kind == KindHeading) == headings) texts.push_back(row.caption);
+        if (row.kind == KindHeading) texts.push_back(row.caption);
     return texts;
 }
 
@@ -73,39 +73,25 @@ TEST(ElementRows, ComeAndGoWithActionTypeAndInfoType) {
 
 TEST(SampleRows, NobodyIsForgotten) {
     const dbSkin skin;
-    std::map<std::string, std::size_t> rows;
+    std::string rows;
     std::set<std::string> keys;
     for (const SampleFamily& family : SampleFamilies()) {
         const std::string control(family.control);
         const Sheet sheet = SampleSheet(*skin.dbSkinPrefs, control, {7, 8, 44, 40});
-        rows[control] = sheet.size();
+        rows += control + " " + std::to_string(sheet.size()) + " ";
         for (const SheetRow& row : sheet) keys.emplace(GetClass(row.key));
         EXPECT_EQ(sheet.front().kind, KindHeading) << control;
         const bool told = sheet.front().caption == std::string(family.heading) + " - 44 x 40 Pixel";
         EXPECT_EQ(told, family.headingSize == HeadingSize::Told) << control;
     }
-    EXPECT_EQ(rows, (std::map<std::string, std::size_t>{{"btn_SkinProperties", 25},
-                                                        {"cmd_Button", 1},
-                                                        {"cmd_Button2", 1},
-                                                        {"but_AddAll", 21},
-                                                        {"but_Info", 24},
-                                                        {"but_Song", 44},
-                                                        {"but_Song2", 31},
-                                                        {"KeyN", 14},
-                                                        {"KeyE", 14},
-                                                        {"KeyS", 14},
-                                                        {"KeyU", 16},
-                                                        {"KeyB", 16},
-                                                        {"lbl_SL", 24},
-                                                        {"but_Picture", 22},
-                                                        {"lbl_Kiosk", 5}}));
+    EXPECT_EQ(rows,
+              "but_Song 44 but_Song2 31 but_AddAll 21 but_Info 24 KeyN 14 KeyB 16 KeyE 14 KeyU 16 KeyS 14 "
+              "lbl_SL 24 lbl_Kiosk 5 but_Picture 22 btn_SkinProperties 25 cmd_Button 1 cmd_Button2 1 ");
     for (const dbSkinPrefRef& pref : *skin.dbSkinPrefs)
         EXPECT_TRUE(pref->PrefType == KindHeading || keys.contains(pref->Key)) << pref->Key;
-    EXPECT_EQ(Captions(SampleSheet(*skin.dbSkinPrefs, "but_Song", {}), true),
+    EXPECT_EQ(Headings(SampleSheet(*skin.dbSkinPrefs, "but_Song", {})),
               (Texts{"Main Button (Song & Artist)", "Song", "Artist", "Pictures", "Misc", "Icons"}));
     EXPECT_TRUE(SampleSheet(*skin.dbSkinPrefs, "ScrollBar", {}).empty());
-    const Sheet key = SampleSheet(*skin.dbSkinPrefs, "KeyE", {});
-    EXPECT_TRUE(Has(key, "KB_Font.Font") && Has(key, "KBE_Picture.Value") && !Has(key, "KBN_Picture.Value"));
 }
 
 TEST(SampleRows, OpenTheirHeadingsOnce) {
@@ -116,7 +102,7 @@ TEST(SampleRows, OpenTheirHeadingsOnce) {
     prefs.Add("XX_D", "Normal", Value(), KindFont);
     Sheet sheet;
     AddSkinProp(sheet, prefs, "XX", "");
-    EXPECT_EQ(Captions(sheet, true), (Texts{"Pictures", "Misc"}));
+    EXPECT_EQ(Headings(sheet), (Texts{"Pictures", "Misc"}));
     EXPECT_EQ(sheet.size(), 5u);
 }
 
@@ -142,9 +128,6 @@ TEST_F(SheetTest, ControlsAreReusedAndComeBackAsNew) {
         const bool painted = box.Tag.find("Color") != std::string::npos;
         EXPECT_EQ(box.BackColor() != WindowBackground, painted) << box.Tag;
     }
-    int headings = 0;
-    for (int i = 1; i <= pools().lbl_Prop.Top(); ++i) headings += pools().lbl_Prop[i].Tag == "Label";
-    EXPECT_EQ(headings, 3);
     form_->selection().Clear();
     panel_->ShowProperties();
     EXPECT_TRUE(Box("KBN_Picture.Value")) << "nothing selected keeps the old rows";

@@ -5,9 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QDropEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QTemporaryDir>
 #include <QTest>
 
