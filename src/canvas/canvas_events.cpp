@@ -102,7 +102,7 @@ bool CanvasEvents::Form_MouseDown(int x, int y) {
         return false;
     }
     bool inserted = false;
-    Attempt([&] { inserted = AddShapePoint(parts_, side, x, y, false); });
+    Attempt([&] { inserted = AddShapePoint(parts_, side, x, y, Origin::Canvas); });
     parts_.showGrid();
     return inserted;
 }

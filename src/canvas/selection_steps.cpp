@@ -26,7 +26,7 @@ void StepSelection(CanvasParts& parts, int step) {
     const std::vector<Control*> shown = ShownElements(parts.host);
     if (shown.empty()) return;
     const auto count = std::ssize(shown);
-    const auto found = std::find(shown.begin(), shown.end(), parts.selection.SelControl()) - shown.begin();
+    const auto found = std::ranges::find(shown, parts.selection.SelControl()) - shown.begin();
     const auto from = found < count ? found : (step > 0 ? count - 1 : 0);
     parts.windows.properties().DrawPendingEdits();  // of the element that is left
     {

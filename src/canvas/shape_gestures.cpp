@@ -16,8 +16,8 @@ namespace {
 bool SideIsAt(const dbPoints& points, int index, Point at) {
     const dbPoint& from = *points.Item(index);
     const dbPoint& to = *points.Item(index % points.Count() + 1);
-    return IsNearSide(at, GetPointPosition(from, TargetFrame, false),
-                      GetPointPosition(to, TargetFrame, false));
+    return IsNearSide(at, GetPointPosition(from, TargetFrame, CornerOf::Shape),
+                      GetPointPosition(to, TargetFrame, CornerOf::Shape));
 }
 
 /// A corner at that place, aligned to an edge nearby or as its neighbour. Failures of SetPointPosition.
@@ -80,10 +80,10 @@ int LineUnderPointer(int x, int y) {
     return 0;
 }
 
-bool AddShapePoint(CanvasParts& parts, int index, int x, int y, bool relativeToLine) {
+bool AddShapePoint(CanvasParts& parts, int index, int x, int y, Origin origin) {
     if (!TargetLayout || !objCurrentLayout || index < 1 || index > objCurrentLayout->dbPoints->Count())
         return false;
-    if (relativeToLine) {
+    if (origin == Origin::Side) {
         const dbLine* side = parts.points.FindSide(index);
         if (!side) return false;
         x += std::min(side->X1(), side->X2());
@@ -115,7 +115,7 @@ void MovePoint(CanvasParts& parts, int order, int x, int y) {
 }
 
 void cPoint_MouseDown(CanvasParts& parts, Control& line, const Mouse& mouse) {
-    AddShapePoint(parts, OrderOfTag("K" + line.Tag), mouse.x, mouse.y, true);
+    AddShapePoint(parts, OrderOfTag("K" + line.Tag), mouse.x, mouse.y, Origin::Side);
 }
 
 void cPointMover_MouseDown(CanvasParts& parts, Control& corner, const Mouse& mouse) {

@@ -52,7 +52,9 @@ std::vector<Corner> CornersByOrder(const dbLayout& layout, const Frame& frame) {
     std::vector<Corner> corners;
     for (const dbPointRef& point : byOrder)
         if (point)
-            Attempt([&] { corners.push_back({point->Order, GetPointPosition(*point, frame, false)}); });
+            Attempt([&] {
+                corners.push_back({point->Order, GetPointPosition(*point, frame, CornerOf::Shape)});
+            });
     return corners;
 }
 

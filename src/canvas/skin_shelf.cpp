@@ -38,7 +38,7 @@ void SkinShelf::Look(const fs::path& folder) {
     if (!FileExists(settings)) return;
     std::error_code ignored;
     const fs::file_time_type saved = fs::last_write_time(OnDisk(settings), ignored);
-    const auto place = std::find_if(newest_.begin(), newest_.end(), [&](const Skin& skin) {
+    const auto place = std::ranges::find_if(newest_, [&](const Skin& skin) {
         return skin.saved < saved || (skin.saved == saved && skin.folder > folder);
     });
     newest_.insert(place, {folder, saved});

@@ -95,7 +95,7 @@ int Place(const Arguments& arguments) {
     std::multimap<int, dbPointRef> byOrder;
     for (const dbPointRef& point : *layout->dbPoints) byOrder.emplace(point->Order, point);
     for (const auto& [order, point] : byOrder) {
-        const Point at = GetPointPosition(*point, frame, false);
+        const Point at = GetPointPosition(*point, frame, CornerOf::Shape);
         json.BeginObject();
         json.Write("Order", order);
         json.Write("x", at.x);

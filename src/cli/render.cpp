@@ -69,7 +69,7 @@ QImage Cut(const QImage& picture, const dbLayout& layout, bool soft) {
     QPainter painter(&cut);
     if (soft) {
         QPainterPath path;
-        path.addPolygon(ShapePolygon(layout, TargetFrame, true));
+        path.addPolygon(ShapePolygon(layout, TargetFrame, CornerOf::Region));
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(QBrush(picture));

@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "base/find_row.h"
 #include "dialogs/font_dialog.h"
 #include "platform/asker.h"
 #include "platform/control.h"
@@ -25,10 +26,10 @@ QWidget* Owner(QWidget* last) {
     if (QWidget* active = QApplication::activeWindow()) return active;
     if (last && last->isVisible()) return last;
     const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto main = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    QWidget* const* main = FindRowIf(windows, [](const QWidget* window) {
         return window->isVisible() && window->windowType() == Qt::Window;
     });
-    return main == windows.end() ? nullptr : *main;
+    return main ? *main : nullptr;
 }
 
 QMessageBox::Icon BoxIcon(Icon icon) {

@@ -18,6 +18,10 @@ enum ElementTypeCode : std::int32_t {
     TypeSearchBox,
     TypeScrollbar
 };
+/// Whether every layout has one element of this type, which is never added, cloned or deleted.
+constexpr bool IsStandardType(std::int32_t type) {
+    return type == TypeMain || type == TypeSearchBox || type == TypeScrollbar;
+}
 enum ActionTypeCode : std::int32_t {
     ActionForward = 6,
     ActionBackwards = 7,
@@ -29,10 +33,27 @@ enum ActionTypeCode : std::int32_t {
     ActionMinimise = 15
 };
 enum InfoTypeCode : std::int32_t {
-    InfoUserLabel = 0,
-    InfoVolume = 5,
-    InfoSystemTime = 17,
-    InfoSongProperty = 20
+    InfoUserLabel,
+    InfoArtistAndSongTitle,
+    InfoSongTitle,
+    InfoArtistName,
+    InfoAlbumName,
+    InfoVolume,
+    InfoAlbumPicture,
+    InfoArtistPicture,
+    InfoElapsedTime,
+    InfoRemainingTime,
+    InfoSongDuration,
+    InfoSongInfo,
+    InfoRepeatStatus,
+    InfoShuffleStatus,
+    InfoStatus,
+    InfoCredits,
+    InfoSearchTotal,
+    InfoSystemTime,
+    InfoPlaylistName,
+    InfoPlaylistDuration,
+    InfoSongProperty
 };
 enum AlignCode : std::int32_t { AlignStart, AlignMiddle, AlignEnd, AlignStretch };  // of HAlign and VAlign
 enum PropertyKindCode : std::int32_t {

@@ -8,6 +8,7 @@
 #include "base/failure.h"
 #include "base/file_layer.h"
 #include "base/files.h"
+#include "base/find_row.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "document/current_skin.h"
@@ -255,7 +256,7 @@ std::string CarryOut(const PictureStep& step, std::vector<std::string>& failures
     if (step.isCopied) reason = ReasonAgainst(step);
     const bool isThere = !step.isMade || FileExists(ToText(step.target));
     if (reason.empty()) return isThere ? step.stored : step.given;
-    if (std::find(failures.begin(), failures.end(), reason) == failures.end()) failures.push_back(reason);
+    if (!Contains(failures, reason)) failures.push_back(reason);
     // A bare name that was found in the skin's former folder would not be found any more.
     const bool leads = ContainsSeparator(step.given) && OnDisk(step.given) == step.source;
     return leads || step.isRefused ? step.given : ToText(step.source);

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "base/failure.h"
+#include "base/find_row.h"
 #include "platform/control.h"
 
 namespace ornavo {
@@ -25,15 +26,14 @@ Magnify::Magnify(QWidget* parent, PixelSource& desktop, PixelSource& own)
 }
 
 void Magnify::SetZoom(int zoom) {
-    if (std::find(std::begin(Zooms), std::end(Zooms), zoom) == std::end(Zooms))
-        throw Failure(Failure::InvalidValue, "Magnify");
+    if (!Contains(Zooms, zoom)) throw Failure(Failure::InvalidValue, "Magnify");
     zoom_ = zoom;
     emit StateChanged();
 }
 
 void Magnify::StepZoom(int by) {
     const int last = static_cast<int>(std::size(Zooms)) - 1;
-    const auto now = std::find(std::begin(Zooms), std::end(Zooms), zoom_) - std::begin(Zooms);
+    const auto now = std::ranges::find(Zooms, zoom_) - std::begin(Zooms);
     SetZoom(Zooms[std::clamp(static_cast<int>(now) + by, 0, last)]);
 }
 

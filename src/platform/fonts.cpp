@@ -8,6 +8,7 @@
 #include <map>
 #include <tuple>
 
+#include "base/find_row.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "platform/shown.h"
@@ -53,9 +54,7 @@ constexpr std::array StandIns = {
 };
 
 const StandIn* StandInOf(std::string_view name) {
-    const auto found = std::find_if(StandIns.begin(), StandIns.end(),
-                                    [&](const StandIn& one) { return EqualText(one.asked, name); });
-    return found == StandIns.end() ? nullptr : &*found;
+    return FindRowIf(StandIns, [&](const StandIn& one) { return EqualText(one.asked, name); });
 }
 
 /// The default face if the name is blank or a number.

@@ -94,7 +94,7 @@ void DropUntil(std::int64_t most) {
 
 void Keep(const PictureRef& picture) {
     Shelf& all = shelf();
-    const auto there = std::find(all.kept.begin(), all.kept.end(), picture);
+    const auto there = std::ranges::find(all.kept, picture);
     if (there != all.kept.end()) {
         all.kept.splice(all.kept.begin(), all.kept, there);
         return;

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "base/find_row.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -65,10 +66,9 @@ QString StoredKey(std::string_view section, std::string_view key) {
     const QString asked = Level(section) + '/' + Level(key);
     if (Store().contains(asked)) return asked;
     const QStringList keys = Store().allKeys();
-    const auto found = std::find_if(keys.begin(), keys.end(), [&](const QString& there) {
-        return there.compare(asked, Qt::CaseInsensitive) == 0;
-    });
-    return found == keys.end() ? asked : *found;
+    const QString* found =
+        FindRowIf(keys, [&](const QString& there) { return there.compare(asked, Qt::CaseInsensitive) == 0; });
+    return found ? *found : asked;
 }
 
 }  // namespace

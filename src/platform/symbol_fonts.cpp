@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/find_row.h"
 #include "base/text.h"
 
 namespace ornavo {
@@ -79,9 +80,9 @@ constexpr std::array SymbolFonts = {
 };
 
 const Codes* CodesOf(std::string_view name) {
-    const auto found = std::find_if(SymbolFonts.begin(), SymbolFonts.end(),
-                                    [name](const SymbolFont& font) { return EqualText(font.name, name); });
-    return found == SymbolFonts.end() ? nullptr : found->codes;
+    const SymbolFont* found =
+        FindRowIf(SymbolFonts, [name](const SymbolFont& font) { return EqualText(font.name, name); });
+    return found ? found->codes : nullptr;
 }
 
 char32_t SymbolIn(const Codes& codes, int code) {

@@ -14,23 +14,23 @@ namespace ornavo {
 namespace {
 
 struct Sample {
-    std::int32_t infoType;
+    InfoTypeCode infoType;
     const char* text;
 };
 constexpr Sample Samples[] = {
-    {2, "The Lantern Over The Reef"},
-    {1, "Quillmar - The Lantern Over The Reef"},
-    {3, "Quillmar"},
-    {4, "The Tide Comes Over You!"},
-    {14, "Playing"},
-    {8, "00:10"},
-    {10, "03:45"},
-    {9, "01:00"},
-    {11, "128 Kbps / 44KHz / Stereo"},
-    {12, "On"},
-    {13, "Off"},
-    {15, "7"},
-    {16, "123"},
+    {InfoSongTitle, "The Lantern Over The Reef"},
+    {InfoArtistAndSongTitle, "Quillmar - The Lantern Over The Reef"},
+    {InfoArtistName, "Quillmar"},
+    {InfoAlbumName, "The Tide Comes Over You!"},
+    {InfoStatus, "Playing"},
+    {InfoElapsedTime, "00:10"},
+    {InfoSongDuration, "03:45"},
+    {InfoRemainingTime, "01:00"},
+    {InfoSongInfo, "128 Kbps / 44KHz / Stereo"},
+    {InfoRepeatStatus, "On"},
+    {InfoShuffleStatus, "Off"},
+    {InfoCredits, "7"},
+    {InfoSearchTotal, "123"},
 };
 
 void DrawPart(PictureBox& box, const PictureRef& picture, int width, int height) {

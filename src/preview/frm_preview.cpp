@@ -82,7 +82,7 @@ void frm_Preview::ShowTip() {
 
 void frm_Preview::Rebuild() {
     composed_ = size();
-    RenderElements(true);
+    RenderElements(View::Preview);
     if (!Attempt([] { ShapeForm(); })) SetShape({});  // the veil of a resize would stay
     infos_.Begin(host_, *mouse_.Layout);
 }

@@ -29,7 +29,8 @@ void frm_Resizer::Stand(const QRect& place, const dbLayout& layout, Frame frame)
     setGeometry(place);
     const QRegion region = ShapeRegion(layout, frame);
     CutWindow(*this, region);
-    shape_ = region.isEmpty() ? QPolygon(QRect({}, place.size())) : ShapePolygon(layout, frame, true);
+    shape_ =
+        region.isEmpty() ? QPolygon(QRect({}, place.size())) : ShapePolygon(layout, frame, CornerOf::Region);
     show();
     raise();
     update();

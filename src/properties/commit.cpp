@@ -6,6 +6,7 @@
 #include <array>
 
 #include "base/failure.h"
+#include "base/find_row.h"
 #include "base/text.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
@@ -13,7 +14,7 @@
 #include "properties/live_update.h"
 #include "properties/panel_parts.h"
 #include "properties/rows.h"
-#include "render/element_roads.h"
+#include "render/element_controls.h"
 #include "render/layout_host.h"
 #include "render/redraw.h"
 #include "render/sample_families.h"
@@ -21,11 +22,6 @@
 
 namespace ornavo {
 namespace {
-
-template <std::size_t N>
-bool IsOneOf(std::string_view key, const std::array<std::string_view, N>& keys) {
-    return std::find(keys.begin(), keys.end(), key) != keys.end();
-}
 
 // What nothing on the canvas shows.
 constexpr std::array<std::string_view, 4> UndrawnTexts = {"ElementName", "dbScript", "Value",
@@ -35,7 +31,6 @@ constexpr std::array<std::string_view, 2> UndrawnTicks = {"Resizer", "Dragger"};
 constexpr std::array<std::string_view, 2> RebuildingTicks = {"UseTopLeftTransparency",
                                                              "CB_UseTopLeftTransparency"};
 constexpr std::array<std::string_view, 3> RebuildingLists = {"ActionType", "ElementType", "InfoType"};
-constexpr std::array<std::int32_t, 3> FixedTypes = {TypeMain, TypeSearchBox, TypeScrollbar};
 
 constexpr std::string_view KeyColourSuffix = "_TransparentColor";
 
@@ -80,15 +75,11 @@ dbLayoutElementRef BoundElement(const PanelParts& parts) {
     return element ? *element : nullptr;
 }
 
-bool IsFixed(std::int32_t type) {
-    return std::find(FixedTypes.begin(), FixedTypes.end(), type) != FixedTypes.end();
-}
-
 /// False: such a change can't be, and the list is back where it was.
 bool MayChangeType(PanelParts& parts, RowCombo& combo) {
     const dbLayoutElementRef element = BoundElement(parts);
     if (!element) return false;
-    if (!IsFixed(combo.ListIndex()) && !IsFixed(element->ElementType)) return true;
+    if (!IsStandardType(combo.ListIndex()) && !IsStandardType(element->ElementType)) return true;
     const Raised building(parts.IsBuilding);
     combo.SetListIndex(element->ElementType);
     return false;
@@ -130,7 +121,7 @@ void RowEdits::tbx_Prop_Change(RowText& box) {
     Write(parts_, key, box.Text());
     TakeKeyColour(key);
     if (key == "ElementName") TellName(parts_);
-    if (!IsOneOf(key, UndrawnTexts)) parts_.tmrUpdate.start();
+    if (!Contains(UndrawnTexts, key)) parts_.tmrUpdate.start();
 }
 
 void RowEdits::tbx_Prop_KeyPress(RowText& box) {
@@ -152,9 +143,9 @@ void RowEdits::chk_Boolean_Click(RowCheck& box) {
     if (parts_.IsBuilding) return;
     const std::string key = box.Tag;
     Write(parts_, key, box.Value());
-    if (!IsOneOf(key, UndrawnTicks)) parts_.tmrUpdate.start();
+    if (!Contains(UndrawnTicks, key)) parts_.tmrUpdate.start();
     const std::string_view preference = GetClass(key);
-    if (IsOneOf(preference.empty() ? std::string_view(key) : preference, RebuildingTicks))
+    if (Contains(RebuildingTicks, preference.empty() ? std::string_view(key) : preference))
         parts_.panel.ShowProperties();
 }
 
@@ -169,7 +160,7 @@ void RowEdits::cboProp_Click(RowCombo& combo) {
     Write(parts_, key, combo.ListIndex());
     parts_.tmrUpdate.start();
     if (key == "ElementType") UpdateCurrentLayout(parts_);
-    if (IsOneOf(key, RebuildingLists)) parts_.panel.ShowProperties();
+    if (Contains(RebuildingLists, key)) parts_.panel.ShowProperties();
 }
 
 void RowEdits::btn_Prop_Click(RowButton& button) {

@@ -20,10 +20,9 @@ RowSheet::~RowSheet() {
 }
 
 const RowValue* RowSheet::Focused() const {
-    const auto found = std::find_if(values_.begin(), values_.end(), [](const RowValue& value) {
+    return FindRowIf(values_, [](const RowValue& value) {
         return value.control->window()->focusWidget() == value.control;
     });
-    return found == values_.end() ? nullptr : &*found;
 }
 
 void RowSheet::Focus(std::string_view key) {

@@ -7,8 +7,8 @@
 #include "platform/screen.h"
 #include "render/compose_report.h"
 #include "render/element_button.h"
+#include "render/element_controls.h"
 #include "render/element_info.h"
-#include "render/element_roads.h"
 #include "render/kiosk_panel.h"
 #include "render/layout_host.h"
 #include "render/shape.h"
@@ -33,23 +33,23 @@ int ClaimSlot(Pool<T>& pool, int slot, dbLayoutElement& element) {
     return -1;
 }
 
-void ComposeButton(dbLayoutElement& element, LayoutHost& host, bool preview) {
+void ComposeButton(dbLayoutElement& element, LayoutHost& host, View view) {
     const int slot = ClaimSlot(host.Element, host.GetFreeElement(), element);
     if (slot < 0) return;
     TileButton& button = host.Element[slot];
     button.Reset();
-    SetupElementButton(button, element, preview);
+    SetupElementButton(button, element, view);
     Present(button, element.Visible);
 }
 
-void ComposeInfo(dbLayoutElement& element, LayoutHost& host, bool preview) {
+void ComposeInfo(dbLayoutElement& element, LayoutHost& host, View view) {
     const int slot = ClaimSlot(host.pInfo, host.GetFreeInfo(), element);
     if (slot < 0) return;
-    SetupInfoElement(host.pInfo[slot], element, preview);
+    SetupInfoElement(host.pInfo[slot], element, view);
     Present(host.pInfo[slot], element.Visible);
 }
 
-void ComposeMain(dbLayoutElement& element, LayoutHost& host, bool) {
+void ComposeMain(dbLayoutElement& element, LayoutHost& host, View) {
     if (!ClaimSingle(host.pMain, element)) return;
     SetupMainPanel(host, element);
     SetupKioskPanel();
@@ -57,23 +57,23 @@ void ComposeMain(dbLayoutElement& element, LayoutHost& host, bool) {
     Present(host.pMain, true);
 }
 
-void ComposeSearchBox(dbLayoutElement& element, LayoutHost& host, bool) {
+void ComposeSearchBox(dbLayoutElement& element, LayoutHost& host, View) {
     ShowSearchBox(element, host);
 }
 
-void ComposeScrollframe(dbLayoutElement& element, LayoutHost& host, bool) {
+void ComposeScrollframe(dbLayoutElement& element, LayoutHost& host, View) {
     ShowScrollframe(element, host);
 }
 
-using ComposeStep = void (*)(dbLayoutElement&, LayoutHost&, bool preview);
+using ComposeStep = void (*)(dbLayoutElement&, LayoutHost&, View view);
 constexpr std::array<ComposeStep, 7> Composings = {ComposeMain,       ComposeButton, ComposeButton,
                                                    ComposeButton,     ComposeInfo,   ComposeSearchBox,
                                                    ComposeScrollframe};
 
-void ComposeElement(dbLayoutElement& element, bool preview) {
+void ComposeElement(dbLayoutElement& element, View view) {
     const auto type =
         static_cast<std::size_t>(element.ElementType);  // a negative type is beyond the table too
-    if (type < Composings.size()) Composings[type](element, TargetForm->host(), preview);
+    if (type < Composings.size()) Composings[type](element, TargetForm->host(), view);
 }
 
 void SetTarget(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {
@@ -86,7 +86,7 @@ void SetTarget(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int s
 
 }  // namespace
 
-void RenderElements(bool preview) {
+void RenderElements(View view) {
     if (ComposeBusy) return;
     ComposeReport report;
     {
@@ -94,23 +94,23 @@ void RenderElements(bool preview) {
         const WaitPointer wait;
         MeasureTarget();
         TargetForm->host().ClearElements();
-        if (TargetLayout && (preview || viewSwitches.ShowElements))
+        if (TargetLayout && (view == View::Preview || viewSwitches.ShowElements))
             for (const dbLayoutElementRef& element : *TargetLayout->dbLayoutElements)
-                report.Try([&] { ComposeElement(*element, preview); });
+                report.Try([&] { ComposeElement(*element, view); });
     }
     report.Show(TargetLayout);
 }
 
 void ComposeLayout(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {
     SetTarget(form, std::move(layout), skinWidth, skinHeight);
-    RenderElements(false);
+    RenderElements(View::Canvas);
     form.ShowShapePoints();
     form.ShowGrid();
 }
 
 void ComposePreview(CompositionTarget& form, dbLayoutRef layout, int skinWidth, int skinHeight) {
     SetTarget(form, std::move(layout), skinWidth, skinHeight);
-    RenderElements(true);
+    RenderElements(View::Preview);
     Attempt([] { ShapeForm(); });
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "render/target.h"
+#include "render/view.h"
 
 namespace ornavo {
 
@@ -18,6 +19,6 @@ void ReleasePreview(CompositionTarget& form, dbLayoutRef layout, int skinWidth, 
 
 /// Clears the target's controls and composes each element in the order of the collection, the last one in
 /// front. A nested call does nothing. All failures are shown in one box at the end.
-void RenderElements(bool preview);
+void RenderElements(View view);
 
 }  // namespace ornavo

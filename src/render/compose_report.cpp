@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "base/find_row.h"
 #include "platform/prompts.h"
 
 namespace ornavo {
@@ -18,8 +19,7 @@ Told told;  // of the last composition
 }  // namespace
 
 void ComposeReport::Keep(const std::string& description) {
-    if (std::find(descriptions_.begin(), descriptions_.end(), description) == descriptions_.end())
-        descriptions_.push_back(description);
+    if (!Contains(descriptions_, description)) descriptions_.push_back(description);
 }
 
 void ComposeReport::Show(const dbLayoutRef& layout) const {

@@ -7,8 +7,8 @@
 namespace ornavo {
 namespace {
 
-MousePointer PointerOf(const dbLayoutElement& element, bool preview) {
-    if (!preview) return PointerDefault;
+MousePointer PointerOf(const dbLayoutElement& element, View view) {
+    if (view == View::Canvas) return PointerDefault;
     if (element.Dragger) return PointerSizeAll;
     return element.Resizer ? PointerDiagonalDown : PointerDefault;
 }
@@ -48,15 +48,15 @@ void SetupElementRotation(TileButton& button, const dbLayoutElement& element) {
     button.State.Rotation = element.Rotation;
 }
 
-void SetupElementButton(TileButton& button, dbLayoutElement& element, bool preview) {
+void SetupElementButton(TileButton& button, dbLayoutElement& element, View view) {
     SetTilePicture(button.Picture, button.AniPicture, element.PicNormal);
     SetTilePicture(button.PictureDown, button.AniPictureDown, element.PicDown);
     SetTilePicture(button.PictureOver, button.AniPictureOver, element.PicOver);
     SetupElementCaption(button, element);
     SetupElementGround(button, element);
     SetupElementRotation(button, element);
-    button.SetMousePointer(PointerOf(element, preview));
-    button.Repeats = preview;
+    button.SetMousePointer(PointerOf(element, view));
+    button.Repeats = view == View::Preview;
     button.Refresh();
     if (element.UseTopLeftTransparency) element.TransparentColor = button.TransparentColor();
 }

@@ -4,12 +4,13 @@
 
 #include "document/dblayoutelements.h"
 #include "platform/tile_button.h"
+#include "render/view.h"
 
 namespace ornavo {
 
 /// Sets everything but the place: pictures, caption, border, transparency, rotation, pointer. With
 /// UseTopLeftTransparency the element gets the colour of the picture's top left pixel.
-void SetupElementButton(TileButton& button, dbLayoutElement& element, bool preview);
+void SetupElementButton(TileButton& button, dbLayoutElement& element, View view);
 
 /// Sets the one text layer of such a button.
 void SetupElementCaption(TileButton& button, const dbLayoutElement& element);

@@ -2,12 +2,12 @@
 #include "render/element_info.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <limits>
 #include <string_view>
 
 #include "base/failure.h"
+#include "base/find_row.h"
 #include "document/codes.h"
 #include "platform/clock.h"
 #include "render/prefs.h"
@@ -19,26 +19,19 @@ namespace {
 constexpr double NewFontSize = 10;
 constexpr int FarAway = 1 << 24;  // pixels to the left or above; nothing so far out is visible
 
-constexpr std::array<std::string_view, 19> SampleTexts = {
-    "",
-    "Artist - Song Title",
-    "Song Title",
-    "Artist Name",
-    "Album Name",
-    "",
-    "Album Picture",
-    "Artist Picture",
-    "00:10",
-    "01:00",
-    "03:45",
-    "Song Info",
-    "Repeat Status",
-    "Shuffle Status",
-    "Status",
-    "Credits",
-    "Search Total",
-    "",
-    "Playlist Name",
+struct InfoSample {
+    InfoTypeCode infoType;
+    std::string_view text;
+};
+// The texts of those that do not show their own name.
+constexpr InfoSample Samples[] = {
+    {InfoArtistAndSongTitle, "Artist - Song Title"},
+    {InfoVolume, ""},
+    {InfoElapsedTime, "00:10"},
+    {InfoRemainingTime, "01:00"},
+    {InfoSongDuration, "03:45"},
+    {InfoPlaylistDuration, ""},
+    {InfoSongProperty, ""},
 };
 
 std::int32_t Absolute(std::int32_t value) {
@@ -51,8 +44,10 @@ std::int32_t Absolute(std::int32_t value) {
 std::string InfoSampleText(const dbLayoutElement& element) {
     if (element.InfoType == InfoUserLabel) return element.InfoField;
     if (element.InfoType == InfoSystemTime) return TimeOfDay();
-    if (element.InfoType < 0 || element.InfoType >= static_cast<int>(SampleTexts.size())) return "";
-    return std::string(SampleTexts[static_cast<std::size_t>(element.InfoType)]);
+    if (const InfoSample* sample = FindRow(Samples, &InfoSample::infoType, element.InfoType))
+        return std::string(sample->text);
+    const auto type = static_cast<std::size_t>(element.InfoType);  // a negative type is beyond the names
+    return type < InfoTypeNames.size() ? std::string(InfoTypeNames[type]) : "";
 }
 
 void DrawInfoText(PictureBox& box, std::string_view text, const Point& at) {
@@ -63,7 +58,7 @@ void DrawInfoText(PictureBox& box, std::string_view text, const Point& at) {
     box.DrawText(text, {left, top, bounds.width - left, bounds.height - top});
 }
 
-void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview) {
+void SetupInfoElement(PictureBox& box, dbLayoutElement& element, View view) {
     box.SetBackColor(element.BackgroundColor);
     Attempt([&] { element.CapScrollSpeed = Absolute(element.CapScrollSpeed); });
     box.SetPicture(LoadSkinPicture(element.PicNormal));
@@ -71,7 +66,7 @@ void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview) {
     box.Font = *GetElementFont(element, NewFontSize);
     box.Cls();
     // In the preview only a user label has its text from the start; playback/info_show draws the others.
-    if (preview && element.InfoType != InfoUserLabel) return;
+    if (view == View::Preview && element.InfoType != InfoUserLabel) return;
     DrawInfoText(box, InfoSampleText(element), {0, element.CaptionY});
 }
 

@@ -6,12 +6,13 @@
 
 #include "document/dblayoutelements.h"
 #include "platform/picture_box.h"
+#include "render/view.h"
 
 namespace ornavo {
 
 /// Sets everything but the place. Changes the element: its scroll speed becomes positive, and it gets a font
 /// of 10 points if it has none.
-void SetupInfoElement(PictureBox& box, dbLayoutElement& element, bool preview);
+void SetupInfoElement(PictureBox& box, dbLayoutElement& element, View view);
 
 /// The text on the canvas for the element's InfoType; "" if there is none.
 std::string InfoSampleText(const dbLayoutElement& element);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/failure.h"
+#include "base/find_row.h"
 #include "base/text.h"
 #include "platform/shown.h"
 
@@ -42,9 +43,8 @@ PictureRef Read(const std::string& name, const char* extension) {
 
 PictureRef ImageList::Item(std::string_view key) const {
     static std::map<std::string_view, PictureRef> read;
-    const auto known =
-        std::find_if(Keys.begin(), Keys.end(), [&](std::string_view one) { return EqualText(one, key); });
-    if (known == Keys.end()) throw Failure(Failure::NotFound, "img_Kiosk", "Element not found");
+    const auto* known = FindRowIf(Keys, [&](std::string_view one) { return EqualText(one, key); });
+    if (!known) throw Failure(Failure::NotFound, "img_Kiosk", "Element not found");
     PictureRef& picture = read[*known];
     if (!picture) picture = Read(std::string(*known), ".png");
     return picture;

@@ -71,14 +71,14 @@ Axis Vertical(const dbLayoutElement& e, const Frame& f) {
     return {e.LockTop, e.LockBottom, e.StretchHeight, double(f.TargetHeight), double(f.DesignHeight), Whole};
 }
 
-double PointOnAxis(int align, int distance, double target, double design, bool forRegion) {
+double PointOnAxis(int align, int distance, double target, double design, CornerOf what) {
     switch (align) {
         case AlignStart:
             return distance;
         case AlignMiddle:
             return (target - design) / 2 + distance;
         case AlignEnd:
-            return target - distance + (forRegion ? 1 : 0);
+            return target - distance + (what == CornerOf::Region ? 1 : 0);
         case AlignStretch:
             return Divided(target * distance, design);
         default:
@@ -119,9 +119,9 @@ void WriteElementBounds(dbLayoutElement& element, const Rect& bounds, const Fram
     element.HeightY = fields.height;
 }
 
-Point GetPointPosition(const dbPoint& point, const Frame& frame, bool forRegion) {
-    return {ToLong(PointOnAxis(point.HAlign, point.X, frame.TargetWidth, frame.DesignWidth, forRegion)),
-            ToLong(PointOnAxis(point.VAlign, point.Y, frame.TargetHeight, frame.DesignHeight, forRegion))};
+Point GetPointPosition(const dbPoint& point, const Frame& frame, CornerOf what) {
+    return {ToLong(PointOnAxis(point.HAlign, point.X, frame.TargetWidth, frame.DesignWidth, what)),
+            ToLong(PointOnAxis(point.VAlign, point.Y, frame.TargetHeight, frame.DesignHeight, what))};
 }
 
 void SetPointPosition(dbPoint& point, int x, int y, const Frame& frame) {

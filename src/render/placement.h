@@ -23,10 +23,13 @@ Rect GetElementRect(const dbLayoutElement& element, const Frame& frame);
 /// sizes differ by an odd number. Failures as above, with the element unchanged.
 void WriteElementBounds(dbLayoutElement& element, const Rect& bounds, const Frame& frame);
 
-/// The corner's position in the window. `forRegion` adds 1 at the right and bottom, which a region excludes.
-Point GetPointPosition(const dbPoint& point, const Frame& frame, bool forRegion);
+/// What a corner is placed for. A region excludes its right and bottom edge, so its corners are 1 pixel
+/// further to the right and below where the corner is aligned to those.
+enum class CornerOf { Shape, Region };
+/// The position of the corner in the window.
+Point GetPointPosition(const dbPoint& point, const Frame& frame, CornerOf what);
 
-/// The inverse of GetPointPosition without `forRegion`: sets X and Y. Failures as above, with the point
+/// The inverse of GetPointPosition for the shape: sets X and Y. Failures as above, with the point
 /// unchanged. A coordinate with an unknown alignment is left unchanged.
 void SetPointPosition(dbPoint& point, int x, int y, const Frame& frame);
 

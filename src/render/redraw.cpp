@@ -5,8 +5,8 @@
 
 #include "document/codes.h"
 #include "render/element_button.h"
+#include "render/element_controls.h"
 #include "render/element_info.h"
-#include "render/element_roads.h"
 #include "render/kiosk_panel.h"
 #include "render/sample_families.h"
 #include "render/search_letters.h"
@@ -45,14 +45,14 @@ void RedrawMain(dbLayoutElement& element, LayoutHost& host) {
 void RedrawButton(dbLayoutElement& element, LayoutHost& host) {
     TileButton& button = SlotOf(host.Element, element);
     if (!ClaimOrHide(button, element)) return;
-    SetupElementButton(button, element, false);
+    SetupElementButton(button, element, View::Canvas);
     button.setVisible(element.Visible);
 }
 
 void RedrawInfo(dbLayoutElement& element, LayoutHost& host) {
     PictureBox& box = SlotOf(host.pInfo, element);
     if (!ClaimOrHide(box, element)) return;
-    SetupInfoElement(box, element, false);
+    SetupInfoElement(box, element, View::Canvas);
     box.setVisible(element.Visible);
 }
 

@@ -58,17 +58,17 @@ QPolygon Nearby(const QPolygon& shape, const Frame& frame) {
 
 }  // namespace
 
-QPolygon ShapePolygon(const dbLayout& layout, const Frame& frame, bool forRegion) {
+QPolygon ShapePolygon(const dbLayout& layout, const Frame& frame, CornerOf what) {
     QPolygon polygon;
     for (const dbPointRef& point : *layout.dbPoints) {
-        const Point at = GetPointPosition(*point, frame, forRegion);
+        const Point at = GetPointPosition(*point, frame, what);
         polygon << QPoint(at.x, at.y);
     }
     return polygon;
 }
 
 QRegion ShapeRegion(const dbLayout& layout, const Frame& frame) {
-    const QPolygon polygon = Nearby(ShapePolygon(layout, frame, true), frame);
+    const QPolygon polygon = Nearby(ShapePolygon(layout, frame, CornerOf::Region), frame);
     return polygon.size() < 3 ? QRegion() : QRegion(polygon, Qt::OddEvenFill);
 }
 
@@ -78,7 +78,7 @@ void ShapeForm() {
 }
 
 void DrawShapeOverlay(QPainter& painter, const dbLayout& layout, const Frame& frame, bool inverted) {
-    const QPolygon shape = ShapePolygon(layout, frame, false);
+    const QPolygon shape = ShapePolygon(layout, frame, CornerOf::Shape);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

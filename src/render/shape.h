@@ -13,7 +13,7 @@ namespace ornavo {
 
 /// The corners in the order of the collection, in pixels of the window. Throws the failures of
 /// GetPointPosition.
-QPolygon ShapePolygon(const dbLayout& layout, const Frame& frame, bool forRegion);
+QPolygon ShapePolygon(const dbLayout& layout, const Frame& frame, CornerOf what);
 
 /// The window's region by the odd-even rule. Empty if the polygon has no inside, and then the window is not
 /// cut.

@@ -81,7 +81,7 @@ TEST_F(ShapeTest, AClickedSideGetsACornerThoughItIsNotSeen) {
     EXPECT_EQ(form_->cursor().shape(), Qt::CrossCursor);
     MoveTo(400, 300);
     EXPECT_EQ(form_->cursor().shape(), Qt::ArrowCursor);
-    for (const int side : {7, 0}) AddShapePoint(form_->parts(), side, 10, 10, false);
+    for (const int side : {7, 0}) AddShapePoint(form_->parts(), side, 10, 10, Origin::Canvas);
     EXPECT_EQ(objCurrentLayout->dbPoints->Count(), 6) << "no such side";
 }
 

@@ -99,7 +99,7 @@ TEST_F(ComposeTest, NothingOfTheLayoutBeforeIsLeftAndWhatHasNoSizeUsesNoSlot) {
     EXPECT_TRUE(host_.pMain.isVisible());
     Add("some", TypeButton, {0, 0, 10, 10});
     const Raised busy(ComposeBusy);
-    RenderElements(false);
+    RenderElements(View::Canvas);
     EXPECT_EQ(host_.Element.Top(), 1) << "a second call while one runs does nothing";
 }
 

@@ -91,10 +91,10 @@ TEST(PointPlaces, EachAlignmentInBothDirectionsAndBack) {
                                                                  {AlignStart, -5, 90, -5, -5}}) {
         const dbPoint point = {distance, 7, AlignStart, align, 1}, down = {7, distance, align, AlignStart, 1};
         const Frame across = {window, 300, 100, 200}, upright = {300, window, 200, 100};
-        EXPECT_EQ(GetPointPosition(point, across, false), (Point{plain, 7})) << align;
-        EXPECT_EQ(GetPointPosition(point, across, true), (Point{region, 7})) << align;
-        EXPECT_EQ(GetPointPosition(down, upright, false), (Point{7, plain})) << align;
-        EXPECT_EQ(GetPointPosition(down, upright, true), (Point{7, region})) << align;
+        EXPECT_EQ(GetPointPosition(point, across, CornerOf::Shape), (Point{plain, 7})) << align;
+        EXPECT_EQ(GetPointPosition(point, across, CornerOf::Region), (Point{region, 7})) << align;
+        EXPECT_EQ(GetPointPosition(down, upright, CornerOf::Shape), (Point{7, plain})) << align;
+        EXPECT_EQ(GetPointPosition(down, upright, CornerOf::Region), (Point{7, region})) << align;
     }
     for (const auto& [align, window, at, distance] : {std::tuple{AlignStart, 105, 30, 30},
                                                       {AlignMiddle, 105, 30, 28},

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "render/element_roads.h"
+#include "render/element_controls.h"
 
 #include <QAccessible>
 #include <iterator>
