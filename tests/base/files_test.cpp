@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "base/paths.h"
 #include "support/failure_number.h"
@@ -97,6 +99,21 @@ TEST_F(Files, OnlyPlainOnesAreReadAndReplaced) {
     EXPECT_TRUE(FileExists(ToText(longest)));
     CopyFileWhole(longest, folder / "copy");
     EXPECT_EQ(fs::file_size(folder / "copy"), 0u);
+}
+
+TEST_F(Files, WhatNobodyWritesAnyMoreIsRemoved) {
+    const pid_t ended = fork();
+    if (ended == 0) _exit(0);
+    ASSERT_EQ(waitpid(ended, nullptr, 0), ended);
+    const std::pair<std::string, bool> rows[] = {{".ornavo-" + std::to_string(ended) + "-7.tmp", false},
+                                                 {".ornavo-" + std::to_string(getpid()) + "-7.tmp", true},
+                                                 {".ornavo-1234567.tmp", true},
+                                                 {".ornavo-7654321.tmp", false},  // of yesterday
+                                                 {"mine.tmp", true}};
+    for (const auto& [name, stays] : rows) folder.Write(name, "");
+    fs::last_write_time(folder / rows[3].first, fs::file_time_type::clock::now() - std::chrono::hours(25));
+    RemoveLeftScratchFiles(folder.place());
+    for (const auto& [name, stays] : rows) EXPECT_EQ(fs::exists(folder / name), stays) << name;
 }
 
 TEST_F(Files, FoldersAreMadeWhereTheyAreMissing) {

@@ -1,9 +1,5 @@
 // SPDX-License-Identifier: MIT
 // A save that is broken off at any step leaves the old skin or the new one.
-#include <sys/wait.h>
-#include <unistd.h>
-#include <csignal>
-
 #include "support.h"
 
 namespace ornavo {
@@ -97,36 +93,6 @@ TEST_F(WholeSave, AFailureAtEachStep) {
     objSkin->SetBasePath((folder / "file").string());
     EXPECT_NE(FailureOf([] { objSkin->SaveSkin(false); }).description().find((folder / "file/Red").string()),
               std::string::npos);
-}
-
-TEST_F(WholeSave, TheNextSaveClearsAway) {
-    const auto left = [&] {
-        std::size_t count = 0;
-        for (const auto& [name, bytes] : scratch.Files("Blue")) count += name.ends_with(".tmp");
-        return count;
-    };
-    for (const int last : {SIGKILL, SIGSTOP}) {
-        Prepare("Blue");
-        const pid_t child = fork();
-        if (child == 0) {
-            const StepLayer layer([last](int step) {
-                if (step == 5) raise(last);
-            });
-            objSkin->SaveSkin(false);
-            _exit(0);
-        }
-        int status = 0;
-        EXPECT_EQ(waitpid(child, &status, WUNTRACED), child);
-        EXPECT_EQ(left(), 1u);
-        fs::last_write_time(Put("Blue/.ornavo-1234567.tmp", "of nobody known"),
-                            fs::file_time_type::clock::now() - std::chrono::hours(25));
-        objSkin->SaveSkin(false);
-        EXPECT_EQ(left(), last == SIGSTOP ? 1u : 0u) << "a running one's stays";
-        if (last == SIGKILL) continue;
-        kill(child, SIGCONT);
-        waitpid(child, &status, 0);
-        EXPECT_EQ(left(), 0u);
-    }
 }
 
 }  // namespace

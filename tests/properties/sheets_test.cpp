@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QHelpEvent>
-#include <QScrollBar>
 #include <QWheelEvent>
 
 #include "editor/settings_keys.h"
@@ -212,8 +211,6 @@ TEST_F(SheetTest, ListsShowTheirCodes) {
     Combo("ActionType")->showPopup();
     const QAbstractItemView* list = Combo("ActionType")->view();
     EXPECT_EQ(list->viewport()->height() / list->sizeHintForRow(0), 24);
-    EXPECT_TRUE(list->verticalScrollBar()->isVisible());
-    EXPECT_GE(list->window()->y(), Combo("ActionType")->mapToGlobal(QPoint()).y()) << "the row is seen";
     Combo("ActionType")->hidePopup();
     element().ActionType = 56;
     Select("Element");
