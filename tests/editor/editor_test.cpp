@@ -23,7 +23,7 @@ TEST(Selection, IsAControlAndAKey) {
     const struct {
         std::function<void()> step;
         Control* control;
-        const char *key, *told;  // of the corners: which one shows that it is selected, or no longer
+        const char *key, *told;  // which corners show that they are selected, or no longer
     } rows[] = {{[&] { selection.Select(element); }, &element, "Button1", ""},
                 {[&] { selection.Select(corner); }, &corner, "K1", "+K1"},
                 {[&] { selection.Select(other); }, &other, "K2", "-K1+K2"},
