@@ -172,8 +172,6 @@ public:
     Window() : Form(nullptr, "frm", Qt::Window) {}
     bool mayClose = true;
     int resized = 0, unloaded = 0;
-
-protected:
     void Form_Resize() override { ++resized; }
     bool Form_QueryUnload() override { return mayClose; }
     void Form_Unload() override { ++unloaded; }
