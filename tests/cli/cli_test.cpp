@@ -16,20 +16,17 @@ namespace ornavo::testing {
 namespace {
 
 const char* const SkinText =
-    "<Skin>\n<SkinWidth>100</SkinWidth>\n<SkinHeight>80</SkinHeight>\n"
-    "<SkinPrefs>\n<SkinPref>\n<Key>SP_ColLight</Key>\n<PrefType>1</PrefType>\n<Value>255</Value>\n<Font>\n"
-    "<Name>Arial</Name>\n<Size>+8.25</Size>\n<Bold>True</Bold>\n</Font>\n</SkinPref>\n"
-    "<SkinPref>\n<Key>XX_Text</Key>\n<Value>G\xFCte</Value>\n</SkinPref>\n</SkinPrefs>\n"
-    "<Layouts>\n<Layout>\n<Key>Standard</Key>\n<LayoutName>Main screen</LayoutName>\n"
-    "<Points>\n<Point>\n<Order>2</Order>\n<X>100</X>\n<Y>0</Y>\n</Point>\n<Point>\n<Order>1</Order>\n</"
-    "Point>\n"
-    "<Point>\n<Order>3</Order>\n<X>0</X>\n<Y>0</Y>\n<VAlign>2</VAlign>\n</Point>\n</Points>\n"
-    "<Elements>\n<Element>\n<Key>box</Key>\n<Order>1</Order>\n<ElementType>4</ElementType>\n<LeftX>10</"
-    "LeftX>\n"
-    "<TopY>5</TopY>\n<WidthX>20</WidthX>\n<HeightY>10</HeightY>\n<LockLeft>True</LockLeft>\n"
-    "<LockRight>True</LockRight>\n<LockBottom>True</LockBottom>\n<Visible>Wahr</Visible>\n"
-    "<BackgroundColor>65280</BackgroundColor>\n<CapScrollSpeed>-2</CapScrollSpeed>\n</Element>\n</Elements>\n"
-    "</Layout>\n</Layouts>\n</Skin>\n";
+    "<Skin>\n<SkinWidth>100</SkinWidth>\n<SkinHeight>80</SkinHeight>\n<SkinPrefs>\n<SkinPref>\n"
+    "<Key>SP_ColLight</Key>\n<PrefType>1</PrefType>\n<Value>255</Value>\n<Font>\n<Name>Arial</Name>\n"
+    "<Size>+8.25</Size>\n<Bold>True</Bold>\n</Font>\n</SkinPref>\n<SkinPref>\n<Key>XX_Text</Key>\n"
+    "<Value>G\xFCte</Value>\n</SkinPref>\n</SkinPrefs>\n<Layouts>\n<Layout>\n<Key>Standard</Key>\n"
+    "<LayoutName>Main screen</LayoutName>\n<Points>\n<Point>\n<Order>2</Order>\n<X>100</X>\n<Y>0</Y>\n"
+    "</Point>\n<Point>\n<Order>1</Order>\n</Point>\n<Point>\n<Order>3</Order>\n<X>0</X>\n<Y>0</Y>\n"
+    "<VAlign>2</VAlign>\n</Point>\n</Points>\n<Elements>\n<Element>\n<Key>box</Key>\n<Order>1</Order>\n"
+    "<ElementType>4</ElementType>\n<LeftX>10</LeftX>\n<TopY>5</TopY>\n<WidthX>20</WidthX>\n"
+    "<HeightY>10</HeightY>\n<LockLeft>True</LockLeft>\n<LockRight>True</LockRight>\n"
+    "<LockBottom>True</LockBottom>\n<Visible>Wahr</Visible>\n<BackgroundColor>65280</BackgroundColor>\n"
+    "<CapScrollSpeed>-2</CapScrollSpeed>\n</Element>\n</Elements>\n</Layout>\n</Layouts>\n</Skin>\n";
 
 class ToolTest : public ::testing::Test {
 protected:

@@ -199,7 +199,6 @@ TEST_F(FilesTest, DroppedChangesAreRecoverable) {
     objSkin->SkinWidth = 5, objSkin->Dirty = true;
     blocked.KeepDropped();
     EXPECT_TRUE(prompts_.asked.empty()) << "silently";
-
     files.Create("New", 800, 600);
     fs::remove_all(recovered);
     Main().Font = objSkin->dbSkinPrefs->Item("AA_Font")->Font = std::make_shared<Font>();

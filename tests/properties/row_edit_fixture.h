@@ -8,10 +8,11 @@
 #include <chrono>
 #include <map>
 #include <set>
+#include <sstream>
 
 #include "base/files.h"
 #include "document/codes.h"
-#include "document/fields.h"
+#include "document/skin_lines.h"
 #include "properties/frm_properties.h"
 #include "render/redraw.h"
 #include "support/canvas_fixture.h"
@@ -21,28 +22,19 @@ namespace ornavo::testing {
 
 using Snapshot = std::map<std::string, std::string>;  // "Key.Field" and its value
 
-template <class T>
-void Collect(Snapshot& fields, const std::string& owner, const T& object) {
-    for (const Field<T>& field : Fields<T>()) {
-        if (!field.saved) continue;
-        const Value value = field.get(object);
-        if (!value.Is<FontRef>()) {
-            // What is false has no line in the file.
-            fields[owner + '.' + std::string(field.name)] = value == Value(false) ? "" : value.ToText();
-        } else if (const FontRef& font = value.As<FontRef>()) {
-            for (const Field<Font>& part : Fields<Font>())
-                fields[owner + ".Font." + std::string(part.name)] = part.get(*font).ToText();
-        }
-    }
-}
-
-/// All that a file of the skin has of the first layout and the preferences.
+/// All that a file of the skin has of the preferences, the elements and the corners.
 inline Snapshot SnapshotOf(const dbSkin& skin) {
     Snapshot fields;
-    const dbLayout& layout = *skin.dbLayouts->Item(1);
-    for (const auto& element : *layout.dbLayoutElements) Collect(fields, element->Key, *element);
-    for (const auto& point : *layout.dbPoints) Collect(fields, "K" + std::to_string(point->Order), *point);
-    for (const auto& pref : *skin.dbSkinPrefs) Collect(fields, pref->Key, *pref);
+    std::istringstream lines(skin.FileBytes());
+    std::string owner, font;
+    for (std::string line; std::getline(lines, line);) {
+        const auto [tag, value] = GetTag(TrimTag(line));
+        if (tag == "Font" || tag == "/Font") font = tag == "Font" ? "Font." : "";
+        if (tag == "Key") owner = *value;
+        if (tag == "Order" && owner == "K") owner += *value;
+        if (tag == "Point") owner = "K";
+        if (value) fields[owner + "." + font + std::string(tag)] = *value;
+    }
     return fields;
 }
 
