@@ -41,11 +41,6 @@ TEST(Selection, IsAControlAndAKey) {
         EXPECT_EQ(selection.SelKey() + " " + told, std::string(row.key) + " " + row.told) << &row - rows;
         EXPECT_EQ(selection.IsCorner(), row.control == &corner || row.control == &other) << &row - rows;
     }
-    {
-        const Raised open = selection.KeepPropertiesOpen();
-        EXPECT_TRUE(selection.KeepsPropertiesOpen());
-    }
-    EXPECT_FALSE(selection.KeepsPropertiesOpen());
 }
 
 TEST(SkinDrop, TakesOneSkinAlone) {

@@ -336,14 +336,5 @@ TEST_F(PanelTest, AnInsertDoesNotOverwriteAStranger) {
     EXPECT_EQ(prompts_.asked.size(), 4u) << "a file that can't be read is told";
 }
 
-TEST_F(PanelTest, TheSheetOfTheWholeSkin) {
-    OpenBlue();
-    const int resets = canvas_.reset;
-    Click(panel_->btn_SkinProperties);
-    EXPECT_TRUE(windows_.panel.shown && canvas_.selection().SelControl() == panel_->btn_SkinProperties);
-    EXPECT_EQ(canvas_.reset, resets + 1);
-    EXPECT_EQ(canvas_.selection().SelKey(), "");
-}
-
 }  // namespace
 }  // namespace ornavo::testing

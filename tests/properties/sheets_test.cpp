@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QHelpEvent>
-#include <QWheelEvent>
 
 #include "editor/settings_keys.h"
 #include "properties/element_sheet.h"
@@ -91,18 +90,6 @@ TEST(SampleRows, NobodyIsForgotten) {
     EXPECT_EQ(Headings(SampleSheet(*skin.dbSkinPrefs, "but_Song", {})),
               (Texts{"Main Button (Song & Artist)", "Song", "Artist", "Pictures", "Misc", "Icons"}));
     EXPECT_TRUE(SampleSheet(*skin.dbSkinPrefs, "ScrollBar", {}).empty());
-}
-
-TEST(SampleRows, OpenTheirHeadingsOnce) {
-    dbSkinPrefs prefs;
-    prefs.Add("XX_A", "Normal", "", KindPicture);
-    prefs.Add("XX_B", "NORMAL Show Border", "", KindPicture);  // not above its kind again: opens Misc
-    prefs.Add("xx_C", "Other", "", KindText);
-    prefs.Add("XX_D", "Normal", Value(), KindFont);
-    Sheet sheet;
-    AddSkinProp(sheet, prefs, "XX", "");
-    EXPECT_EQ(Headings(sheet), (Texts{"Pictures", "Misc"}));
-    EXPECT_EQ(sheet.size(), 5u);
 }
 
 TEST_F(SheetTest, ControlsAreReusedAndComeBackAsNew) {
@@ -212,17 +199,6 @@ TEST_F(SheetTest, ListsShowTheirCodes) {
     EXPECT_EQ(Combo("ActionType")->ListIndex(), -1);
 }
 
-TEST_F(SheetTest, APointIsFoundByItsOrder) {
-    objCurrentLayout->dbPoints->Item(1)->Order = 9;  // its key still says 1
-    objCurrentLayout->dbPoints->Item(1)->X = 77;
-    Select("cPointMover", "K9");
-    EXPECT_EQ(pools().lbl_Prop[1].text(), " Position (9)");
-    EXPECT_EQ(Box("X")->Text(), "77");
-    EXPECT_EQ(Combo("VAlign")->itemText(1), "Middle");
-    SetRowValue(panel_->parts().BoundObject, "X", "78");
-    EXPECT_EQ(objCurrentLayout->dbPoints->Item(1)->X, 78);
-}
-
 TEST_F(SheetTest, TabWalksTheValuesAndTheFocusStaysInItsRow) {
     Select("lbl_Kiosk");
     Box("LA_Font.Font")->setFocus();
@@ -238,21 +214,6 @@ TEST_F(SheetTest, TabWalksTheValuesAndTheFocusStaysInItsRow) {
     ASSERT_EQ(QApplication::focusWidget(), Box("LA_ShadowColor.Value"));
     EXPECT_EQ(Box("LA_ShadowColor.Value")->cursorPosition(), 1);
     EXPECT_FALSE(timer().isActive()) << "filling rows is no edit";
-}
-
-TEST_F(SheetTest, TheWheelChangesOnlyAListWithTheFocus) {
-    Select("Element");
-    RowCombo* combo = Combo("ActionType");
-    const auto turn = [&] {
-        QWheelEvent wheel({2, 8}, combo->mapToGlobal(QPointF(2, 8)), {}, {0, -120}, Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(combo, &wheel);
-        return combo->ListIndex();
-    };
-    EXPECT_EQ(turn(), 0);
-    combo->setFocus();
-    EXPECT_EQ(turn(), 1);
-    EXPECT_EQ(element().ActionType, 1);
 }
 
 TEST_F(SheetTest, HeightFollowsTheRowsAndWidthIsKept) {
