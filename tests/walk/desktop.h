@@ -43,18 +43,20 @@ public:
     void Resize(const QString& window, const QSize& inside);
     void Activate(const QString& window);
 
-    // All places are on the screen.
+    // All places are on the screen. A question behind a release has it done before the pointer goes on: moves
+    // overtake buttons, and the release would come from where the pointer is parked.
     void Click(const QPoint& at, int button = 1) {
-        XDo({"mousemove", Number(at.x()), Number(at.y()), "click", Number(button)});
+        XDo({"mousemove", Number(at.x()), Number(at.y()), "click", Number(button), "getmouselocation"});
     }
     void DoubleClick(const QPoint& at) {
-        XDo({"mousemove", Number(at.x()), Number(at.y()), "click", "--repeat", "2", "--delay", "40", "1"});
+        XDo({"mousemove", Number(at.x()), Number(at.y()), "click", "--repeat", "2", "--delay", "40", "1",
+             "getmouselocation"});
     }
     void Press(const QPoint& at, int button = 1) {
         XDo({"mousemove", Number(at.x()), Number(at.y()), "mousedown", Number(button)});
     }
     void MoveTo(const QPoint& at) { XDo({"mousemove", Number(at.x()), Number(at.y())}); }
-    void Release(int button = 1) { XDo({"mouseup", Number(button)}); }
+    void Release(int button = 1) { XDo({"mouseup", Number(button), "getmouselocation"}); }
     void ParkPointer() { MoveTo({1798, 1198}); }  // where it covers nothing
     /// "Right", "ctrl+s", ...
     void Key(const QStringList& keys) { XDo(QStringList{"key", "--clearmodifiers"} + keys); }
