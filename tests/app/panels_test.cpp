@@ -1,16 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The panels under the desktop's own font: nothing of them is cut.
-#include <gtest/gtest.h>
-
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include "app/program.h"
-#include "document/current_skin.h"
-#include "platform/settings.h"
+#include "app/program_fixture.h"
 
 namespace ornavo::testing {
 namespace {
@@ -30,26 +24,22 @@ std::string Cut(const QWidget& window) {
     return names;
 }
 
-TEST(Panels, AreCutUnderNoFontOfTheDesktop) {
+using Panels = ProgramTest;
+TEST_F(Panels, AreCutUnderNoFontOfTheDesktop) {
     const QFont before = QApplication::font();
     for (const int pixels : {11, 12, 15, 19, 23, 28}) {
         QFont font = before;
         font.setPixelSize(pixels);
         QApplication::setFont(font);
-        const QTemporaryDir folder;
-        UseSettingsFile(folder.filePath("settings.ini"));
-        objSkin = std::make_shared<dbSkin>();
-        objCurrentLayout = std::make_shared<dbLayout>();
-        Program program("0.1", folder.path().toStdString(), folder.path().toStdString());
-        program.Start("");
-        program.LoadDebug(ORNAVO_SOURCE_DIR "/skins/Classic");
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* panel = dynamic_cast<frm_SkinProject*>(widget))
-                panel->btn_SkinProperties->PerformClick();
+        const QTemporaryDir settings;
+        UseSettingsFile(settings.filePath("settings.ini"));
+        Start("");
+        program_->LoadDebug(ORNAVO_SOURCE_DIR "/skins/Classic");
+        Panel().btn_SkinProperties->PerformClick();
         QCoreApplication::processEvents();
         for (const QWidget* window : QApplication::topLevelWidgets())
             EXPECT_EQ(window->windowType() == Qt::Tool ? Cut(*window) : "", "") << pixels;
-        program.properties().Hide();
+        program_->properties().Hide();
     }
     QApplication::setFont(before);
 }

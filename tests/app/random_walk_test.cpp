@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Thousands of edits by mouse, keys, menu, sheet and panel on the whole program. After each of them what is
 // always so must be so. ORNAVO_WALK_EVENTS sets how many.
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
-#include <QTest>
 #include <random>
 #include <set>
 
-#include "app/program.h"
+#include "app/program_fixture.h"
 #include "canvas/element_menu.h"
-#include "document/current_skin.h"
 #include "document/shape_edits.h"
-#include "platform/settings.h"
 #include "render/redraw.h"
 #include "render/view_switches.h"
-#include "support/scripted_prompts.h"
 
 namespace ornavo::testing {
 namespace {
@@ -23,24 +17,11 @@ namespace {
 constexpr int MostElements = 16, MostCorners = 12, MostLayouts = 6;
 constexpr QSize SkinSize = {700, 620};
 
-template <class T>
-T& TheWindow() {
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (auto* window = dynamic_cast<T*>(widget)) return *window;
-    throw std::runtime_error("a window is missing");
-}
-
-class RandomWalk : public ::testing::Test {
+class RandomWalk : public ProgramTest {
 public:
     RandomWalk() {
-        UseSettingsFile(folder_.filePath("settings.ini"));
         viewSwitches = {};
-        objSkin = std::make_shared<dbSkin>();
-        objCurrentLayout = std::make_shared<dbLayout>();
-        const std::string folder = folder_.path().toStdString();
-        program_ = std::make_unique<Program>("0.1", folder, folder);
-        UsePrompts(&prompts_);
-        program_->Start("");
+        Start("");
         Create();
     }
     int Below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(bound)); }
@@ -50,10 +31,10 @@ public:
 
     /// More often where something is than anywhere.
     QPoint Target() {
-        const Anchors& anchors = canvas().parts().anchors;
-        QRect place = {0, 0, canvas().width(), canvas().height()};
+        const Anchors& anchors = Main().parts().anchors;
+        QRect place = {0, 0, Main().width(), Main().height()};
         if (Rarely(6))
-            place = canvas().parts().points.FindCorner(1 + Below(points().Count()))->geometry();
+            place = Main().parts().points.FindCorner(1 + Below(points().Count()))->geometry();
         else if (!Rarely(6))
             place = ControlOf(AnyElement()).geometry();
         else if (anchors.Anchor[0]->isVisible())
@@ -63,14 +44,14 @@ public:
     }
     /// The very corner stands for the middle of a window in simulated events.
     static QPoint OnCanvas(QPoint at) {
-        return {std::clamp(at.x(), 1, canvas().width() - 1), std::clamp(at.y(), 0, canvas().height() - 1)};
+        return {std::clamp(at.x(), 1, Main().width() - 1), std::clamp(at.y(), 0, Main().height() - 1)};
     }
 
     // What a user does.
     void Drag() {
         QPoint at = Target();
         const bool mayAddCorner = points().Count() < MostCorners;
-        if (!mayAddCorner && !canvas().childAt(at)) return;
+        if (!mayAddCorner && !Main().childAt(at)) return;
         QTest::mousePress(window(), Qt::LeftButton, {}, at);
         for (int moves = Below(4); moves > 0; --moves) {
             const int reach = Rarely(4) ? 300 : 25;
@@ -87,37 +68,37 @@ public:
     }
     void Delete() { QTest::keyClick(window(), Qt::Key_Delete); }
     void DeleteCorner() {
-        const auto* corner = canvas().parts().points.FindCorner(1 + Below(points().Count()));
+        const auto* corner = Main().parts().points.FindCorner(1 + Below(points().Count()));
         const QPoint at = OnCanvas(corner->geometry().center());
-        if (canvas().childAt(at) == corner) QTest::mouseClick(window(), Qt::RightButton, {}, at);
+        if (Main().childAt(at) == corner) QTest::mouseClick(window(), Qt::RightButton, {}, at);
     }
     void Menu() {
         constexpr int items[] = {MenuClone, MenuDelete, MenuOriginalSize};
         const int item = items[Below(3)];
-        const Control* selected = canvas().selection().SelControl();
+        const Control* selected = Main().selection().SelControl();
         if (!selected || IsStandard() || (item == MenuClone && elements().Count() >= MostElements)) return;
-        mnuElementSub_Click(canvas().parts(), item);
+        mnuElementSub_Click(Main().parts(), item);
     }
     void Restack() {
         const bool toFront = Rarely(2);
-        const std::string key = canvas().selection().SelControl() ? canvas().selection().SelKey() : "";
-        mnuElementSub_Click(canvas().parts(), toFront ? MenuBringToFront : MenuSendToBack);
+        const std::string key = Main().selection().SelControl() ? Main().selection().SelKey() : "";
+        mnuElementSub_Click(Main().parts(), toFront ? MenuBringToFront : MenuSendToBack);
         if (!elements().Find(key)) return;
         ASSERT_EQ(elements().Item(key)->Order, toFront ? elements().Count() : 1);
     }
     void AddElement() {
         if (elements().Count() >= MostElements) return;
-        const auto& toolbox = TheWindow<frm_Toolbox>();
+        const auto& toolbox = Window<frm_Toolbox>();
         TileCommand* const buttons[] = {toolbox.btn_AddButton, toolbox.btn_AddGraphic, toolbox.btn_AddVolume,
                                         toolbox.btn_AddInfo};
         buttons[Below(4)]->PerformClick();
-        ASSERT_EQ(elements().Item(canvas().selection().SelKey())->Order, elements().Count());
+        ASSERT_EQ(elements().Item(Main().selection().SelKey())->Order, elements().Count());
     }
     /// A row of the sheet that is open gets another value, as if it were pasted. What is stretched has no
     /// exact way back.
     void EditRow() {
         if (!program_->properties().IsShown()) return;
-        RowPools& pools = TheWindow<frm_Properties>().parts().pools;
+        RowPools& pools = Window<frm_Properties>().parts().pools;
         RowText& box = pools.tbx_Prop[1 + Below(pools.tbx_Prop.Top())];
         RowCheck& check = pools.chk_Boolean[1 + Below(std::max(1, pools.chk_Boolean.Top()))];
         if (Rarely(3) && !check.Tag.empty() && !check.Tag.starts_with("Stretch"))
@@ -133,8 +114,8 @@ public:
     }
     /// By whole pixels on either side, so that every place has its way back.
     void ResizeCanvas() {
-        canvas().resize(SkinSize + 2 * QSize(Below(30), Below(30)));
-        canvas().tmrResizer_Timer();
+        Main().resize(SkinSize + 2 * QSize(Below(30), Below(30)));
+        Main().tmrResizer_Timer();
     }
     void AddLayout() {
         if (objSkin->dbLayouts->Count() < MostLayouts)
@@ -144,7 +125,7 @@ public:
     void CloneLayout() {
         if (objSkin->dbLayouts->Count() >= MostLayouts || !list().LayoutIsSelected()) return;
         prompts_.inputs = {NewName().toStdString()};
-        panel().btn_CloneLayout->PerformClick();
+        Panel().btn_CloneLayout->PerformClick();
         ASSERT_FALSE(objSkin->Dirty) << "it also saves";
         saved_ = objSkin->FileBytes();
     }
@@ -170,19 +151,19 @@ public:
     }
     void Open() {
         program_->LoadDebug(objSkin->SkinName);
-        canvas().tmrResizer.stop();
+        Main().tmrResizer.stop();
         ASSERT_FALSE(objSkin->Dirty);
         ASSERT_EQ(objSkin->FileBytes(), saved_);
     }
     void Create() {
-        panel().btn_CreateNewSkin->PerformClick();
-        frm_AddNewSkin& dialog = *panel().AddNewSkin;
+        Panel().btn_CreateNewSkin->PerformClick();
+        frm_AddNewSkin& dialog = *Panel().AddNewSkin;
         dialog.tbx_SkinName->setText("Walk" + QString::number(++names_));
         dialog.tbx_Width->setText(QString::number(SkinSize.width()));
         dialog.tbx_Height->setText(QString::number(SkinSize.height()));
         dialog.btn_Create_Click();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        canvas().tmrResizer.stop();
+        Main().tmrResizer.stop();
         Save();
     }
 
@@ -199,8 +180,8 @@ public:
         ASSERT_EQ(list().SelectedKey(), objCurrentLayout->Key);
     }
     void CheckSelection() {
-        const Selection& selection = canvas().selection();
-        const Anchors& anchors = canvas().parts().anchors;
+        const Selection& selection = Main().selection();
+        const Anchors& anchors = Main().parts().anchors;
         const bool handles = anchors.Anchor[0]->isVisible();
         ASSERT_TRUE(selection.SelControl() || !handles);
         if (!selection.SelControl()) return;
@@ -231,25 +212,19 @@ public:
     /// A whole composition shows what single steps have drawn, and changes nothing.
     void CheckComposition() {
         const std::string file = objSkin->FileBytes(), places = Places();
-        canvas().UpdateCurrentLayout();
+        Main().UpdateCurrentLayout();
         ASSERT_EQ(Places(), places);
         ASSERT_EQ(objSkin->FileBytes(), file);
     }
 
     static dbLayoutElements& elements() { return *objCurrentLayout->dbLayoutElements; }
     static dbPoints& points() { return *objCurrentLayout->dbPoints; }
-    static frm_Ornavo& canvas() { return TheWindow<frm_Ornavo>(); }
-    static frm_SkinProject& panel() { return TheWindow<frm_SkinProject>(); }
-    static LayoutList& list() { return *panel().lst_Layouts; }
-    static QWindow* window() { return canvas().windowHandle(); }
+    static LayoutList& list() { return *Panel().lst_Layouts; }
+    static QWindow* window() { return Main().windowHandle(); }
     static bool IsStandard() {
-        return std::set<std::string>{"Main", "SearchBox", "Scrollbar"}.contains(
-            canvas().selection().SelKey());
+        return std::set<std::string>{"Main", "SearchBox", "Scrollbar"}.contains(Main().selection().SelKey());
     }
 
-    QTemporaryDir folder_;
-    std::unique_ptr<Program> program_;
-    ScriptedPrompts prompts_;
     std::string saved_;  // the file
     std::mt19937 random_{20261122};
     int names_ = 0;
@@ -287,7 +262,7 @@ TEST_F(RandomWalk, WhatIsAlwaysSoIsSo) {
     for (const Event& event : events) urn.insert(urn.end(), static_cast<std::size_t>(event.weight), event);
     const int count = qEnvironmentVariableIsSet("ORNAVO_WALK_EVENTS")
                           ? qEnvironmentVariableIntValue("ORNAVO_WALK_EVENTS")
-                          : 1500;
+                          : 1000;
     for (int i = 0; i < count && !HasFailure(); ++i) {
         const Event& event = urn[static_cast<std::size_t>(Below(static_cast<int>(urn.size())))];
         SCOPED_TRACE(std::to_string(i) + ": " + event.name);

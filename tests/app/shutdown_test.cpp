@@ -1,53 +1,32 @@
 // SPDX-License-Identifier: MIT
 // The end of the program: what the project panel asks, what its answers keep open, and what is saved.
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
 #include <QMenu>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
-#include "app/program.h"
+#include "app/program_fixture.h"
 #include "base/files.h"
-#include "document/current_skin.h"
 #include "editor/settings_keys.h"
-#include "support/scripted_prompts.h"
 #include "support/step_layer.h"
 
 namespace ornavo::testing {
 namespace {
 
-template <class T>
-T& Window() {
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (auto* window = dynamic_cast<T*>(widget)) return *window;
-    throw std::runtime_error("a window is missing");
-}
-
-class ShutdownTest : public ::testing::Test {
+class ShutdownTest : public ProgramTest {
 protected:
     ShutdownTest() {
-        UseSettingsFile(folder_.filePath("settings.ini"));
         dbSkin skin;
         skin.SetBasePath(Folder() + "/Skins");
         skin.SkinName = "Blue";
         skin.AddNewLayout("Standard")->AddDummyPoints();
         skin.SaveSkin(false);
-        objSkin = std::make_shared<dbSkin>();
-        objCurrentLayout = std::make_shared<dbLayout>();
-        program_ = std::make_unique<Program>("0.1", Folder(), Folder());
-        UsePrompts(&prompts_);
-        program_->Start("Blue");
+        Start("Blue");
         std::filesystem::remove(Folder() + "/Skins/Blue/SkinSettings.xml");
         program_->ToggleMagnifier();
         QCoreApplication::processEvents();
         objSkin->Dirty = true;
     }
-    std::string Folder() const { return folder_.path().toStdString(); }
     bool IsSaved() const { return FileExists(Folder() + "/Skins/Blue/SkinSettings.xml"); }
-    static frm_SkinProject& Panel() { return Window<frm_SkinProject>(); }
-    static frm_Ornavo& Main() { return Window<frm_Ornavo>(); }
     static std::string Shown() {
         std::string names;
         for (const char* name : {"frm_Ornavo", "frm_SkinProject", "frm_Toolbox", "frm_Magnifier"})
@@ -55,10 +34,6 @@ protected:
                 if (widget->objectName() == name && widget->isVisible()) names += std::string(name) + ' ';
         return names;
     }
-
-    QTemporaryDir folder_;
-    ScriptedPrompts prompts_;
-    std::unique_ptr<Program> program_;
 };
 
 TEST_F(ShutdownTest, AnUnchangedSkinAsksNothing) {
@@ -115,12 +90,7 @@ TEST_F(ShutdownTest, TheQuestionComesThoughThePanelIsClosed) {
 }
 
 TEST_F(ShutdownTest, ACommandLineThatLeadsNowhereOpensNothing) {
-    program_.reset();
-    objSkin = std::make_shared<dbSkin>();
-    objCurrentLayout = std::make_shared<dbLayout>();
-    program_ = std::make_unique<Program>("0.1", Folder(), Folder());
-    UsePrompts(&prompts_);
-    program_->Start("Nowhere");
+    Start("Nowhere");
     EXPECT_EQ(Main().windowTitle(), "Ornavo 0.1 (BETA)");
     EXPECT_FALSE(Panel().btn_SaveSkin->isEnabled() || Panel().lst_Layouts->isEnabled());
 }

@@ -1,31 +1,20 @@
 // SPDX-License-Identifier: MIT
 // The card of an empty canvas: the user's skins on it, and one of them opened by a click.
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <QListWidget>
-#include <QTemporaryDir>
-#include <QTest>
 #include <filesystem>
 #include <fstream>
 
-#include "app/program.h"
-#include "document/current_skin.h"
-#include "platform/settings.h"
-#include "support/scripted_prompts.h"
+#include "app/program_fixture.h"
 
 namespace ornavo::testing {
 namespace {
 
 namespace fs = std::filesystem;
 
-class WelcomeTest : public ::testing::Test {
+class WelcomeTest : public ProgramTest {
 protected:
-    WelcomeTest() {
-        UseSettingsFile(QString::fromStdString((root_ / "settings.ini").string()));
-        objSkin = std::make_shared<dbSkin>();
-        objCurrentLayout = std::make_shared<dbLayout>();
-    }
     /// A skin's folder with that text in its settings file, saved so many hours ago, and a picture.
     void Make(const std::string& name, std::string_view text, int hours, const char* picture = "",
               QColor colour = {}) const {
@@ -39,7 +28,6 @@ protected:
         if (!*picture) return;
         ASSERT_TRUE(image.save(QString::fromStdString((folder / picture).string())));
     }
-    QTemporaryDir folder_;
     const fs::path root_ = folder_.path().toStdString();
 };
 
@@ -56,12 +44,8 @@ TEST_F(WelcomeTest, ShowsTheNewestSkinsAndOpensOneByAClick) {
     fs::create_directories(root_ / "Skins/Pipe");
     ASSERT_EQ(::mkfifo((root_ / "Skins/Pipe/SkinSettings.xml").c_str(), 0600), 0);
 
-    Program program("0.1", root_.string(), root_.string());
-    const ScriptedPrompts prompts;
-    program.Start("");
-    QListWidget* tiles = nullptr;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == "frm_Ornavo") tiles = window->findChild<QListWidget*>();
+    Start("");
+    auto* tiles = Main().findChild<QListWidget*>();
     ASSERT_NE(tiles, nullptr);
     EXPECT_EQ(tiles->count(), 0) << "the first picture of the window waits for none of them";
     const auto colour = [&](int row) {
