@@ -161,6 +161,11 @@ protected:
             case Drag:
                 desktop_.Press(at);
                 for (const QPoint by : {step.by / 2, step.by}) desktop_.MoveTo(at + by);
+                // Not every window manager lets a quick hand's events through in their order. Where the
+                // pointer covers the corner there is nothing to wait for.
+                if (step.shown.width() > 1)
+                    desktop_.WaitFor("a drag",
+                                     [&] { return ShowsFirst(step.shown) || ShowsLast(step.shown); });
                 desktop_.Release();
                 break;
             case Click:
@@ -183,11 +188,14 @@ protected:
                 break;
         }
     }
-    /// The first and the fifth handle stand at the corners, a pixel of frame round each.
     bool IsShown(const QRect& shown) const {
         if (shown.width() == 1) return Shows({shown.topLeft() - QPoint(2, 2), QSize(5, 5)});
-        return Shows({shown.topLeft() - QPoint(6, 6), QSize(5, 5)}) &&
-               Shows({shown.topLeft() + QPoint(shown.width() + 1, shown.height() + 1), QSize(5, 5)});
+        return ShowsFirst(shown) && ShowsLast(shown);
+    }
+    /// The first and the fifth handle stand at the corners, a pixel of frame round each.
+    bool ShowsFirst(const QRect& shown) const { return Shows({shown.topLeft() - QPoint(6, 6), QSize(5, 5)}); }
+    bool ShowsLast(const QRect& shown) const {
+        return Shows({shown.bottomRight() + QPoint(2, 2), QSize(5, 5)});
     }
     /// What of the square lies on the canvas has the colour.
     bool Shows(const QRect& square) const {

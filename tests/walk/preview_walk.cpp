@@ -120,15 +120,18 @@ protected:
                 return window_.topLeft() + PlaceIn(element, window_.size()).center();
         throw std::runtime_error(key);
     }
-    void DragFrom(const char* key, const QPoint& by) {
+    /// `seen` while the button is down: not every manager lets a quick hand's events through in their order.
+    void DragFrom(const char* key, const QPoint& by, const QPoint& seen = {}) {
         const QPoint from = On(key);
         desktop_.Press(from);
         desktop_.MoveTo(from + by / 3);
         desktop_.MoveTo(from + by);
+        const QPoint corner = window_.topLeft() + seen;
+        desktop_.WaitFor("a drag", [&] { return desktop_.Inside(preview_).topLeft() == corner; });
         desktop_.Release();
     }
     void MoveAndResize() {
-        DragFrom("Dragger", {137, 91});
+        DragFrom("Dragger", {137, 91}, {137, 91});
         BecomesAt(window_.translated(137, 91));
         DragFrom("Grip", {45, 30});
         BecomesAt({window_.topLeft(), window_.size() + QSize(45, 30)});

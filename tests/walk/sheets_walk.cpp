@@ -19,7 +19,7 @@ protected:
         SkinText skin("Walk", {1000, 700});
         for (const QPoint at : {QPoint(30, 30), QPoint(970, 30), QPoint(970, 670), QPoint(30, 670)})
             skin.AddPoint(at.x(), at.y());
-        skin.AddElement("Play", 1, {700, 100, 120, 60});
+        skin.AddElement("Play", 1, {100, 400, 120, 60});  // on the side where no tool window stands
         WriteSkin(skin);
         desktop_.StartProgram({Path("")});
         main_ = desktop_.Window("^Ornavo");
@@ -29,7 +29,7 @@ protected:
     }
     void ClickCanvas(const QPoint& at) { desktop_.Click(desktop_.Inside(main_).topLeft() + at); }
     void ClickGround() {
-        ClickCanvas({10, 400});
+        ClickCanvas({10, 300});
         desktop_.WaitUntilGone("^Properties$");
     }
     void SheetBecomes(int rows) {
@@ -78,7 +78,7 @@ protected:
 
 TEST_F(SheetsWalk, Sheets) {
     Start();
-    ClickCanvas({760, 130});
+    ClickCanvas({160, 430});
     sheet_ = desktop_.Window("^Properties$");
     desktop_.Place(sheet_, SheetPlace);
     SheetBecomes(ButtonRows - 1);
@@ -96,12 +96,12 @@ TEST_F(SheetsWalk, Sheets) {
     Type(CornerY, "33");
     Keys({"Tab", "Down"});
     ClickGround();
-    ClickCanvas({760, 130});
+    ClickCanvas({160, 430});
     SheetBecomes(ButtonRows);
-    Type(ButtonX, "705");
+    Type(ButtonX, "105");
     Save();
     for (const char* line : {"<ElementName>Go<", "<ActionType>10<", "<Name>Verdana<", "<Bold>True<",
-                             "<PicNormal>new.bmp<", "<Y>33<", "<HAlign>1<", "<LeftX>705<"})
+                             "<PicNormal>new.bmp<", "<Y>33<", "<HAlign>1<", "<LeftX>105<"})
         EXPECT_EQ(Saved().count(line), 1) << line;
     Close();
 }

@@ -15,40 +15,30 @@ namespace ornavo::walk {
 /// from the left and the top, if `more` says nothing else.
 class SkinText {
 public:
-    SkinText(const QString& name, const QSize& size, const QString& preferences = {})
-        : head_(QString("<Skin><SkinName>%1</SkinName><SkinWidth>%2</SkinWidth><SkinHeight>%3</SkinHeight>"
-                        "<SkinPrefs>%4</SkinPrefs><Layouts><Layout><Key>Standard</Key><LayoutName>Standard"
-                        "</LayoutName><Points>")
-                    .arg(name)
-                    .arg(size.width())
-                    .arg(size.height())
-                    .arg(preferences)) {}
+    SkinText(const QString& name, const QSize& size)
+        : head_(
+              QString(
+                  "<Skin><SkinName>%1</SkinName><SkinWidth>%2</SkinWidth><SkinHeight>%3</SkinHeight><Layouts>"
+                  "<Layout><Key>Standard</Key><LayoutName>Standard</LayoutName><Points>")
+                  .arg(name, Number(size.width()), Number(size.height()))) {}
     void AddPoint(int x, int y, const QString& more = {}) {
         points_ += QString("<Point><Order>%1</Order><X>%2</X><Y>%3</Y>%4</Point>")
-                       .arg(++pointOrder_)
-                       .arg(x)
-                       .arg(y)
-                       .arg(more);
+                       .arg(Number(++pointOrder_), Number(x), Number(y), more);
     }
     void AddElement(const QString& key, int type, const QRect& at,
                     const QString& more = "<LockLeft>True</LockLeft><LockTop>True</LockTop>") {
         elements_ +=
             QString(
-                "<Element><Key>%1</Key><Order>%7</Order><ElementType>%2</ElementType><LeftX>%3</LeftX>"
-                "<TopY>%4</TopY><WidthX>%5</WidthX><HeightY>%6</HeightY><Visible>True</Visible>")
-                .arg(key)
-                .arg(type)
-                .arg(at.x())
-                .arg(at.y())
-                .arg(at.width())
-                .arg(at.height())
-                .arg(++elementOrder_) +
-            more + "</Element>";
+                "<Element><Key>%1</Key><Order>%2</Order><ElementType>%3</ElementType><LeftX>%4</LeftX>"
+                "<TopY>%5</TopY><WidthX>%6</WidthX><HeightY>%7</HeightY><Visible>True</Visible>%8"
+                "</Element>")
+                .arg(key, Number(++elementOrder_), Number(type), Number(at.x()), Number(at.y()),
+                     Number(at.width()), Number(at.height()), more);
     }
     QByteArray Bytes() const {
-        const QString text =
+        QString text =
             head_ + points_ + "</Points><Elements>" + elements_ + "</Elements></Layout></Layouts></Skin>";
-        return QString(text).replace("><", ">\r\n<").toLatin1() + "\r\n";
+        return text.replace("><", ">\r\n<").toLatin1() + "\r\n";
     }
 
 private:
