@@ -112,12 +112,10 @@ TEST(Model, TheCatalogueIsWholeAndUpgrades) {
     ASSERT_EQ(skin.dbSkinPrefs->Count(), 181);
     EXPECT_EQ(skin.dbSkinPrefs->Item(1)->Caption, "Hell");
     EXPECT_EQ(skin.dbSkinPrefs->Item(181)->Key, "LA_ShadowColor");
-    const std::pair<const char*, Value> rows[] = {{"SP_ColLight", 5},
-                                                  {"AA_Caption", "\u00EC"},
-                                                  {"SP_ColBack", 0xFFC0C0},
-                                                  {"PI_HeightFactor", 1.55},
-                                                  {"AA_Shadow", true}};
-    for (const auto& [key, value] : rows) EXPECT_EQ(skin.dbSkinPrefs->Item(key)->value, value) << key;
+    std::string values;
+    for (const char* key : {"SP_ColLight", "AA_Caption", "SP_ColBack", "PI_HeightFactor", "AA_Shadow"})
+        values += skin.dbSkinPrefs->Item(key)->value.ToText() + " ";
+    EXPECT_EQ(values, "5 \u00EC 16761024 1.55 True ");
 }
 
 TEST(Model, FieldsAreReachedByName) {
