@@ -151,10 +151,11 @@ protected:
     }
     void Do(const Step& step) {
         const QPoint at = canvas_.topLeft() + step.at;
-        const QRect toolbox = desktop_.Inside(toolbox_);
-        const int windows = desktop_.WindowCount("^Properties$");
+        QRect toolbox;
+        int windows = 0;
         switch (step.action) {
             case Add:
+                toolbox = desktop_.Inside(toolbox_);
                 desktop_.Click(toolbox.topLeft() +
                                QPoint(toolbox.width() * (2 * step.at.x() + 1) / 4, 30 + 60 * step.at.y()));
                 break;
@@ -175,6 +176,7 @@ protected:
                 desktop_.Click(at, 3);
                 break;
             case Menu:
+                windows = desktop_.WindowCount("^Properties$");
                 desktop_.Click(at, 3);
                 desktop_.WaitFor("a menu", [&] { return desktop_.WindowCount("^Properties$") > windows; });
                 Keys({step.keys});

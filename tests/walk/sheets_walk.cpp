@@ -33,8 +33,13 @@ protected:
         desktop_.WaitUntilGone("^Properties$");
     }
     void SheetBecomes(int rows) {
+        sheet_ = desktop_.Window("^Properties$");
         desktop_.WaitFor("a sheet of " + std::to_string(rows) + " rows",
                          [&] { return desktop_.Inside(sheet_).height() == RowHeight * rows - 1; });
+    }
+    QRgb Ground(int row) {
+        return desktop_.Pixel(desktop_.Inside(sheet_).topLeft() +
+                              QPoint(ValueLeft + 100, RowHeight * row + 3));
     }
     void ClickRow(int row) {
         desktop_.Click(desktop_.Inside(sheet_).topLeft() +
@@ -85,12 +90,13 @@ TEST_F(SheetsWalk, Sheets) {
     Type(ButtonName, "Go");
     Keys(QStringList(2, "Tab") + QStringList(10, "Down"));  // an action with an amount
     SheetBecomes(ButtonRows);
+    desktop_.WaitFor("the heading behind the new row",
+                     [&] { return Ground(6) == Ground(1) && Ground(5) != Ground(1); });
     ChooseFont();
     ChoosePicture();
     const QPoint place = desktop_.Inside(sheet_).topLeft();
     ClickGround();
     ClickCanvas({30, 30});
-    sheet_ = desktop_.Window("^Properties$");
     SheetBecomes(CornerRows);
     EXPECT_TRUE(desktop_.Inside(sheet_).topLeft() == place) << "of another height";
     Type(CornerY, "33");
