@@ -15,6 +15,7 @@ namespace {
 
 constexpr QRgb FrameColour = qRgb(40, 36, 32);
 
+/// Pointer and tool tip of a handle.
 struct HandleLook {
     MousePointer pointer;
     const char* tip;
@@ -30,7 +31,7 @@ constexpr std::array<HandleLook, 8> Looks = {{
     {PointerLeftRight, "Drag to move the left edge"},
 }};
 
-/// Framed in dark, so that it is seen on any ground.
+/// A handle with a dark frame, so that it is visible on any background.
 class Handle : public PictureBox {
 public:
     using PictureBox::PictureBox;
@@ -94,7 +95,7 @@ void Anchors::HideSelectionTools() {
     ShowHandles(false);
     HideProperties();
     parts_.selection.Clear();
-    // A hidden control hears of no release.
+    // A hidden control gets no release event.
     parts_.drag.End();
 }
 
@@ -110,7 +111,7 @@ void Anchors::FollowSelection() {
     RaiseHandles();
 }
 
-/// A control for the selected element, which is kept until elements are shown again.
+/// A hidden control for the selected element while no elements are shown.
 Control* Anchors::Unseen() {
     const dbLayoutElementRef element = SelectedElement(parts_);
     return element && ElementsAreHidden(*parts_.selection.SelControl()) ? &ControlOf(*element) : nullptr;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The eight handles around the selection, the record of its bounds, and the selection's coming and going.
+// The eight handles around the selection, and selecting and deselecting with them.
 #pragma once
 
 #include <array>
@@ -9,29 +9,30 @@
 
 namespace ornavo {
 
+/// The handles and the frame of the selected control.
 class Anchors {
 public:
-    /// The handles become children of the canvas, hidden; the listener hears their mouse.
+    /// The handles become hidden children of the canvas; the listener gets their mouse events.
     Anchors(CanvasParts& parts, ControlEvents* listener);
     Anchors(const Anchors&) = delete;
     Anchors& operator=(const Anchors&) = delete;
 
-    /// Handles and Mover around the selected control; hidden where there is none, or where it is hidden.
+    /// Places handles and Mover around the selected control; hides them if there is none or it is hidden.
     void PlaceAnchors();
-    /// The control becomes the selection, and the handles show. One that is hidden hides the handles.
+    /// Selects the control and shows the handles. If the control is hidden, hides the handles instead.
     void SelectWithAnchors(Control& control);
-    /// Hides handles and Mover, and the properties panel unless KeepPropertiesOpen holds it.
+    /// Hides handles and Mover, and the properties panel too unless KeepPropertiesOpen is in force.
     void HideAnchors();
-    /// Nothing is selected any more.
+    /// Clears the selection and hides its handles. Does nothing without a selected control.
     void ResetSelection();
-    /// As it must be when another skin or layout takes the place: nothing selected, no panel, no drag.
+    /// Prepares for another skin or layout: clears the selection, hides the panel and ends a drag.
     void HideSelectionTools();
-    /// After a composition, which deals all slots anew: the selection is again the control whose Tag is
-    /// SelKey, or nothing. The handles stay where they are, in front.
+    /// Call after a composition, which hands out all slots anew: selects the control whose Tag is SelKey, or
+    /// clears the selection. The handles keep their places and come to the front.
     void FollowSelection();
 
     std::array<PictureBox*, 8> Anchor;  // clockwise from the top left; owned by the canvas
-    Control Mover;                      // the selection's bounds; see-through for eye and mouse
+    Control Mover;                      // has the selection's bounds; invisible, and ignored by the mouse
 
 private:
     void HideProperties();

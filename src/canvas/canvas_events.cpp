@@ -17,6 +17,7 @@ namespace ornavo {
 namespace {
 
 using Handler = void (*)(CanvasParts&, Control&, const Mouse&);
+/// The three handlers of a gesture.
 struct Gesture {
     Handler down, move, up;
 };
@@ -52,7 +53,7 @@ CanvasEvents::CanvasEvents(CanvasParts& parts) : parts_(parts), readOut_(parts.f
 
 void CanvasEvents::MouseDown(Control& control, const Mouse& mouse) {
     pressedTwice_ = nullptr;
-    // A second button during a drag is a slip of the hand. With no other held, a release was lost.
+    // Ignore a second button that is pressed during a drag. If no other button is held, a release was lost.
     if (parts_.drag.MouseIsDown() && AnotherIsHeld(mouse.button)) return;
     FinishDrag(parts_);
     readOut_.hide();
@@ -65,7 +66,7 @@ void CanvasEvents::MouseMove(Control& control, const Mouse& mouse) {
     if (parts_.form.testAttribute(Qt::WA_SetCursor)) parts_.form.unsetCursor();
     if (pressedTwice_ == &control && mouse.button & LeftButton) MouseDown(control, secondPress_);
     if (!parts_.drag.MouseIsDown()) return;
-    if (mouse.button == 0) {  // the release went elsewhere
+    if (mouse.button == 0) {  // the release went to another window
         lastPlace_ = OnScreen(control, mouse);
         return MouseUp(control, {button_, mouse.shift, mouse.x, mouse.y});
     }
@@ -82,14 +83,14 @@ void CanvasEvents::MouseUp(Control& control, const Mouse& mouse) {
     pressedTwice_ = nullptr;
     if (parts_.drag.MouseIsDown() && mouse.button != button_) return;
     readOut_.hide();
-    if (!parts_.form.isVisible()) return;  // the preview has come and ended the drag
-    // A quick hand's last move may be lost to a later one that waits behind the release.
+    if (!parts_.form.isVisible()) return;  // the preview has been opened and has ended the drag
+    // The last move may be missing: Qt drops a move if a later one is queued, even behind the release.
     if (parts_.drag.MouseIsDown() && OnScreen(control, mouse) != lastPlace_)
         Drag(control, {button_, mouse.shift, mouse.x, mouse.y});
     Attempt([&] { GestureOf(control).up(parts_, control, mouse); });
 }
 
-/// The drag begins with the first move, from where the second press was.
+/// The drag begins with the first move, from the place of the second press.
 void CanvasEvents::DblClick(Control& control, const Mouse& mouse) {
     pressedTwice_ = &control;
     secondPress_ = mouse;

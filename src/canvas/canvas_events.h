@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which gesture an event of the mouse belongs to, by the name of the control under it.
+// Dispatches mouse events to gestures by the name of the control under the pointer.
 #pragma once
 
 #include "canvas/canvas_parts.h"
@@ -8,6 +8,7 @@
 
 namespace ornavo {
 
+/// The listener of all controls on the canvas.
 class CanvasEvents : public ControlEvents {
 public:
     explicit CanvasEvents(CanvasParts& parts);
@@ -17,7 +18,7 @@ public:
     void MouseUp(Control& control, const Mouse& mouse) override;
     void DblClick(Control& control, const Mouse& mouse) override;
 
-    /// The mouse on the bare canvas, in its pixels. True if the press has inserted a corner.
+    /// A press on the canvas itself, in its pixels. True if it has inserted a corner.
     bool Form_MouseDown(int x, int y);
     void Form_MouseMove(int x, int y);
 
@@ -26,10 +27,10 @@ private:
 
     CanvasParts& parts_;
     ReadOut readOut_;
-    int button_ = 0;                   // that began the drag
-    QPoint lastPlace_;                 // of the drag, on the screen
-    Control* pressedTwice_ = nullptr;  // by a double click, and still held
-    Mouse secondPress_;                // of that control
+    int button_ = 0;                   // the button that began the drag
+    QPoint lastPlace_;                 // last place of the drag on the screen, pixels
+    Control* pressedTwice_ = nullptr;  // control of a double click whose button is still held
+    Mouse secondPress_;                // position of that double click
 };
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a gesture on the canvas may touch.
+// What the gestures on the canvas work with.
 #pragma once
 
 #include <functional>
@@ -17,6 +17,7 @@ class Anchors;
 class LayoutHost;
 class ShapePoints;
 
+/// References to the parts of the main window, for gestures, keys and menus.
 struct CanvasParts {
     Form& form;
     Canvas& canvas;
@@ -27,8 +28,8 @@ struct CanvasParts {
     DragState& drag;
     Selection& selection;
     QTimer& tmrShowProperties;
-    std::function<void()> showGrid;       // paints the surface anew
-    std::function<void()> composed = {};  // after each composition, where somebody wants to hear of it
+    std::function<void()> showGrid;       // redraws the surface
+    std::function<void()> composed = {};  // called after each composition; may be empty
 };
 
 }  // namespace ornavo

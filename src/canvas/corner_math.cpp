@@ -13,7 +13,7 @@ namespace {
 constexpr int NearEdge = 100;  // pixels
 constexpr int SideMargin = 3;
 
-/// How far the handle goes back in one direction.
+/// How far the handle moves to the left or up, in pixels.
 double StepBack(int down, int pointer, bool snap, int spacing) {
     const double way = static_cast<double>(down) - pointer;
     if (!snap) return way;

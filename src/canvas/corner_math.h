@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Dragging a corner and aligning a new one, as numbers to numbers. Pixels of the canvas.
+// The arithmetic of dragging a corner and aligning a new one. All values are pixels of the canvas.
 #pragma once
 
 #include <optional>
@@ -8,26 +8,26 @@
 
 namespace ornavo {
 
-inline constexpr int CornerSize = 5, CornerReach = 2;  // the handle's edge, and its centre from its top left
+inline constexpr int CornerSize = 5, CornerReach = 2;  // width of the handle; from its top left to its centre
 
-/// One move of the pointer over a handle that is held.
+/// A move of the pointer while a corner's handle is held.
 struct CornerDrag {
-    Point handle;         // its top left
+    Point handle;         // the top left of the handle
     Point down, pointer;  // in the handle's own pixels
     bool snap = false;
     int gridX = 1, gridY = 1;
     Size canvas;
 };
 
-/// Where the handle's top left goes, so that its centre stays on the canvas; nothing where the pointer has
-/// not moved. Steps down follow the grid's X and steps across its Y.
+/// The new top left of the handle, limited so that its centre stays on the canvas; empty if the pointer has
+/// not moved. With `snap`, vertical steps are multiples of gridX and horizontal ones of gridY.
 std::optional<Point> CornerStep(const CornerDrag& drag);
 
-/// How a new corner is aligned in one direction: near an end of the canvas to that end, elsewhere as the
-/// corner before it.
+/// The alignment of a new corner in one direction: to an end of the canvas that is nearer than 100 pixels,
+/// otherwise as the corner before it.
 int AlignOfNewPoint(int at, int extent, int alignBefore);
 
-/// Whether the place is on the box of a side or within 3 pixels of it.
+/// Whether the point is in the bounding box of a side, widened by 3 pixels.
 bool IsNearSide(Point at, Point from, Point to);
 
 }  // namespace ornavo

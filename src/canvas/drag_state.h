@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A drag on the canvas, from the press to the release.
+// The state of a drag on the canvas, from the press to the release.
 #pragma once
 
 #include "base/failure.h"
@@ -9,8 +9,9 @@
 namespace ornavo {
 
 enum DragKindCode { DragNone, DragElement, DragMain, DragInfo, DragAnchor, DragSearchBox, DragScrollframe };
-inline constexpr int DragCorner = DragInfo;  // a corner of the shape shares the number of an info element
+inline constexpr int DragCorner = DragInfo;  // a corner has the same number as an info element
 
+/// Which kind of control is dragged and where it was pressed.
 class DragState {
 public:
     void Begin(int kind, const Mouse& press) {
@@ -21,10 +22,10 @@ public:
     bool Is(int kind) const { return kind_ == kind; }
     bool MouseIsDown() const { return kind_ != DragNone; }
 
-    Point Down() const { return down_; }  // the press, in the pressed control's pixels
+    Point Down() const { return down_; }  // the place of the press, in the pressed control's pixels
     Point Way(const Mouse& mouse) const { return {mouse.x - down_.x, mouse.y - down_.y}; }
 
-    /// While the scope lives, code moves controls, and mouse handlers that honour it do nothing.
+    /// While the result lives, code moves controls, and mouse handlers that check IsPlacing do nothing.
     [[nodiscard]] Raised Placing() { return Raised(isPlacing_); }
     bool IsPlacing() const { return isPlacing_; }
 

@@ -14,10 +14,11 @@
 namespace ornavo {
 namespace {
 
+/// How a family of elements is dragged.
 struct ElementDrag {
     DragKindCode kind;
-    int deadZone;             // pixels, inclusive, within which the drag has not begun
-    bool resetsWhilePlacing;  // a press drops the old selection even while code moves controls
+    int deadZone;             // pixels; a move of at most this distance does not drag
+    bool resetsWhilePlacing;  // a press clears the selection even while code moves controls
 };
 constexpr std::array<ElementDrag, 5> Drags = {{
     {DragElement, 1, false},  // in the order of ElementKind
@@ -31,7 +32,7 @@ const ElementDrag& DragOf(const Control& control) {
     return RowOf(Drags, FamilyOf(control)->kind);
 }
 
-/// The bar's mouse is that of its frame.
+/// A press on the bar selects its frame.
 Control& Selectable(CanvasParts& parts, Control& control) {
     return &control == &parts.host.ScrollBar ? parts.host.Scrollframe : control;
 }

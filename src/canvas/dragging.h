@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Press, drag and release of the controls that show an element: one table of families, one road.
+// Pressing, dragging and releasing the controls of elements. One table serves all families.
 #pragma once
 
 #include "canvas/canvas_parts.h"
@@ -7,13 +7,14 @@
 
 namespace ornavo {
 
-/// Selects; begins a drag, or with the right button pops up the element's menu. The handlers serve each
-/// family: Element, pMain, pInfo, tbx_Search, Scrollframe and its ScrollBar.
+/// A press selects the control; then it begins a drag, or with the right button it opens the element's menu.
+/// The handlers serve the families Element, pMain, pInfo, tbx_Search and Scrollframe with its ScrollBar.
 void Element_MouseDown(CanvasParts& parts, Control& control, const Mouse& mouse);
 void Element_MouseMove(CanvasParts& parts, Control& control, const Mouse& mouse);
 void Element_MouseUp(CanvasParts& parts, Control& control, const Mouse& mouse);
 
-/// Ends a drag whose release will not be heard; what was dragged stays where it is. Nothing without a drag.
+/// Ends a drag whose release event will be missing; the dragged control stays where it is. Does nothing
+/// without a drag.
 void FinishDrag(CanvasParts& parts);
 
 }  // namespace ornavo

@@ -66,7 +66,7 @@ void WriteSelectedBounds(CanvasParts& parts) {
 }
 
 void FocusForm(CanvasParts& parts) {
-    // To Qt a window is active while one of its tool windows is; the keyboard is that one's then.
+    // For Qt, a window is active while one of its tool windows is active; the focus would stay there.
     if (QApplication::activeWindow() != &parts.form) parts.form.activateWindow();
     parts.form.setFocus();
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controls that show an element, on the canvas.
+// Elements and their controls on the canvas.
 #pragma once
 
 #include "canvas/canvas_parts.h"
@@ -8,24 +8,24 @@
 
 namespace ornavo {
 
-/// The control in the window that shows the element with the key; null where none does. That of an element
-/// that is not visible is found too.
+/// The control that shows the element with this key, even if the element is not visible; null if there is
+/// none.
 Control* ElementControl(LayoutHost& host, const std::string& key);
-/// Whether the control stands for an element while the view shows none.
+/// Whether this is the control of an element while the view switches hide all elements.
 bool ElementsAreHidden(const Control& control);
 
-/// Null where none is selected, and for a corner.
+/// Null without a selection and for a corner.
 dbLayoutElementRef SelectedElement(const CanvasParts& parts);
 
-/// What follows the selected control's bounds: the bar of a scroll frame.
+/// Moves the scroll bar if its frame is selected; call after the frame's bounds have changed.
 void ScrollBarFollows(CanvasParts& parts);
-/// The panel and the sample on it drawn anew at their size.
+/// Redraws the panel and its sample; call after the panel's size has changed.
 void PanelFollows(CanvasParts& parts);
-/// The selected control's bounds become its element's; nothing happens where there is no such element.
+/// Writes the selected control's bounds to its element; does nothing without one.
 void WriteSelectedBounds(CanvasParts& parts);
-/// The keyboard goes back to the canvas.
+/// Gives the keyboard focus to the canvas.
 void FocusForm(CanvasParts& parts);
-/// The skin has changed, and the caption says so.
+/// Marks the skin as changed and updates the window's caption.
 void MarkDirty(CanvasParts& parts);
 
 }  // namespace ornavo

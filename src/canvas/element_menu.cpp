@@ -28,10 +28,11 @@ void SendToBack(CanvasParts& parts) {
     parts.canvas.UpdateCurrentLayout();
 }
 
+/// An item of the menu.
 struct MenuRow {
     int index;
     const char* caption;
-    bool forStandard;              // the standard elements have it too
+    bool forStandard;              // enabled for the standard elements too
     void (*effect)(CanvasParts&);  // null: a separator
 };
 constexpr std::array mnuElementSub = {

@@ -17,11 +17,11 @@ enum ElementMenuItem {
     MenuBackgroundPicture = 32
 };
 
-/// Shows the menu at that place of the screen and does what is chosen. Of a standard element only the
-/// stacking items can be.
+/// Opens the menu at a place of the screen and runs the chosen item. Only the stacking items are enabled for
+/// a standard element.
 void PopupElementMenu(CanvasParts& parts, const QPoint& at, bool isStandard);
 
-/// What an item does to the selected element; nothing where there is none.
+/// Runs an item on the selected element; does nothing without one.
 void mnuElementSub_Click(CanvasParts& parts, int index);
 
 }  // namespace ornavo

@@ -26,7 +26,7 @@ namespace ornavo {
 namespace {
 
 constexpr int SelectorInterval = 500, ResizerInterval = 200, ShowPropertiesInterval = 500;  // milliseconds
-constexpr int LeastTwips = 9000;  // the window's least width and height, outside
+constexpr int LeastTwips = 9000;  // the window's least outer width and height
 
 bool SkinIsOpen() {
     return objSkin && objCurrentLayout && !objSkin->SkinName.empty();
@@ -140,7 +140,7 @@ void frm_Ornavo::tmrSelector_Timer() {
 
 void frm_Ornavo::UpdateCurrentLayout() {
     UpdateCaption();
-    // A composition hides all controls, and a hidden one hears of no release.
+    // A composition hides all controls, and a hidden control gets no release event.
     if (TargetLayout == objCurrentLayout)
         FinishDrag(parts_);
     else
@@ -153,7 +153,7 @@ void frm_Ornavo::UpdateCurrentLayout() {
 
 bool frm_Ornavo::BeginPreview() {
     if (!LayoutIsOpen()) return false;
-    if (QWidget* focus = QApplication::focusWidget()) focus->clearFocus();  // what was typed there counts
+    if (QWidget* focus = QApplication::focusWidget()) focus->clearFocus();  // commits what was typed there
     FinishDrag(parts_);
     windows_.properties().DrawPendingEdits();
     if (tmrResizer.isActive()) tmrResizer_Timer();
@@ -166,7 +166,7 @@ void frm_Ornavo::EndPreview() {
     UpdateCurrentLayout();
 }
 
-/// A designer comes back from a paint program.
+/// Loads pictures again that were edited in another program.
 void frm_Ornavo::ApplicationStateChanged(Qt::ApplicationState state) {
     const bool shows = SkinIsOpen() && isVisible() && !drag_.MouseIsDown();
     if (state == Qt::ApplicationActive && shows && PicturesChanged()) UpdateCurrentLayout();
@@ -195,7 +195,7 @@ void frm_Ornavo::ResetFormToOriginal() {
 }
 
 void frm_Ornavo::ShowWelcome() {
-    // What has no file has no size either.
+    // A skin without a file has no size.
     if (LayoutIsOpen())
         welcome_.Leave();
     else
@@ -228,7 +228,7 @@ void frm_Ornavo::mouseMoveEvent(QMouseEvent* event) {
     events_.Form_MouseMove(at.x(), at.y());
 }
 
-void frm_Ornavo::mouseDoubleClickEvent(QMouseEvent*) {}  // the first press has done it
+void frm_Ornavo::mouseDoubleClickEvent(QMouseEvent*) {}  // the first press was handled already
 
 void frm_Ornavo::Form_Unload() {
     hasGone_ = true;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The main window: the canvas on which a layout stands as the jukebox would show it. Its life, its settings,
-// its timers; owner of the parts that the gestures work on.
+// The main window: the canvas, which shows a layout as the jukebox would. It loads and saves its settings,
+// runs its timers and owns the parts that the gestures work on.
 #pragma once
 
 #include <QTimer>
@@ -19,18 +19,19 @@
 
 namespace ornavo {
 
+/// The main window and canvas.
 class frm_Ornavo : public Form, public CompositionTarget, public Canvas {
     Q_OBJECT
 public:
-    /// `version` is shown while no skin is open.
+    /// `version` is in the caption while no skin is open.
     frm_Ornavo(Windows& windows, std::string version);
 
-    /// Shows the window with its first activation done, so that the first picture of it is complete.
+    /// Loads the skin of the command line before showing the window, so that it is complete when it appears.
     void Start(std::string commandLine);
 
-    /// Finishes what is being edited, for another window takes the composition. False without a layout.
+    /// Finishes all edits, because another window becomes the target of compositions. False without a layout.
     bool BeginPreview();
-    /// Takes it back; element and control are tied again as this window's own controls are.
+    /// Makes this window the target again and composes it, so that elements have its controls again.
     void EndPreview();
 
     void UpdateCurrentLayout() override;
@@ -53,9 +54,9 @@ public:
 
     CanvasParts& parts() { return parts_; }
 
-    QTimer tmrSelector;        // 500 ms, always: a selected corner blinks
+    QTimer tmrSelector;        // every 500 ms; makes a selected corner blink
     QTimer tmrResizer;         // 200 ms after the last resize
-    QTimer tmrShowProperties;  // 500 ms after the last key
+    QTimer tmrShowProperties;  // 500 ms after the last key that moved something
     void tmrSelector_Timer();
     void tmrResizer_Timer();
 
@@ -69,7 +70,7 @@ protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseDoubleClickEvent(QMouseEvent*) override;
-    bool focusNextPrevChild(bool) override { return false; }  // Tab is a key of the canvas like others
+    bool focusNextPrevChild(bool) override { return false; }  // Tab is a key of the canvas
 
 private:
     void Form_Load();
@@ -80,11 +81,11 @@ private:
     void ApplicationStateChanged(Qt::ApplicationState state);
 
     Windows& windows_;
-    bool hasGone_ = false;  // closed: what is composed after it is for the project panel that stayed
+    bool hasGone_ = false;  // closed; a later composition for the project panel must not show it
     std::string version_;
     std::string commandLine_;
-    std::string problem_;   // why the skin of the command line could not be opened
-    std::string notFound_;  // the command line, when it leads to no skin
+    std::string problem_;   // the error of opening the command line's skin
+    std::string notFound_;  // the command line if there is no such skin
     DragState drag_;
     Selection selection_;
     CanvasParts parts_;

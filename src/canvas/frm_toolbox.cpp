@@ -24,10 +24,10 @@ namespace {
 
 constexpr int PictureSize = 32, SmallPictureSize = 16;  // pixels
 constexpr int Margin = 4, RowGap = 2;
-constexpr int LeastColumn = 76;  // the window's title wants room too
+constexpr int LeastColumn = 76;  // wide enough for the window's title
 constexpr int SpacingWidth = 64;
 constexpr int CheckHeight = 16, SpacingHeight = 20,
-              CommandHeight = 23;  // low, so that the magnifier has room below
+              CommandHeight = 23;  // small, so that the magnifier has room below
 
 QFrame* Separator(QWidget* parent, const char* name) {
     auto* line = new QFrame(parent);
@@ -36,7 +36,7 @@ QFrame* Separator(QWidget* parent, const char* name) {
     return line;
 }
 
-/// The whole number of a text, at least 1; what is none is 1 too.
+/// The integer in the text, at least 1; 1 if the text is not a number.
 int SpacingOf(const QString& text) {
     int spacing = 0;
     Attempt([&] { spacing = ToLong(ToNumber(text.toStdString())); });
@@ -80,7 +80,7 @@ frm_Toolbox::frm_Toolbox(CanvasParts& parts) : Form(&parts.form, "frm_Toolbox", 
     parts_.composed = [this] { EnableAdders(); };
 }
 
-// A box that has the focus is left now, while there is still somebody to hear of it.
+// Hiding ends the editing of a box that has the focus while the handlers still exist.
 frm_Toolbox::~frm_Toolbox() {
     hide();
     parts_.composed = nullptr;
@@ -180,7 +180,7 @@ void frm_Toolbox::Connect() {
 }
 
 void frm_Toolbox::Open() {
-    if (!loaded_) {  // one that was only hidden comes back where it was
+    if (!loaded_) {  // a window that was only hidden keeps its place
         Form_Load();
         parts_.windows.ArrangeTools();
     }
@@ -188,7 +188,7 @@ void frm_Toolbox::Open() {
     show();
 }
 
-/// Each control shows its switch; the canvas then shows them all at once.
+/// Sets each control from its switch without signals, then repaints the canvas once.
 void frm_Toolbox::Form_Load() {
     adjustSize();
     Rect place = TwipBounds();
@@ -232,7 +232,7 @@ void frm_Toolbox::ShowElementsChanged() {
         parts_.anchors.ResetSelection();
     if (!viewSwitches.ShowElements) parts_.anchors.HideAnchors();
     Recompose();
-    // What was added unseen is shown as the selection now.
+    // An element that was added while elements were hidden is selected now.
     if (Control* selected = parts_.selection.SelControl(); selected && FamilyOf(*selected))
         parts_.anchors.SelectWithAnchors(*selected);
 }

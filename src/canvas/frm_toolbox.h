@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The small window beside the canvas: new elements, what the canvas shows, the grid's spacing.
+// The toolbox beside the canvas: adding elements, the view switches, the grid's spacing.
 #pragma once
 
 #include "canvas/canvas_parts.h"
@@ -12,14 +12,15 @@ class QLineEdit;
 
 namespace ornavo {
 
+/// The toolbox window.
 class frm_Toolbox : public Form {
     Q_OBJECT
 public:
-    /// Owned by the canvas's window. `parts` is used as long as it lives.
+    /// Owned by the canvas's window; `parts` must live longer.
     explicit frm_Toolbox(CanvasParts& parts);
     ~frm_Toolbox() override;
 
-    /// Shown at its place of the last time, if it is hidden.
+    /// Shows the window, at its stored place if it was closed.
     void Open();
 
     TileCommand *btn_AddButton, *btn_AddGraphic, *btn_AddVolume, *btn_AddInfo, *btn_Preview, *btn_ResetView,
@@ -40,7 +41,7 @@ private:
     QCheckBox* Check(const char* name, const char* caption, const char* tip);
     QLineEdit* Spacing(const char* name, const char* says);
     void Arrange();
-    void EnableAdders();  // as long as there is a layout to add to
+    void EnableAdders();  // only while a layout is open
     void Connect();
     void Form_Load();
     void Switch(QCheckBox* box, bool& viewSwitch, void (frm_Toolbox::*refresh)());

@@ -11,7 +11,7 @@
 namespace ornavo {
 namespace {
 
-/// Which side a handle moves: -1 the near one, 1 the far one, 0 none.
+/// Which edges a handle moves: -1 left or top, 1 right or bottom, 0 none.
 struct HandleSides {
     int across, down;
 };
@@ -29,6 +29,7 @@ int Moved(int from, int way, bool snap, int spacing) {
     return to;
 }
 
+/// Start and length in one direction.
 struct Span {
     int start, extent;
 };
@@ -44,7 +45,7 @@ Span Sized(Span span, int side, int way, bool snap, int spacing) {
 int HandlePlace(Span span, int side) {
     if (side < 0) return span.start - HandleSize;
     if (side > 0) return span.start + span.extent;
-    constexpr int half = HandleSize / 2;  // of an odd size the smaller one
+    constexpr int half = HandleSize / 2;  // rounded down
     return ToLong(span.start + span.extent / 2.0 - half);
 }
 
@@ -56,7 +57,7 @@ int Grown(int extent, int by) {
 
 std::optional<Point> DragStep(Point corner, Point way, int deadZone, const Grid& grid) {
     if (std::abs(way.x) <= deadZone && std::abs(way.y) <= deadZone) return std::nullopt;
-    // The spacings are crossed here and straight in a resize: designers know the canvas so.
+    // Dragging uses the spacings crossed and resizing does not; users are used to that.
     return Point{Moved(corner.x, way.x, grid.snap, grid.y), Moved(corner.y, way.y, grid.snap, grid.x)};
 }
 

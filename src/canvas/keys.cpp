@@ -68,7 +68,7 @@ void Nudge(CanvasParts& parts, const Point& direction, int shift) {
 
 void Delete(CanvasParts& parts, const Point&, int shift) {
     const ElementFamily* family = FamilyOf(*parts.selection.SelControl());
-    // The standard elements take the key as an arrow that leads nowhere.
+    // For a standard element the key acts like an arrow key that does not move it.
     if (family && family->isStandard) return NudgeElement(parts, {0, 0}, shift);
     RemoveSelected(parts);
 }
@@ -90,6 +90,7 @@ void Step(CanvasParts& parts, const Point&, int shift) {
     StepSelection(parts, shift & ShiftKey ? -1 : 1);
 }
 
+/// What a key does.
 struct KeyRow {
     Qt::Key key;
     int shift;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The keyboard of the canvas as a table.
+// The keys of the canvas.
 #pragma once
 
 #include "canvas/canvas_parts.h"
 
 namespace ornavo {
 
-/// A key as Qt has it, and a ShiftMask. True if it has a meaning here.
+/// Handles a key press: a Qt::Key and a ShiftMask. True if the key has a meaning on the canvas.
 bool Form_KeyDown(CanvasParts& parts, int qtKey, int shift);
 
 }  // namespace ornavo

@@ -13,6 +13,7 @@
 namespace ornavo {
 namespace {
 
+/// The defaults of an element type: place and size in pixels, anchors and colour.
 struct NewElement {
     int left, top, width, height;
     bool lockLeft, lockTop, lockRight;
@@ -40,7 +41,7 @@ void SetDefaults(dbLayoutElement& element) {
     element.CapScrollSpeed = row.scrollSpeed;
 }
 
-/// Everything of the source but what tells the two apart.
+/// Copies all fields but those that identify the clone.
 void CopyFields(dbLayoutElement& clone, const dbLayoutElement& source) {
     dbLayoutElement copy = source;
     copy.Key = clone.Key;
@@ -50,8 +51,8 @@ void CopyFields(dbLayoutElement& clone, const dbLayoutElement& source) {
     clone = std::move(copy);
 }
 
-/// Composes the layout with the new element and shows it as the selection, which it is unseen too. The
-/// keyboard is then the canvas's.
+/// Composes the layout with the new element and selects it, even while elements are hidden. The canvas gets
+/// the keyboard focus.
 void SelectNewElement(CanvasParts& parts, dbLayoutElement& element) {
     objSkin->Dirty = true;
     parts.canvas.UpdateCurrentLayout();

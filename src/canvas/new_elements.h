@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// A new element or a clone: numbered alike, composed and selected alike.
+// Adds new elements and clones to the layout.
 #pragma once
 
 #include "canvas/canvas_parts.h"
 
 namespace ornavo {
 
-/// A new element of type 1 to 4 with its defaults, on top, selected.
+/// Adds an element of type 1 to 4 with its defaults, on top, and selects it.
 void AddElement(CanvasParts& parts, int elementType);
-/// A clone of the selected element, exactly over it, on top, selected.
+/// Adds a clone of the selected element at the same place, on top, and selects it.
 void CloneElement(CanvasParts& parts);
 
 }  // namespace ornavo

@@ -20,7 +20,7 @@
 namespace ornavo {
 namespace {
 
-/// Hides what belongs to the editor and not to the layout, while it lives.
+/// While it lives, hides the selected control and what belongs to the editor and not to the layout.
 class ToolsHidden {
 public:
     explicit ToolsHidden(CanvasParts& parts) {
@@ -49,7 +49,7 @@ private:
     std::vector<Control*> hidden_;
 };
 
-/// The canvas's own pixels there, one for each of the skin's; black beyond its edges.
+/// The canvas's pixels in the bounds, one for each pixel of the skin; black outside of the canvas.
 QImage PixelsOf(QWidget& canvas, const Rect& bounds) {
     if (std::int64_t{bounds.width} * bounds.height > PicturePixelLimit) return {};
     QImage pixels(bounds.width, bounds.height, QImage::Format_RGB32);
@@ -82,7 +82,7 @@ void UseBackgroundAsPicture(CanvasParts& parts) {
     const dbLayoutElementRef element = SelectedElement(parts);
     if (!element || objSkin->SkinName.empty()) return;
     const std::string name = CleanFileName(element->ElementName) + "_up.jpg";
-    MakePath(objSkin->SkinFolder());  // a new skin has none before its first save
+    MakePath(objSkin->SkinFolder());  // a new skin has no folder before its first save
     {
         const ToolsHidden hidden(parts);
         const QImage picCopyBackground = PixelsOf(parts.form, parts.selection.SelControl()->Bounds());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An element sized by its picture, and a picture made of what lies behind an element.
+// Menu items that concern an element's picture.
 #pragma once
 
 #include "base/geometry.h"
@@ -7,15 +7,15 @@
 
 namespace ornavo {
 
-extern Size PicRealSize;  // natural size of the last picture that ResetToOriginalSize loaded; 0 x 0 at first
+extern Size PicRealSize;  // size in pixels of the last picture ResetToOriginalSize loaded; 0 x 0 at first
 
-/// The selected element takes the natural size of its picture; where that can't be loaded, of the last one
-/// that was; where there was none, nothing happens.
+/// Gives the selected element the size of its picture; if that cannot be loaded, the size of the last one
+/// that could. Does nothing if there was none.
 void ResetToOriginalSize(CanvasParts& parts);
 
-/// The canvas as it is without the selected element, its handles and the shape's corners and sides becomes a
-/// JPEG file of the skin, named after the element, and the element's picture. Nothing changes when the file
-/// can't be written.
+/// Saves the canvas behind the selected element, without handles, corners and sides, as a JPEG file of the
+/// skin named after the element, and makes it the element's picture. Failure, with nothing changed, if the
+/// file cannot be written.
 void UseBackgroundAsPicture(CanvasParts& parts);
 
 }  // namespace ornavo

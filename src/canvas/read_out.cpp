@@ -24,7 +24,7 @@ QString NumbersOf(const Selection& dragged) {
     return QStringLiteral("%1, %2   %3 \u00D7 %4").arg(at.left).arg(at.top).arg(at.width).arg(at.height);
 }
 
-/// Beside the pointer, on its other side where the screen ends.
+/// The place beside the pointer; on its other side at the end of the screen.
 QPoint PlaceBeside(const QPoint& pointer, const QSize& size) {
     const QScreen* screen = QGuiApplication::screenAt(pointer);
     QPoint at = pointer + BesidePointer;
@@ -53,7 +53,7 @@ void ReadOut::ShowBeside(const QPoint& pointer, const Selection& dragged) {
     setText(NumbersOf(dragged));
     const QSize wanted = sizeHint();
     setGeometry(QRect(PlaceBeside(pointer, wanted), wanted));
-    dragged.SelControl()->installEventFilter(this);  // once, however often it is asked for
+    dragged.SelControl()->installEventFilter(this);  // installing it again has no effect
     show();
 }
 

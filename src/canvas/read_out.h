@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The numbers beside the pointer during a drag: place and size of what is dragged, in pixels of the canvas.
+// The read-out beside the pointer during a drag: position and size of the dragged control in pixels.
 #pragma once
 
 #include <QLabel>
@@ -8,12 +8,12 @@
 
 namespace ornavo {
 
-/// A small window of its own, so that a step of a drag repaints nothing more of the canvas. Goes when the
-/// control goes, since a hidden control hears of no release.
+/// A window of its own, so that a step of a drag repaints less of the canvas. It hides when the dragged
+/// control is hidden, because that gets no release event.
 class ReadOut : public QLabel {
 public:
     explicit ReadOut(QWidget& window);
-    /// `pointer`: on the screen.
+    /// `pointer` is in pixels of the screen.
     void ShowBeside(const QPoint& pointer, const Selection& dragged);
 
 protected:

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The selected element or corner is removed from the layout.
+// Removes the selected element or corner from the layout.
 #pragma once
 
 #include "canvas/canvas_parts.h"
 
 namespace ornavo {
 
-/// The standard elements stay, and so does what is no element and no corner.
+/// Removes the selected element or corner; something must be selected. Does nothing for a standard element or
+/// any other control.
 void RemoveSelected(CanvasParts& parts);
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A handle is dragged: the selected control takes its new bounds at once, its element at the release.
+// Resizing by a handle: the control changes at once, its element at the release.
 #pragma once
 
 #include "canvas/canvas_parts.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A click on a control of the panel's sample opens the sheet of its family. It has no element, and no
-// handles.
+// Clicks on a control of the sample panel, which open the sheet of its family. Such a control has no element
+// and no handles.
 #pragma once
 
 #include "canvas/canvas_parts.h"
@@ -8,7 +8,7 @@
 
 namespace ornavo {
 
-/// Released over the control; released elsewhere nothing happens.
+/// Does nothing if the button was released outside of the control.
 void Sample_MouseUp(CanvasParts& parts, Control& control, const Mouse& mouse);
 
 }  // namespace ornavo

@@ -28,7 +28,7 @@ void StepSelection(CanvasParts& parts, int step) {
     const auto count = std::ssize(shown);
     const auto found = std::ranges::find(shown, parts.selection.SelControl()) - shown.begin();
     const auto from = found < count ? found : (step > 0 ? count - 1 : 0);
-    parts.windows.properties().DrawPendingEdits();  // of the element that is left
+    parts.windows.properties().DrawPendingEdits();  // of the element selected so far
     {
         const Raised open = parts.selection.KeepPropertiesOpen();
         parts.anchors.ResetSelection();

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// The selection goes from element to element by a key.
+// Moves the selection from element to element by a key.
 #pragma once
 
 #include "canvas/canvas_parts.h"
 
 namespace ornavo {
 
-/// Selects the shown element that is next (`step` 1) or before (-1) in the layout's order, round and round,
-/// and writes nothing. The sheet follows in its own time. Nothing during a drag, or where no element is
-/// shown.
+/// Selects the next (`step` 1) or the previous (-1) visible element in the layout's order, cyclically, and
+/// changes no element. The property sheet follows after tmrShowProperties. Does nothing during a drag or if
+/// no element is visible.
 void StepSelection(CanvasParts& parts, int step);
 
 }  // namespace ornavo

@@ -20,7 +20,8 @@ bool SideIsAt(const dbPoints& points, int index, Point at) {
                       GetPointPosition(to, TargetFrame, CornerOf::Shape));
 }
 
-/// A corner at that place, aligned to an edge nearby or as its neighbour. Failures of SetPointPosition.
+/// A corner at this point, aligned to a near edge or else like its neighbour. Throws the failures of
+/// SetPointPosition.
 dbPointRef NewPoint(const dbPoint& neighbour, int x, int y, int order) {
     auto point = std::make_shared<dbPoint>();
     point->Order = order;
@@ -32,7 +33,7 @@ dbPointRef NewPoint(const dbPoint& neighbour, int x, int y, int order) {
     return point;
 }
 
-/// The key of a new corner is its Order, which an older corner may have as its key still.
+/// The key of a new corner is made of its Order, but an older corner may still have that key.
 void InsertWithFreeKey(dbPoints& points, const dbPointRef& point, int after) {
     while (points.Find(TagOfPoint(point->Order))) ++point->Order;
     points.InsertObject(point, after);
@@ -43,7 +44,7 @@ dbPointRef SelectedPoint(const Selection& selection) {
     return TargetLayout->dbPoints->GetFromOrder(OrderOfTag(selection.SelKey()));
 }
 
-/// Orders have changed and controls were dealt anew: the selection stays with its corner.
+/// Selects the same corner again after orders and controls have changed.
 void SelectAgain(CanvasParts& parts, const dbPoint& selected) {
     if (Control* corner = parts.points.FindCorner(selected.Order))
         parts.selection.Select(*corner);
@@ -120,7 +121,7 @@ void cPoint_MouseDown(CanvasParts& parts, Control& line, const Mouse& mouse) {
 
 void cPointMover_MouseDown(CanvasParts& parts, Control& corner, const Mouse& mouse) {
     if (mouse.button == LeftButton) return GrabCorner(parts, corner, mouse);
-    // The other button during a drag is a slip of the hand.
+    // Ignore the right button while the left one drags.
     if (mouse.button == RightButton && !parts.drag.Is(DragCorner)) RemoveCorner(parts, corner.Tag);
 }
 

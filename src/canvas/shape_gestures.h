@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pointer over a side; a point inserted; pressing and dragging a corner.
+// Gestures on the shape: pointing at a side, inserting a corner, dragging a corner.
 #pragma once
 
 #include "canvas/canvas_parts.h"
@@ -7,14 +7,16 @@
 
 namespace ornavo {
 
-/// The side on which the pointer rests, by its box and 3 pixels more; 0 for none. Counts from 1.
+/// The position, from 1, of the side whose bounding box, widened by 3 pixels, contains the point; 0 if there
+/// is none. Pixels of the canvas.
 int LineUnderPointer(int x, int y);
 /// Where the 0, 0 of a position is.
 enum class Origin { Canvas, Side };
-/// Inserts a point behind position `index`, at a position in pixels from the canvas or from the control of
-/// side `index`. False if it could not.
+/// Inserts a corner after position `index`, at a position in pixels of the canvas or of the control of side
+/// `index`. False if that is impossible.
 bool AddShapePoint(CanvasParts& parts, int index, int x, int y, Origin origin);
-/// Writes the point of that Order, moves the sides that meet there and paints the surface.
+/// Moves the corner with this Order to a point of the canvas in pixels, moves the sides that meet there and
+/// redraws the surface.
 void MovePoint(CanvasParts& parts, int order, int x, int y);
 
 void cPoint_MouseDown(CanvasParts& parts, Control& line, const Mouse& mouse);

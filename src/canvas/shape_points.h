@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Sides and corners of the shape as controls on the canvas; a point inserted or moved.
+// The sides and corners of the shape as controls on the canvas.
 #pragma once
 
 #include "document/dblayouts.h"
@@ -12,35 +12,37 @@ namespace ornavo {
 
 inline constexpr Colour PointColor = ColourOf(0x80FFFF), PointBlinkColor = ColourOf(0xFF);
 
+/// A corner of the shape on the canvas.
 struct Corner {
     int order;
     Point at;  // pixels of the canvas
 };
-/// The corners by ascending Order. Of a doubled order the first counts; one that is missing or beyond the
-/// count, and a corner that has no place, is left out.
+/// The corners by ascending Order. Of several corners with the same Order only the first counts. A corner is
+/// left out if its Order is not in 1 to the count or its position cannot be computed.
 std::vector<Corner> CornersByOrder(const dbLayout& layout, const Frame& frame);
 
+/// The pools of sides and corners.
 class ShapePoints {
 public:
-    /// The controls become children of the window; the listener hears their mouse.
+    /// The controls become children of the window; the listener gets their mouse events.
     ShapePoints(QWidget& window, ControlEvents* listener);
 
 private:
-    ControlEvents* listener_;  // before the pools, which use it
+    ControlEvents* listener_;  // initialised before the pools, which use it
 
 public:
     Pool<dbLine> cPoint;           // sides; Tag is the Order of the first point
     Pool<PictureBox> cPointMover;  // corners; Tag is "K" and the Order
 
-    /// Rebuilds all sides and corners of the composed layout, as the view switches say.
+    /// Builds the sides and corners of the composed layout anew, by the view switches.
     void ShowShapePoints();
     void HideShapePoints();
     int GetFreeLine();
-    int GetFreeMover(int x, int y);
+    int GetFreeMover(int x, int y);  // a visible corner at x, y; returns its slot
 
-    /// The two sides that meet at the corner of that Order follow it.
+    /// Moves the ends of the two sides that meet at the corner with this Order.
     void MoveSides(int order);
-    /// The control shown for that Order; null where none is.
+    /// The visible control with this Order; null if there is none.
     dbLine* FindSide(int order);
     PictureBox* FindCorner(int order);
 

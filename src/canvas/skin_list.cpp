@@ -19,12 +19,12 @@ constexpr int FolderRole = Qt::UserRole, PictureRole = Qt::UserRole + 1;
 constexpr QSize ThumbnailSize = {136, 102};
 constexpr int TileMargin = 8, NameGap = 4, Corner = 4;
 
-/// Of a tile, pixels.
+/// The size of a tile in pixels.
 QSize SizeOf(const QFontMetrics& font) {
     return ThumbnailSize + QSize(2 * TileMargin, 2 * TileMargin + NameGap + font.height());
 }
 
-/// The picture, or while there is none the name's first letter on a plain ground.
+/// Paints the picture, or the first letter of the name if there is none yet.
 void PaintPicture(QPainter& painter, const QRect& area, const QPalette& colours, const QModelIndex& index) {
     painter.fillRect(area, colours.color(QPalette::Midlight));
     const auto picture = index.data(PictureRole).value<QPixmap>();
@@ -44,6 +44,7 @@ void PaintPicture(QPainter& painter, const QRect& area, const QPalette& colours,
     painter.drawRect(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
+/// Paints a tile.
 class TileDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -123,7 +124,7 @@ void SkinList::Arrange(int columns, int mostHeight) {
     const bool scrolls = rows * tile.height() > mostHeight;
     const int bar = scrolls ? verticalScrollBar()->sizeHint().width() : 0;
     setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-    // The view wants a pixel more than its columns.
+    // QListView needs one pixel more than its columns.
     setFixedSize(columns * tile.width() + bar + 1, std::min(rows * tile.height(), mostHeight));
 }
 

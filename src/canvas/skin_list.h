@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Skins as tiles: each with its picture and its name, chosen by a click or by Enter.
+// A list of skins as tiles with picture and name. A click or Enter chooses one.
 #pragma once
 
 #include <QListWidget>
@@ -7,17 +7,18 @@
 
 namespace ornavo {
 
+/// The user's skins on the welcome card.
 class SkinList : public QListWidget {
     Q_OBJECT
 public:
     explicit SkinList(QWidget* parent);
 
-    /// A tile without a picture, at the end.
+    /// Appends a tile, still without a picture.
     void AddSkin(const std::filesystem::path& folder);
-    /// Shows the first of the skin's pictures that can be read; the tile stays plain where there is none.
+    /// Shows the first of the skin's pictures that can be read. `row` counts from 0.
     void LoadPicture(int row);
 
-    /// Takes the room that its tiles want in so many columns, at most so high.
+    /// Sizes the list for this many columns and at most this height in pixels.
     void Arrange(int columns, int mostHeight);
     QSize TileSize() const;
 

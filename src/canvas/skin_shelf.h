@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The newest skins of a folder, looked for a few at a time, so that nobody waits for a full one.
+// Finds the newest skins of a folder, a few subfolders at a time, so that a large folder blocks nothing.
 #pragma once
 
 #include <filesystem>
@@ -8,22 +8,24 @@
 
 namespace ornavo {
 
+/// A search for the newest skins of a folder.
 class SkinShelf {
 public:
     static constexpr std::size_t Places = 24;
     static constexpr int FoldersPerStep = 32;
 
+    /// A skin that was found.
     struct Skin {
         std::filesystem::path folder;
-        std::filesystem::file_time_type saved;  // its settings file
+        std::filesystem::file_time_type saved;  // time of its settings file
     };
 
-    /// A folder that is not there has no skins.
+    /// A missing folder counts as empty.
     explicit SkinShelf(const std::filesystem::path& skins);
 
-    /// Looks into the next few folders; false when all have been seen. Never fails.
+    /// Looks into the next FoldersPerStep folders. False when it has seen all. Never fails.
     bool Step();
-    /// Of those seen so far the last saved ones, the newest first.
+    /// The most recently saved of the skins seen so far, the newest first; at most `Places`.
     const std::vector<Skin>& Newest() const { return newest_; }
 
 private:

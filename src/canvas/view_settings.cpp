@@ -10,7 +10,7 @@
 namespace ornavo {
 namespace {
 
-/// Each setting beside the switch that it keeps.
+/// Each setting with the switch that it stores.
 constexpr auto Table = std::tuple{
     std::pair{&settings::GridX, &ViewSwitches::GridX},
     std::pair{&settings::GridY, &ViewSwitches::GridY},

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The view switches between the settings and the program.
+// Reads and writes the view switches as settings.
 #pragma once
 
 namespace ornavo {
 
-/// A setting that is no number or boolean leaves its switch as it is.
+/// A setting that is not of the switch's type leaves the switch unchanged.
 void ReadViewSettings();
 void WriteViewSettings();
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What an empty canvas says in its middle: how to begin, and the user's own skins to choose from.
+// The card on an empty canvas: how to begin, and the user's skins to choose from.
 #pragma once
 
 #include <QFrame>
@@ -15,18 +15,20 @@ namespace ornavo {
 
 class Windows;
 
+/// The card in the middle of the canvas. The user's skins are looked for after its first painting.
 class WelcomeCard : public QFrame {
     Q_OBJECT
 public:
-    /// Hidden, in front of what the canvas has so far.
+    /// Hidden at first; in front of the canvas's present children.
     WelcomeCard(QWidget& canvas, Windows& windows);
 
-    /// `skin`: the name of the one that was asked for, "" for none. It was found and has no layout, or
-    /// wasn't. The user's skins come once the card has been painted, unless one is open.
+    /// Shows the card. `skin` is the name of the skin that was asked for, "" for none; `found` tells whether
+    /// it exists, and then it has no layout. The user's skins are listed after the next painting, unless
+    /// `skin` was found.
     void Show(const std::string& skin, bool found);
-    /// Hidden again, and no more skins are looked for.
+    /// Hides the card and stops looking for skins.
     void Leave();
-    /// In the middle of the canvas, as large as its skins want and the canvas allows.
+    /// Centres the card on the canvas, as large as its skins need and the canvas allows.
     void Place();
 
     SkinList lst_Skins;
@@ -35,15 +37,15 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    void Fill();  // one step of it
+    void Fill();  // one step of listing the skins
 
     QWidget& canvas_;
     Windows& windows_;
     QLabel lbl_Title, lbl_Hint;
-    QTimer tmrFill;        // 0 ms: a step in each turn of the loop
-    bool wanted_ = false;  // the skins, from the next painting on
+    QTimer tmrFill;        // 0 ms: one step in each turn of the event loop
+    bool wanted_ = false;  // whether the next painting starts listing the skins
     std::optional<SkinShelf> shelf_;
-    int filled_ = 0;  // tiles that have their picture
+    int filled_ = 0;  // the number of tiles whose picture has been looked for
 };
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's windows as lines of a menu, ticked while they are shown.
+// The program's windows as items of a menu, checked while they are shown.
 #pragma once
 
 #include <QPoint>
@@ -10,9 +10,9 @@ class QMenu;
 
 namespace ornavo {
 
-/// The menu of the bare canvas, at that place of the screen.
+/// Opens the menu of the bare canvas at this place of the screen.
 void PopupWindowMenu(CanvasParts& parts, const QPoint& at);
-/// The same lines in a submenu at the menu's foot; nothing where there are none.
+/// Adds the items as a submenu at the end of the menu; nothing if there are no windows.
 void AddWindowMenu(QMenu& menu, Windows& windows);
 
 }  // namespace ornavo
