@@ -23,11 +23,12 @@ constexpr int Sizes[] = {6, 7, 8, 9, 10, 11, 12, 13, 14, 16, 18, 20, 22, 24, 28,
 constexpr double LeastSize = 1, MostSize = 999;
 constexpr QSize FaceList = {240, 180};
 constexpr int SizeWidth = 64, SampleHeight = 90;  // pixels
-// The faces that every jukebox has.
+// Faces that every jukebox has.
 constexpr const char* UsualFaces[] = {"Arial",           "Courier New", "MS Sans Serif", "Symbol",   "Tahoma",
                                       "Times New Roman", "Verdana",     "Webdings",      "Wingdings"};
 
-/// A face that several foundries make is listed once for each, as "P052 [urw]"; a font has the name alone.
+/// The face without its foundry: Qt lists a face of several foundries as "P052 [urw]", but a skin stores only
+/// the name.
 QString WithoutFoundry(const QString& face) {
     static const QRegularExpression foundry(QStringLiteral("\\s*\\[[^\\[\\]]*\\]$"));
     return QString(face).remove(foundry);
@@ -37,7 +38,7 @@ QString NumberText(double size) {
     return QString::number(size, 'g', 6);
 }
 
-/// Hands over each line that is chosen. The one that the Tab key puts the focus on is not.
+/// Calls `take` with each line that the user chooses, but not with one that merely gets the focus.
 template <class Take>
 void WhenChosen(QListWidget* list, Take take) {
     QObject::connect(list, &QListWidget::itemSelectionChanged, list, [list, take] {

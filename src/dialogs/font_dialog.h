@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The choice of a font for a skin. It knows faces that this machine lacks, since the jukebox may have them,
-// and shows each as the canvas would.
+// The dialog for a skin's font. It also offers faces that are not installed here, because the jukebox may
+// have them, and shows each as the canvas would.
 #pragma once
 
 #include <QDialog>
@@ -16,13 +16,14 @@ class QListWidget;
 
 namespace ornavo {
 
+/// The font dialog.
 class FontDialog : public QDialog {
     Q_OBJECT
 public:
-    /// The list has the faces of this machine, those offered, and that of `start`.
+    /// Lists the installed faces, `offered` and the face of `start`.
     FontDialog(QWidget* owner, const Font& start, const std::vector<std::string>& offered);
 
-    /// As it stands in the dialog; a name and a size that were not touched are exactly those of `start`.
+    /// The chosen font. A face and a size that the user has not changed are those of `start`.
     Font Chosen() const;
 
 private:

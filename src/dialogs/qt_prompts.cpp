@@ -20,8 +20,8 @@
 namespace ornavo {
 namespace {
 
-/// The active window. Just after another box none is; the window that asked for that one, otherwise the main
-/// window or the one that is left of all, then stands in.
+/// The active window. Right after another dialog there is none; then the owner of that dialog, or else the
+/// main window.
 QWidget* Owner(QWidget* last) {
     if (QWidget* active = QApplication::activeWindow()) return active;
     if (last && last->isVisible()) return last;
@@ -58,13 +58,13 @@ QMessageBox::StandardButtons BoxButtons(Buttons buttons) {
     }
 }
 
-/// What a box means that went without a button.
+/// The answer if a message box was closed without a button.
 Answer Dismissed(Buttons buttons) {
     if (buttons == Buttons::Ok) return Answer::Ok;
     return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
 }
 
-/// The folder, or the nearest one above it that is there.
+/// The folder, or its nearest parent that exists.
 QString ExistingFolder(const std::string& folder) {
     QFileInfo place(Shown(folder));
     while (!folder.empty() && !place.isDir() && !place.isRoot()) place.setFile(place.absolutePath());
@@ -86,7 +86,7 @@ Answer QtPrompts::Message(std::string_view text, std::string_view title, Icon ic
     const Asker asker(TakeOwner());
     QMessageBox box(BoxIcon(icon), Shown(title), Shown(text), BoxButtons(buttons), owner_);
     box.setTextFormat(Qt::PlainText);
-    // What can be answered by Yes or No alone can't be taken back.
+    // A question with only Yes and No is about something that cannot be undone.
     if (buttons == Buttons::YesNo) box.setDefaultButton(QMessageBox::No);
     switch (box.exec()) {
         case QMessageBox::Yes:
@@ -104,7 +104,7 @@ QStringList NameFilters(std::string_view filter) {
     const QStringList parts = Shown(filter).split(QRegularExpression("[|:]"), Qt::SkipEmptyParts);
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        // What stands in brackets would be taken for the patterns.
+        // Qt would take text in brackets for the patterns.
         const QString name = parts[i].section('(', 0, 0).trimmed();
         filters += name + " (" + QString(parts[i + 1]).replace(';', ' ') + ')';
     }
@@ -125,11 +125,11 @@ std::optional<std::string> QtPrompts::Input(std::string_view text, std::string_v
 std::optional<std::string> QtPrompts::File(const FileQuestion& question) {
     const Asker asker(TakeOwner());
     QFileDialog box(owner_, Shown(question.title), ExistingFolder(question.folder));
-    // The desktops' own boxes on Linux match filters with regard to case.
+    // On Linux, the desktop's own file dialogs match filters with regard to case.
 #ifndef Q_OS_WIN
     box.setOption(QFileDialog::DontUseNativeDialog);
 #endif
-    box.setOption(QFileDialog::ReadOnly);  // it chooses, and neither deletes nor renames
+    box.setOption(QFileDialog::ReadOnly);  // the dialog must not delete or rename files
     box.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     box.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (const QStringList filters = NameFilters(question.filter); !filters.isEmpty())

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The prompts on real windows. Each gives the keyboard back to the window that asked.
+// The prompts as dialogs on the screen.
 #pragma once
 
 #include <QPointer>
@@ -10,6 +10,7 @@
 
 namespace ornavo {
 
+/// Shows the dialogs. Each gives the keyboard focus back to the window that it was opened from.
 class QtPrompts : public Prompts {
 public:
     Answer Message(std::string_view text, std::string_view title, Icon icon, Buttons buttons) override;
@@ -22,10 +23,10 @@ public:
 private:
     QWidget* TakeOwner();
 
-    QPointer<QWidget> owner_;  // of the last box
+    QPointer<QWidget> owner_;  // of the last dialog
 };
 
-/// "Name|*.a;*.b" becomes "Name (*.a *.b)"; ":" separates as "|" does.
+/// Qt's name filters: "Name|*.a;*.b" becomes "Name (*.a *.b)". ":" separates like "|".
 QStringList NameFilters(std::string_view filter);
 
 }  // namespace ornavo

@@ -6,8 +6,8 @@
 namespace ornavo {
 namespace {
 
-/// One axis: the first pixel seen, and how many are needed to fill `length`. The pointer's pixel is the
-/// middle one of those that fit by rounding, and a pixel that fits in part is shown in part.
+/// The first pixel seen in one direction, and the number of pixels that fill `length`. The pointer's pixel is
+/// the middle one of the rounded number; the last one may be cut off.
 struct Span {
     int first, count;
 };

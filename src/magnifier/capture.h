@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which rectangles of which screens are seen about the pointer, and where each stands in the enlarged
-// picture.
+// Which parts of which screens are around the pointer, and where they are in the enlarged picture.
 #pragma once
 
 #include <QPoint>
@@ -9,14 +8,15 @@
 
 namespace ornavo {
 
+/// A part of a screen that is visible in the picture.
 struct Piece {
-    int screen = 0;  // its number
-    QRect source;    // of the screens' plane
-    QRect target;    // of the picture, `zoom` times as large; its last row and column may pass the edge
+    int screen = 0;  // index, from 0
+    QRect source;    // in the plane of the screens
+    QRect target;    // in the picture, `zoom` times as large; may exceed its right and bottom edge
     bool operator==(const Piece&) const = default;
 };
 
-/// All in device pixels. What no piece covers lies beyond the screens' edges.
+/// The visible parts, in device pixels. Areas without a part are beyond the screens' edges.
 std::vector<Piece> PiecesOf(QPoint pointer, QSize picture, int zoom, const std::vector<QRect>& screens);
 
 }  // namespace ornavo

@@ -12,9 +12,9 @@ namespace ornavo {
 namespace {
 
 constexpr int FirstZoom = 4;
-constexpr int MarkGrid = 4;  // device pixels, whatever the zoom
+constexpr int MarkGrid = 4;  // device pixels, the same at each zoom
 
-/// In the middle of `length` device pixels, on the grid.
+/// The middle of `length` device pixels, rounded to the grid.
 int MarkPlace(int length) {
     return static_cast<int>(RoundHalfEven(length / 2.0 / MarkGrid)) * MarkGrid;
 }
@@ -26,7 +26,7 @@ PixelMark::PixelMark(QWidget* parent) : QWidget(parent) {
 }
 
 void PixelMark::paintEvent(QPaintEvent*) {
-    // One device pixel wide, and seen on any ground.
+    // One device pixel wide, in two colours that are visible on any background.
     const int size = MarkGrid;
     QImage frame(size, size, QImage::Format_ARGB32);
     frame.fill(Qt::transparent);
@@ -42,7 +42,7 @@ void PixelMark::paintEvent(QPaintEvent*) {
 frm_Magnifier::frm_Magnifier(QWidget* owner) : frm_Magnifier(owner, desktopPixels_, ownPixels_) {}
 
 frm_Magnifier::frm_Magnifier(QWidget* owner, PixelSource& desktop, PixelSource& own)
-    // Above the preview too, which is not its owner and may fill the screen.
+    // It also stays above the preview, which does not own it and may fill the screen.
     : Form(owner, "frm_Magnifier", Qt::Tool | Qt::WindowStaysOnTopHint),
       Magnify1(this, desktop, own),
       Picture1(this),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The floating window with the magnified screen, and a mark on the pixel under the pointer.
+// The magnifier: a floating window with the enlarged screen and a mark on the pixel under the pointer.
 #pragma once
 
 #include <QLabel>
@@ -9,7 +9,7 @@
 
 namespace ornavo {
 
-/// Frames the pixel that the pointer points at: see-through inside, and for the mouse.
+/// A frame around the pixel under the pointer; ignored by the mouse.
 class PixelMark : public QWidget {
 public:
     explicit PixelMark(QWidget* parent);
@@ -18,12 +18,13 @@ protected:
     void paintEvent(QPaintEvent*) override;
 };
 
+/// The window of the magnifier.
 class frm_Magnifier : public Form {
 public:
     explicit frm_Magnifier(QWidget* owner);
     frm_Magnifier(QWidget* owner, PixelSource& desktop, PixelSource& own);
 
-    /// Shown at its place of the last time.
+    /// Shows the window at its stored place.
     void Open();
 
 private:
@@ -35,7 +36,7 @@ private:
 public:
     Magnify Magnify1;
     PixelMark Picture1;
-    QLabel lbl_State;  // the zoom, and "frozen"; at the bottom left, since a title is cut
+    QLabel lbl_State;  // zoom and "frozen"; here because a narrow title would be cut off
 
 protected:
     void keyPressEvent(QKeyEvent*) override;

@@ -59,7 +59,7 @@ int Magnify::ScaleHeight() const {
     return static_cast<int>(std::lround(contentsRect().height() * devicePixelRatioF()));
 }
 
-/// False if the source refuses to be read.
+/// False if the source cannot be read.
 bool Magnify::See(PixelSource& source, View& view) const {
     view = {{ScaleWidth(), ScaleHeight()}, zoom_, BackColor, {}, {}};
     view.pieces = PiecesOf(source.Pointer(), view.size, zoom_, source.Screens());

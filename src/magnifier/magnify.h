@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The screen about the pointer, enlarged by a whole number without smoothing, as it is at each tick.
+// The control that enlarges the screen around the pointer.
 #pragma once
 
 #include <QFrame>
@@ -11,29 +11,31 @@
 
 namespace ornavo {
 
+/// Shows the screen around the pointer at each tick of its timer, enlarged by a whole number without
+/// smoothing.
 class Magnify : public QFrame {
     Q_OBJECT
 public:
     static constexpr int Zooms[] = {1, 2, 4, 8, 16, 32};
 
-    /// Reads `desktop`, or where that gives nothing `own`; both outlive it.
+    /// Reads `desktop`, or `own` if the desktop cannot be read. Both must outlive the control.
     Magnify(QWidget* parent, PixelSource& desktop, PixelSource& own);
 
-    Colour BackColor = ColourOf(0x8000000C);  // of what lies beyond the screens' edges
+    Colour BackColor = ColourOf(0x8000000C);  // beyond the screens' edges
 
     int Zoom() const { return zoom_; }
-    void SetZoom(int zoom);  // the next tick shows it; Failure 380 if it is none of Zooms
-    void StepZoom(int by);   // along Zooms, as far as they go
+    void SetZoom(int zoom);  // takes effect at the next tick; Failure 380 if not in Zooms
+    void StepZoom(int by);   // by so many places in Zooms, limited to its ends
     bool Frozen() const { return frozen_; }
-    void SetFrozen(bool frozen);     // the last picture stays
+    void SetFrozen(bool frozen);     // frozen: keeps the last picture
     void SetBorderStyle(int style);  // 0 none, 1 a line
-    int ScaleWidth() const;          // of the inside, in device pixels
+    int ScaleWidth() const;          // inner size in device pixels
     int ScaleHeight() const;
 
-    QTimer tmr;  // runs while the control is seen and not frozen
+    QTimer tmr;  // runs while the control is visible and not frozen
 
 signals:
-    void StateChanged();  // the zoom, or whether it is frozen
+    void StateChanged();  // zoom or frozen has changed
 
 protected:
     void wheelEvent(QWheelEvent*) override;
@@ -42,7 +44,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    /// All that a picture is drawn from; nothing is drawn or painted while it stays the same.
+    /// Everything that the picture depends on. Nothing is drawn while it stays equal.
     struct View {
         QSize size;
         int zoom = 0;
@@ -57,7 +59,7 @@ private:
     PixelSource& desktop_;
     PixelSource& own_;
     int zoom_ = 2;
-    int turned_ = 0;  // of the wheel, eighths of a degree not yet used
+    int turned_ = 0;  // eighths of a degree that the wheel has turned since the last step
     bool frozen_ = false, busy_ = false;
     View view_;
     QImage picture_;

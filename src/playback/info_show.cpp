@@ -13,6 +13,7 @@
 namespace ornavo {
 namespace {
 
+/// The sample text of an info type.
 struct Sample {
     InfoTypeCode infoType;
     const char* text;
@@ -36,12 +37,12 @@ constexpr Sample Samples[] = {
 void DrawPart(PictureBox& box, const PictureRef& picture, int width, int height) {
     box.Draw([&](QPainter& painter) {
         const QRect part = QRect(0, 0, width, height) & picture->image.rect();
-        painter.fillRect(part, ScreenColour(box.BackColor()));  // a picture may be transparent in places
+        painter.fillRect(part, ScreenColour(box.BackColor()));  // the picture may be transparent in places
         painter.drawImage(part, picture->image, part);
     });
 }
 
-/// The control of a slot, if it is the element's.
+/// The control of the element's slot; null if the slot has another element.
 template <class T>
 T* Host(const Pool<T>& pool, const dbLayoutElement& element) {
     const int slot = element.ControlIndex;
@@ -109,7 +110,7 @@ void InfoShow::ShowLine() {
     }
 }
 
-/// The bar, and the text over it; nothing where the box shows just that.
+/// Draws the bar with the text over it, unless the box shows exactly that.
 void InfoShow::Draw(Info& info) const {
     const dbLayoutElement& element = *info.element;
     PictureBox& box = *info.box;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A composed layout as if something played: texts that scroll, seek bars, dials and volume pictures on their
-// controls. Texts and positions are its own; nothing of them is written to the elements.
+// Shows a composed layout as if a song were playing: scrolling texts, seek bars, dials and volume pictures.
+// It has its own texts and positions, and does not change the elements.
 #pragma once
 
 #include <optional>
@@ -13,41 +13,44 @@
 
 namespace ornavo {
 
+/// The imitation of a playing song on the controls of a layout.
 class InfoShow {
 public:
     int Volume = VolumeStart;
     double SeekPos = SongStart;  // milliseconds
 
-    /// On controls that have just been composed: every sample text from its start, bars and volume as they
-    /// are.
+    /// Starts on controls that have just been composed: sets all sample texts and draws bars and volume.
     void Begin(LayoutHost& host, const dbLayout& layout);
-    void ShowLine();  // the volume has changed
+    void ShowLine();  // call after a change of Volume
 
     void tmrScroller_Timer();    // every ScrollInterval
     void tmrSeekerDemo_Timer();  // every SeekerInterval
 
 private:
-    struct Look {  // what is drawn on a box
+    /// What is drawn on a box.
+    struct Look {
         Rect bar;
         std::int32_t textLeft = 0;
         std::string text;
         bool operator==(const Look&) const = default;
     };
+    /// An info element, its box and its caption.
     struct Info {
         dbLayoutElementRef element;
         PictureBox* box;
         InfoCaption caption;
-        std::optional<Look> drawn;  // null when it is not known
+        std::optional<Look> drawn;  // empty if unknown
     };
     void SetupInfos();
     void SetInfoCaption(std::int32_t infoType, const std::string& text);
     void Draw(Info& info) const;
 
-    std::vector<Info> infos_;  // those that have a box
+    std::vector<Info> infos_;  // elements that have a box
     std::vector<TileButton*> dials_;
 };
 
-/// How far the volume picture of an element is filled; no change where its picture is missing.
+/// Draws how far the element's volume picture is filled. Does nothing if the picture is missing. `volume` is
+/// 0 to VolumeTop.
 void ShowInfoVolume(PictureBox& box, int volume, const dbLayoutElement& element);
 
 }  // namespace ornavo

@@ -11,7 +11,7 @@
 namespace ornavo {
 namespace {
 
-constexpr double SeekerStep = SeekerInterval;  // the song runs in time with the timer
+constexpr double SeekerStep = SeekerInterval;  // milliseconds of song per tick, in real time
 constexpr double DegreesPerVolume = 1.2;
 
 std::int32_t Clamped(std::int64_t value) {

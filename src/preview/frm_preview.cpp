@@ -68,7 +68,7 @@ void frm_Preview::Form_Load(const Point& standardCorner) {
     Run(tmrSeekerDemo, SeekerInterval);
 }
 
-/// Below the window, or over its lower edge where the screen ends.
+/// Shows the tip below the window, or over its lower edge if the screen ends there.
 void frm_Preview::ShowTip() {
     tip_->adjustSize();
     const QRect room = screen()->availableGeometry(), window = geometry();
@@ -83,12 +83,12 @@ void frm_Preview::ShowTip() {
 void frm_Preview::Rebuild() {
     composed_ = size();
     RenderElements(View::Preview);
-    if (!Attempt([] { ShapeForm(); })) SetShape({});  // the veil of a resize would stay
+    if (!Attempt([] { ShapeForm(); })) SetShape({});  // or else the veil of the resize would stay
     infos_.Begin(host_, *mouse_.Layout);
 }
 
 void frm_Preview::Form_Resize() {
-    // The desktop tells the size of a maximised window some time after it was asked for.
+    // The desktop reports the size of a maximised window some time after the request.
     if (mouse_.Layout && isVisible() && WindowState() != StateMinimised && size() != composed_) Rebuild();
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The preview: the layout as the jukebox would show it, in a borderless window cut to its polygon, worked by
-// the skin's own buttons while a song seems to play.
+// The preview: the layout as the jukebox would show it, in a frameless window cut to its shape. The skin's
+// own buttons operate it while a song seems to play.
 #pragma once
 
 #include <QTimer>
@@ -18,21 +18,22 @@ class QLabel;
 
 namespace ornavo {
 
+/// The window of the preview.
 class frm_Preview : public Form, public CompositionTarget, public PreviewWindow {
     Q_OBJECT
 public:
     explicit frm_Preview(Windows& windows);
     ~frm_Preview() override;
 
-    /// Composes the current layout at the skin's size and shows it, where it was the last time or else at the
-    /// corner given (twips). The first visible frame is already shaped and complete.
+    /// Composes the current layout at the skin's size and shows the window at its stored place, or else at
+    /// this corner (twips). Its first frame is already shaped and complete.
     void Open(const Point& standardCorner);
 
     InfoShow& infos() { return infos_; }
     frm_Resizer& resizer() { return resizer_; }
 
     QTimer tmrScroller, tmrSeekerDemo;
-    QTimer tmrTip;  // once, after the first seconds
+    QTimer tmrTip;  // single shot; hides the tip after the first seconds
 
     // CompositionTarget
     int ScaleWidth() const override { return Form::ScaleWidth(); }
@@ -66,10 +67,10 @@ private:
     InfoShow infos_;
     PreviewMouse mouse_;
     LayoutHost host_;
-    Surface ground_;  // never drawn on: the plain colour behind the elements
+    Surface ground_;  // never drawn on; paints the plain colour behind the elements
     frm_Resizer resizer_;
     QLabel* tip_;
-    QSize composed_;  // for which the controls stand
+    QSize composed_;  // the size for which the controls are composed
 };
 
 }  // namespace ornavo

@@ -10,7 +10,7 @@ namespace ornavo {
 namespace {
 
 const QColor Ground(38, 44, 54), Edge(140, 170, 210);
-constexpr int EdgeWidth = 6;  // half of it lies outside
+constexpr int EdgeWidth = 6;  // half of it is outside
 
 }  // namespace
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The outline that stands in for the preview while it is being resized: an empty window above all others, in
-// the shape that the preview will have.
+// The outline that replaces the preview during a resize: an empty topmost window in the shape that the
+// preview will have.
 #pragma once
 
 #include <QWidget>
@@ -11,12 +11,14 @@
 
 namespace ornavo {
 
+/// The window of the outline.
 class frm_Resizer : public QWidget {
 public:
-    /// `onClick`: a click tells that the release was missed.
+    /// `onClick` is called for a click, which means that the release has been missed.
     explicit frm_Resizer(std::function<void()> onClick);
 
-    /// Shown there (pixels of the screen) in the layout's shape for that size. Failures of GetPointPosition.
+    /// Shows the outline at a place of the screen in pixels, with the layout's shape for that size. Throws
+    /// the failures of GetPointPosition.
     void Stand(const QRect& place, const dbLayout& layout, Frame frame);
 
 protected:
@@ -25,7 +27,7 @@ protected:
 
 private:
     std::function<void()> onClick_;
-    QPolygon shape_;  // null where the window is whole
+    QPolygon shape_;  // the whole window if the layout has no shape
 };
 
 }  // namespace ornavo

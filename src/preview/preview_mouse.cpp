@@ -17,7 +17,7 @@ int ResizedSide(int length, int from, int to) {
     return std::max(LeastPreview, length - (from - to));
 }
 
-/// Null for a control of another kind, and for one that shows no element.
+/// Null for a control of another kind and for a control without an element.
 const dbLayoutElement* PreviewMouse::ElementOf(const Control& control, ElementKind kind) const {
     const ElementFamily* family = FamilyOf(control);
     if (!Layout || control.Tag.empty() || !family || family->kind != kind) return nullptr;
@@ -28,7 +28,7 @@ void PreviewMouse::MouseDown(Control& control, const Mouse& mouse) {
     if (const dbLayoutElement* element = ElementOf(control, ElementKind::Button))
         Element_MouseDown(*element, mouse);
     else
-        MouseMove(control, mouse);  // a click seeks at once
+        MouseMove(control, mouse);  // so that a click seeks at once
 }
 
 void PreviewMouse::MouseMove(Control& control, const Mouse& mouse) {
@@ -41,7 +41,7 @@ void PreviewMouse::MouseMove(Control& control, const Mouse& mouse) {
 }
 
 void PreviewMouse::MouseUp(Control& control, const Mouse&) {
-    // The desktop that moves a window keeps the release for itself.
+    // Ignore the release that ends a drag of the window.
     if (dragging_) {
         dragging_ = false;
         return;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a press, a drag or a release on the preview does: the skin's own buttons work its window, its volume
-// and its song.
+// What the mouse does on the preview: the skin's own buttons operate the window, the volume and the song.
 #pragma once
 
 #include <QPoint>
@@ -13,7 +12,7 @@
 
 namespace ornavo {
 
-/// What the mouse asks of the window. Pixels.
+/// What the mouse may ask of the window. All values are pixels.
 class PreviewWindow {
 public:
     virtual ~PreviewWindow() = default;
@@ -21,24 +20,25 @@ public:
     virtual QPoint Corner() const = 0;
     virtual QSize Inside() const = 0;
     virtual void MoveCorner(const QPoint& corner) = 0;
-    virtual void ShowOutline(const QSize& size) = 0;  // in place of the window
-    virtual void EndOutline() = 0;                    // the window again, in the outline's size
+    virtual void ShowOutline(const QSize& size) = 0;  // instead of the window
+    virtual void EndOutline() = 0;                    // shows the window again in the outline's size
     virtual void ToggleMaximise() = 0;
     virtual void Minimise() = 0;
     virtual void Unload() = 0;
 };
 
-inline constexpr int LeastPreview = 600;  // pixels each way, for the resizer
+inline constexpr int LeastPreview = 600;  // pixels; least width and height when resizing
 
-/// The length of a side whose grip was pressed at `from` and is now at `to`. Pixels.
+/// The new length of a side, in pixels, when its grip is dragged from `from` to `to`; at least LeastPreview.
 int ResizedSide(int length, int from, int to);
 
+/// The listener of the preview's controls.
 class PreviewMouse : public ControlEvents {
 public:
     PreviewMouse(PreviewWindow& window, InfoShow& infos) : window_(window), infos_(infos) {}
 
     dbLayoutRef Layout;
-    bool Resizing = false;  // from the press on a resizer until the release
+    bool Resizing = false;  // from the press on a resizer to the release
 
     void MouseDown(Control& control, const Mouse& mouse) override;
     void MouseMove(Control& control, const Mouse& mouse) override;
@@ -57,9 +57,9 @@ private:
     PreviewWindow& window_;
     InfoShow& infos_;
     bool dragging_ = false;
-    QPoint grip_;  // from the window's corner to the pointer
+    QPoint grip_;  // from the window's corner to the pointer, pixels
     int StartX = 0, StartY = 0, StartWidth = 0, StartHeight = 0;
-    int VolumeY = 0;  // last place over a dial
+    int VolumeY = 0;  // last place on a dial
 };
 
 }  // namespace ornavo

@@ -13,7 +13,7 @@ void CutWindow(QWidget& window, const QRegion& region) {
 }
 
 void VeilWindow(QWidget& window) {
-    window.setMask(QRegion(-1, -1, 1, 1));  // a hidden window would hear of no release
+    window.setMask(QRegion(-1, -1, 1, 1));  // because a hidden window gets no release event
 }
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The edge of a window is its mask alone.
+// Masks that give a window its shape.
 #pragma once
 
 #include <QRegion>
@@ -8,10 +8,10 @@ class QWidget;
 
 namespace ornavo {
 
-/// Cuts the window to the region, in its own pixels. It stays whole where nothing of it would be left.
+/// Cuts the window to the region, in the window's pixels. The window stays whole if nothing would be left.
 void CutWindow(QWidget& window, const QRegion& region);
 
-/// Nothing of the window can be seen or hit, yet it keeps the mouse that is pressed in it.
+/// Makes the window invisible while it keeps a pressed mouse button.
 void VeilWindow(QWidget& window);
 
 }  // namespace ornavo
