@@ -48,7 +48,7 @@ QSize ColourSlider::minimumSizeHint() const {
     return {120, Height};
 }
 
-/// Where the mouse finds it, in our own size.
+/// The knob's place, where QSlider has its handle but in the size of this class.
 QRect ColourSlider::Knob() const {
     QStyleOptionSlider option;
     initStyleOption(&option);

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
-// A slider from 0 to 255 along a strip of colours: the one under the knob is the one that is meant.
+// A slider over a strip of colours; the colour under the knob is the chosen one.
 #pragma once
 
 #include <QSlider>
 
 namespace ornavo {
 
+/// A slider from 0 to 255.
 class ColourSlider : public QSlider {
 public:
     ColourSlider(const char* name, const char* says);
 
-    /// The colour of each value, from 0 to 255.
+    /// Sets the colour of each value, 0 to 255.
     void SetColours(const std::function<QRgb(int value)>& colourOf);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -20,10 +21,10 @@ protected:
 
 private:
     QRect Knob() const;
-    QImage strip_;  // a pixel for each value
+    QImage strip_;  // one pixel per value
 };
 
-/// The colour of a hue and a saturation, each 0 to 255, at medium lightness.
+/// The colour of a hue and saturation, each 0 to 255, at medium lightness.
 QRgb PureColour(int hue, int saturation);
 
 }  // namespace ornavo

@@ -10,8 +10,8 @@
 namespace ornavo {
 namespace {
 
-/// Paints a part of the picture with its top left corner at a place; its rows lie bottom first, so the
-/// painter turns them over.
+/// Paints a part of the picture with its top left at `at`. The picture's rows are stored bottom first, so the
+/// painter is flipped.
 void PaintPicture(QPainter& painter, const QPoint& at, const cDIBSection& picture, const QRect& part) {
     if (part.isEmpty()) return;
     const int bottomRow = picture.Height() - 1 - part.bottom();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A box that scrolls over a picture at its natural size and paints the picture's own bytes.
+// A scrolling view of a picture in its natural size, painted from the picture's own bytes.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -8,13 +8,14 @@ namespace ornavo {
 
 class cDIBSection;
 
+/// The view of a 24-bit picture.
 class DibView : public QAbstractScrollArea {
 public:
     /// The picture must outlive the view.
     DibView(const char* name, const char* says, const cDIBSection& picture);
 
-    void Refresh();  // paints at once what has changed, its size too
-    void ScrollTogether(DibView& other);
+    void Refresh();                       // repaints at once after a change of pixels or size
+    void ScrollTogether(DibView& other);  // from now on, scrolling this view scrolls the other
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -28,9 +28,9 @@ namespace {
 
 constexpr QSize UsualSize = {1000, 660};
 constexpr int SwatchSize = 14;    // pixels
-constexpr int RoomOfScreen = 92;  // percent
+constexpr int RoomOfScreen = 92;  // percent of the screen that the dialog may fill
 
-/// What a see-through picture is put on: the background of the element that shows it, else white.
+/// The background for a transparent picture: that of its element, otherwise white.
 struct Ground {
     QColor colour = Qt::white;
     std::string name = "white";
@@ -51,7 +51,7 @@ QIcon Swatch(int hue, int saturation) {
     QPixmap pixmap(SwatchSize, SwatchSize);
     pixmap.fill(QColor(PureColour(std::clamp(hue, 0, 255), std::clamp(saturation, 0, 255))));
     QIcon icon(pixmap);
-    icon.addPixmap(pixmap, QIcon::Selected);  // not tinted
+    icon.addPixmap(pixmap, QIcon::Selected);  // so that a selection does not tint it
     return icon;
 }
 
@@ -63,7 +63,7 @@ std::string Quoted(const std::string& text) {
     return std::string("\"").append(text).append("\"");
 }
 
-/// In the middle of its owner, as large as usual where the screen has room.
+/// Centres the window over its owner, in its usual size or as large as the screen allows.
 void PlaceOver(QWidget& window, const QWidget* owner) {
     const QRect room = window.screen()->availableGeometry();
     window.resize(PanelScale(window)(UsualSize)
@@ -176,7 +176,7 @@ void frm_PictureEditor::lstPresets_Click() {
     if (selected.isEmpty()) return;
     const std::vector<Preset> presets = ReadPresets();
     const auto index = static_cast<std::size_t>(lstPresets->row(selected.first()));
-    if (index >= presets.size()) return;  // another running Ornavo has deleted some
+    if (index >= presets.size()) return;  // if another running Ornavo has deleted some
     const Preset& preset = presets[index];
     presetName_ = preset.name;
     hscHue->setValue(ValueOf(preset.hue, hscHue->value()));
@@ -227,7 +227,7 @@ void frm_PictureEditor::btn_Save_Click() {
     close();
 }
 
-/// A failure alone; otherwise what the save loses and what it replaces.
+/// Shows only the failure; without one, what a save loses and what it replaces.
 void frm_PictureEditor::ShowNotice(const std::string& failure) {
     std::string text = failure.empty() ? loss_ : failure;
     Attempt([&] {

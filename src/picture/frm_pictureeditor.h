@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The dialog that recolours a picture: the source beside the result, two sliders, presets, and what the
-// result is saved as.
+// The dialog that recolours a picture: source and result side by side, two sliders, presets and save options.
 #pragma once
 
 #include <QListWidget>
@@ -21,20 +20,20 @@ class QRadioButton;
 
 namespace ornavo {
 
-/// Used once: FinalName and EditPicture are set, ShowModal comes back when the dialog has gone, and
-/// IsCanceled and EditPicture tell what became of it.
+/// The picture editor, for a single use: call SetFinalName and SetEditPicture, then ShowModal, which returns
+/// when the dialog is closed; then read IsCanceled and EditPicture.
 class frm_PictureEditor : public Form {
     Q_OBJECT
 public:
     explicit frm_PictureEditor(QWidget* owner);
 
-    /// The path of the picture that is opened; after a save that of the file written.
+    /// The path of the opened picture; after a save, of the written file.
     const std::string& EditPicture() const { return editPicture_; }
-    /// A picture as the skin names it; its kept source is opened instead of it, if there is one.
+    /// Sets the picture as the skin names it. If its source has been kept, the source is opened instead.
     void SetEditPicture(const std::string& picture);
     const std::string& FinalName() const { return finalName_; }
-    void SetFinalName(const std::string& name);
-    /// The key of the element whose picture it is; "" for none.
+    void SetFinalName(const std::string& name);  // the proposed base name of the file
+    /// Sets the key of the element that has the picture; "" if none.
     void SetSelKey(const std::string& key) { selKey_ = key; }
     bool IsCanceled() const { return isCanceled_; }
     void ShowModal();
@@ -55,7 +54,7 @@ public:
     QRadioButton* optJPG;
     TileCommand* btn_Save;
     TileCommand* btn_Cancel;
-    QLabel* lbl_Notice;  // what is to be known, or what went wrong; "" for nothing
+    QLabel* lbl_Notice;  // a warning or an error; "" if there is none
 
     void Form_Load();
     void btn_SavePreset_Click();
@@ -83,9 +82,9 @@ private:
     void tbx_FinalName_LostFocus();
     void ShowNotice(const std::string& failure = {});
 
-    std::string picture_;  // as the skin names it
+    std::string picture_;  // the picture as the skin names it
     std::string editPicture_, selKey_, finalName_, finalNameBackup_, presetName_;
-    std::string loss_;  // what of the picture the result can't hold
+    std::string loss_;  // what the result cannot keep of the picture
     bool isLoading_ = false, isCanceled_ = true;
     cDIBSection source_, result_;
     cColourise engine_;

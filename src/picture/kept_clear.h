@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What of a picture stays clear when it is recoloured: the file has no transparency, but the element that
-// shows it takes one of its colours for clear.
+// The pixels that stay transparent in a recoloured picture: the file has no transparency, but its element has
+// a key colour.
 #pragma once
 
 #include <QImage>
@@ -11,22 +11,23 @@
 
 namespace ornavo {
 
+/// The transparent pixels of a picture and the key colour they get.
 class KeptClear {
 public:
-    KeptClear() = default;  // nothing
-    /// `picture` as it was decoded, 32 bits a pixel, and `flat`, the same without transparency. Nothing is
-    /// kept for an element without transparency.
+    KeptClear() = default;  // keeps nothing
+    /// `picture` as decoded, with 32 bits a pixel; `flat` is the same without transparency. Keeps nothing for
+    /// an element without transparency.
     KeptClear(const dbLayoutElement& element, const QImage& picture, const cDIBSection& flat);
 
-    /// Gives what is kept its colour, in the flat picture and each time that it was recoloured.
+    /// Gives the transparent pixels the key colour; call for the flat picture and after each recolouring.
     void Paint(cDIBSection& picture) const;
-    /// A sentence without its end; "" where nothing is kept.
+    /// A sentence about it, without the full stop; "" if nothing is kept.
     std::string Told() const;
 
 private:
     ClearPixels pixels_;
-    bool isTopLeft_ = false;   // the colour is that of the top left pixel
-    std::uint32_t given_ = 0;  // otherwise it is this one
+    bool isTopLeft_ = false;   // the key colour is that of the top left pixel
+    std::uint32_t given_ = 0;  // the key colour otherwise, 0x00RRGGBB
 };
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the dialog consists of, and where it stands; what it does is told in frm_pictureeditor.cpp.
+// Makes and arranges the controls of the picture editor; frm_pictureeditor.cpp has what they do.
 #include <QBoxLayout>
 #include <QGroupBox>
 #include <QLabel>

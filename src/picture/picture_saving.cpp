@@ -22,7 +22,8 @@ std::string OriginalFolder() {
     return objSkin->SkinFolder() + "Original";
 }
 
-/// The one of several that a disk with regard to case can have: the name as it is written, then by order.
+/// The kept source. A disk with regard to case may have several: one in the same case is preferred, then the
+/// first by name.
 fs::path KeptSource(std::string_view baseName) {
     fs::path best;
     const auto rank = [&](const fs::path& path) {
@@ -40,7 +41,7 @@ fs::path KeptSource(std::string_view baseName) {
     return best;
 }
 
-/// Not through a link: what is kept must lie in the skin.
+/// The folder of the kept sources. Failure if it is a link, because sources must be kept inside the skin.
 fs::path FolderForSources() {
     CreateDir(OriginalFolder());
     const fs::path folder = OnDisk(OriginalFolder());
@@ -52,7 +53,7 @@ fs::path FolderForSources() {
     return folder;
 }
 
-/// The copy of a source, made where none stands; goes again unless the save comes to its end.
+/// Makes the copy of the source unless there is one; removes it again unless Done is called.
 class Keep {
 public:
     explicit Keep(const std::string& sourcePath) {
@@ -81,7 +82,7 @@ QImage Upright(const cDIBSection& picture) {
     return upsideDown.mirrored();
 }
 
-/// How often the skin's settings name the file.
+/// How often the skin's settings mention the file.
 int CountNamed(const std::string& fileName) {
     const std::string text = LowerText(FromFileBytes(objSkin->FileBytes()));
     const std::string value = LowerText(">" + fileName + "<");

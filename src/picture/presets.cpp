@@ -12,8 +12,9 @@ namespace {
 
 constexpr const char* Section = "Picture-Editor";
 
+/// A field of a preset and its setting.
 struct Entry {
-    const char* key;  // in front of the preset's number, from 1
+    const char* key;  // followed by the preset's number, from 1
     const char* standard;
     std::string Preset::*text;
 };

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pairs of hue and saturation with a name. They belong to the user and not to a skin, so they live in the
-// settings.
+// Named pairs of hue and saturation. They belong to the user, so they are stored in the settings.
 #pragma once
 
 #include <string>
@@ -8,18 +7,18 @@
 
 namespace ornavo {
 
-/// As the settings have it: what stands there is kept, number or not.
+/// A preset as stored; hue and saturation may be any text.
 struct Preset {
     std::string name, hue, saturation;
     bool operator==(const Preset&) const = default;
 };
 
-inline constexpr int MostPresets = 999;  // a greater count in the settings is a broken one
+inline constexpr int MostPresets = 999;  // a greater count in the settings is limited to it
 
 std::vector<Preset> ReadPresets();
-/// At the end; a name may occur twice. Failure 513 if there are MostPresets already.
+/// Appends a preset; names need not be unique. Failure 513 if there are MostPresets already.
 void AddPreset(const std::string& name, int hue, int saturation);
-/// The others move up. Nothing if there is none of that index, which counts from 0.
+/// Deletes the preset with this index, from 0; does nothing if there is none.
 void DeletePreset(int index);
 
 }  // namespace ornavo

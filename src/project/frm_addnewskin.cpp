@@ -20,7 +20,7 @@ namespace {
 constexpr int LeastSize = 600, SmallestKept = 601;  // pixels
 constexpr int Longest = 9;                          // digits
 
-/// The size that a box holds; the least one for what is too small or no size.
+/// The size in the box in pixels; LeastSize if it is smaller or not a number.
 std::int32_t SizeOf(const QLineEdit& box) {
     const std::string text = box.text().toStdString();
     std::int32_t size = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The dialog that makes a new, empty skin in memory.
+// The dialog that creates a new, empty skin in memory.
 #pragma once
 
 #include "platform/asker.h"
@@ -11,6 +11,7 @@ class QLineEdit;
 
 namespace ornavo {
 
+/// The dialog for a new skin's name and size.
 class frm_AddNewSkin : public Form {
     Q_OBJECT
 public:
@@ -25,7 +26,7 @@ public:
     void btn_Create_Click();
 
 signals:
-    void Created();  // the current skin is the new one; the dialog has closed
+    void Created();  // the new skin is the current one; the dialog is closed
 
 protected:
     void keyPressEvent(QKeyEvent*) override;

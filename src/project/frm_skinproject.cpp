@@ -66,7 +66,7 @@ frm_SkinProject::frm_SkinProject(QWidget* owner, Windows& windows, Canvas& canva
 }
 
 frm_SkinProject::~frm_SkinProject() {
-    // A box that has the focus loses it when the window goes, and then nobody is left to hear it.
+    // A box with the focus loses it when the window is destroyed, and would then call the destroyed window.
     tbx_SkinName->disconnect(this);
 }
 
@@ -151,7 +151,7 @@ void frm_SkinProject::ShowSkinProject(std::string_view key) {
     if (shown) windows_.ShowToolbox();
 }
 
-/// What the skin's file had lost: the beginning fits the panel, all of it stands in the tool tip.
+/// Shows what was lost of the skin's file: its beginning in the panel, all of it in the tool tip.
 void frm_SkinProject::ShowDamage() {
     lbl_Damage->setVisible(!objSkin->Damage.empty());
     QStringList lines;
@@ -330,7 +330,7 @@ void frm_SkinProject::StandAlone() {
     EnableLayoutButtons(false);
     setAcceptDrops(false);
     show();
-    // The new native window is placed as if it had no frame, and would stand higher by the title.
+    // The new native window would be placed without its frame, higher by the height of the title.
     windowHandle()->setFramePosition(corner);
 }
 

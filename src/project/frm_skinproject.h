@@ -17,6 +17,7 @@ class QLineEdit;
 
 namespace ornavo {
 
+/// The project panel.
 class frm_SkinProject : public Form {
     Q_OBJECT
 public:
@@ -25,26 +26,26 @@ public:
 
     QLineEdit* tbx_SkinName;
     LayoutList* lst_Layouts;
-    QLabel* lbl_Damage;  // what the skin's file had lost, if anything
+    QLabel* lbl_Damage;  // what was lost of the skin's file; hidden if nothing was
     TileCommand *btn_OpenSkin, *btn_CreateNewSkin, *btn_SaveSkin;
     TileCommand *btn_SkinProperties, *btn_CloneLayout, *btn_SaveToSkin;
-    QPointer<frm_AddNewSkin> AddNewSkin;  // while it is open
+    QPointer<frm_AddNewSkin> AddNewSkin;  // null unless the dialog is open
 
-    /// Shows the current skin; its layout with the key becomes the current one, or the first.
+    /// Shows the current skin. Its layout with this key becomes the current one, or else its first layout.
     void ShowSkinProject(std::string_view key = "");
-    void LoadDebug(const SkinPlace& place);
-    /// What the Save button does; nothing while no skin is open. False if nothing was saved.
+    void LoadDebug(const SkinPlace& place);  // opens and shows the skin; Failure if that is impossible
+    /// Saves as the Save button does; does nothing while no skin is open. False if nothing was saved.
     bool SaveSkin();
 
-    void Hide();  // without a question; its place is kept
-    /// The program ends: asks about changes whether the panel is shown or not, and closes it. Unless all went
-    /// well it is shown again.
+    void Hide();  // does not ask about changes; stores its place
+    /// Called when the program ends: asks about changes, whether or not the panel is visible, and closes it.
+    /// The panel is shown again unless that succeeds.
     void AskAtEnd();
 
-    /// How the window took the last request to close.
+    /// The outcome of the last request to close the window.
     enum class Unload { Done, Cancelled, SaveFailed };
     Unload LastUnload() const { return lastUnload_; }
-    /// Lives on as the program's last window, where the skin can still be saved.
+    /// Makes the panel the program's last window, in which the skin can still be saved.
     void StandAlone();
 
 protected:

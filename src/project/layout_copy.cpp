@@ -25,7 +25,7 @@ std::string AskForName(std::string_view key) {
         prompts().Input("Enter a name for new Layout", "New Layout", proposal).value_or(""));
 }
 
-/// A layout of that name with copies of the source's elements and points.
+/// Adds a layout with this name and copies of the source's elements and points.
 dbLayoutRef AddCopy(dbSkin& skin, std::string_view name, const dbLayout& source) {
     dbLayoutRef copy = skin.AddNewLayout(name);
     copy->dbLayoutElements = std::make_shared<dbLayoutElements>();
@@ -40,7 +40,8 @@ dbLayoutRef AddCopy(dbSkin& skin, std::string_view name, const dbLayout& source)
     return copy;
 }
 
-/// The pictures by their places in the current skin: another one means its own by a bare name.
+/// Replaces the pictures' names by their full paths, because another skin would look for a bare name in its
+/// own folder.
 void NamePlaces(const dbLayout& layout) {
     for (const dbLayoutElementRef& element : *layout.dbLayoutElements)
         for (const PictureField& picture : PictureFields) {
@@ -51,7 +52,7 @@ void NamePlaces(const dbLayout& layout) {
 
 constexpr const char* InsertTitle = "Insert Layout to Skin";
 
-/// False where the file can't be read, which is told.
+/// Loads the skin; on a failure shows a message and returns false.
 bool Read(dbSkin& skin, const char* title) {
     try {
         if (skin.LoadSkin()) return true;
@@ -107,7 +108,7 @@ bool InsertLayoutToSkin(std::string_view key, SkinFiles& files) {
     const std::filesystem::path home = OnDisk(target.SkinFolder());
     const bool same = EqualText(target.SkinName, objSkin->SkinName);
     if (same && files.Save() != SkinFiles::Saved::Yes) return false;
-    if (!Read(target, InsertTitle)) return same;  // what can't be read must not be replaced
+    if (!Read(target, InsertTitle)) return same;  // a file that cannot be read must not be replaced
     const dbLayoutRef copy = AddCopy(target, GetFreeClonedText(target, answer), *source);
     if (!same) NamePlaces(*copy);
     files.SaveInto(target, home);

@@ -24,7 +24,7 @@ void ShowName(QTreeWidgetItem& item, std::string_view name) {
 
 }  // namespace
 
-/// Hands the label's text to the list, which alone decides what the item shows.
+/// Passes the label's text to the list, which decides what the item shows.
 class LayoutList::LabelDelegate : public QStyledItemDelegate {
 public:
     explicit LabelDelegate(LayoutList& list) : QStyledItemDelegate(&list), list_(list) {}
@@ -32,7 +32,7 @@ public:
         list_.labelKey_ = index.data(KeyRole).toString();
         list_.labelText_ = static_cast<QLineEdit*>(editor)->text();
         list_.labelWaits_ = true;
-        // A box may come of it, which must not open while the label is being closed.
+        // Queued, because a dialog may follow, and that must not open while the label is being closed.
         QMetaObject::invokeMethod(&list_, &LayoutList::TellLabel, Qt::QueuedConnection);
     }
 
@@ -88,10 +88,10 @@ void LayoutList::Add(const dbLayout& layout) {
 void LayoutList::Remove(std::string_view key) {
     const ornavo::Raised busy(ListBusy);
     QTreeWidgetItem* gone = Find(key);
-    const int row = indexOfTopLevelItem(gone), last = topLevelItemCount() - 2;  // the last makes a new one
+    const int row = indexOfTopLevelItem(gone), last = topLevelItemCount() - 2;  // the last item is "add new"
     delete gone;
     setCurrentItem(last > 0 ? topLevelItem(std::min(row, last - 1)) : nullptr);
-    if (currentItem()) scrollToItem(currentItem());  // Qt chose it already, where it stood before
+    if (currentItem()) scrollToItem(currentItem());  // Qt has scrolled to its former place
 }
 
 void LayoutList::Rename(std::string_view key, std::string_view name) {
@@ -131,12 +131,12 @@ void LayoutList::keyPressEvent(QKeyEvent* event) {
         if (LayoutIsSelected()) emit DeletePressed();
         return;
     }
-    // The window has its own keys; the list would take them for the first letter of an item.
+    // Keys with Ctrl are for the window; the list would search them as first letters.
     if (event->modifiers() & Qt::ControlModifier) return event->ignore();
     QTreeWidget::keyPressEvent(event);
 }
 
-/// The layout that is shown already is chosen anew by a click.
+/// A click on the selected layout counts as selecting it again.
 void LayoutList::mousePressEvent(QMouseEvent* event) {
     QTreeWidgetItem* before = currentItem();
     QTreeWidget::mousePressEvent(event);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The list of a skin's layouts, which ends in an item that makes a new one. It knows keys and names, and
-// tells what the user does; what that means is for its window to say.
+// The list of a skin's layouts, with a last item that adds one. It only reports what the user does; its
+// window acts on it.
 #pragma once
 
 #include <QTreeWidget>
@@ -11,6 +11,7 @@
 
 namespace ornavo {
 
+/// The list of layouts, by keys and names.
 class LayoutList : public QTreeWidget {
     Q_OBJECT
 public:
@@ -19,27 +20,27 @@ public:
     inline static constexpr const char* AddNewKey = "<add new>";
     inline static constexpr const char* AddNewText = "<add new Layout>";
 
-    bool ListBusy = false;  // code fills the list: nothing is told
+    bool ListBusy = false;  // code changes the list: ItemClick is not emitted
 
-    /// Shows the layouts and selects the one with the key.
+    /// Shows the layouts and selects the one with the key `selected`.
     void Fill(const dbLayouts& layouts, std::string_view selected);
-    /// Inserts the layout before the last item and selects it.
+    /// Inserts the layout before the last item, "add new", and selects it.
     void Add(const dbLayout& layout);
-    /// Takes the item out and selects the next layout, otherwise the one before, if there is one.
+    /// Removes the item and selects the next layout, or else the previous one.
     void Remove(std::string_view key);
     void Rename(std::string_view key, std::string_view name);
 
-    /// Key and text of the selected item, "" if there is none.
+    /// Key and text of the selected item; "" if there is none.
     std::string SelectedKey() const;
     std::string SelectedText() const;
-    bool LayoutIsSelected() const;  // a real one
+    bool LayoutIsSelected() const;  // not "add new"
 
     void StartLabelEdit();
-    /// Takes what stands in an open label, as leaving it would.
+    /// Commits the text of an open label as leaving it would.
     void FinishLabelEdit();
 
 signals:
-    void ItemClick();  // another item is selected
+    void ItemClick();  // another item is selected, or the same one is clicked again
     void DeletePressed();
     void AfterLabelEdit(const QString& key, const QString& text);
 

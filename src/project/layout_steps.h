@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What naming and deleting a layout does to the current skin. Each step tells what it did; the window shows
-// it.
+// Naming, adding and deleting a layout of the current skin. The window updates what it shows.
 #pragma once
 
 #include <string>
@@ -8,15 +7,15 @@
 
 namespace ornavo {
 
-/// A layout's name as the file can hold it: what has no character there becomes "?".
+/// The layout's name as the file can hold it: characters that the file does not have become "?".
 std::string StorableLayoutName(std::string_view name);
 
-/// Another name for the layout with the key, which itself stays.
+/// Renames the layout with this key; the key stays.
 void RenameLayout(std::string_view key, std::string_view name);
-/// A new layout with the four corners becomes the current one. If its key is taken the user is told so, and
-/// nothing has changed.
+/// Adds a layout with the four corners and makes it the current one. False, after a message and without any
+/// change, if its key exists.
 bool AddLayout(std::string_view name);
-/// Removes the layout with the key after a question. "Standard" is locked. True if it is gone.
+/// Removes the layout with this key after a question. "Standard" cannot be removed. True if it was removed.
 bool DeleteLayout(std::string_view key, std::string_view text);
 
 }  // namespace ornavo

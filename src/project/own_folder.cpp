@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Asked by writing, since a system's permission bits don't tell for every user and disk.
+/// Tries to write, because permission bits do not tell for every user and disk.
 bool CanWrite(const fs::path& folder) {
     const fs::path probe = folder / ".ornavo-probe";
     std::error_code ignored;

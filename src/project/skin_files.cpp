@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// One form for each folder, whatever its case, links and separators.
+/// The skin's folder in a form that is the same for each spelling: case, links and separators are resolved.
 fs::path FolderOf(const dbSkin& skin) {
     std::error_code ignored;
     const fs::path folder = OnDisk(skin.SkinFolder());
