@@ -29,7 +29,7 @@ void ChooseColour(RowText& box) {
     box.SetText(Value(colour).ToText());
 }
 
-/// The faces that the skin names.
+/// The names of all fonts in the skin.
 std::vector<std::string> FacesOfSkin() {
     std::vector<std::string> faces;
     const auto take = [&](const FontRef& font) {
@@ -49,7 +49,7 @@ void ChooseFont(PanelParts& parts, RowText& box) {
     Font chosen = *font;
     if (!cCommonDialog().VBChooseFont(chosen, FacesOfSkin())) return;
     box.SetText(chosen.Name);
-    *font = chosen;  // also for a clone, which has the same object
+    *font = chosen;  // changes the font for a clone too, which shares the object
     Attempt([&] { SetRowValue(parts.BoundObject, key, font); });
     parts.tmrUpdate.start();
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A row's button: a colour, a font or a picture is chosen, or a picture is edited.
+// The dialogs behind a row's buttons: choosing a colour, a font or a picture, and editing a picture.
 #pragma once
 
 namespace ornavo {
@@ -7,9 +7,9 @@ namespace ornavo {
 struct PanelParts;
 class RowButton;
 
-/// What the button's kind asks for. The keyboard is then the panel's again.
+/// Opens the dialog for the button's kind. Afterwards the panel has the keyboard focus.
 void Choose(PanelParts& parts, const RowButton& button);
-/// The picture that the button's box names is edited; nothing where it names none.
+/// Opens the picture editor on the picture in the button's box; does nothing if the box is blank.
 void EditPicture(PanelParts& parts, const RowButton& button);
 
 }  // namespace ornavo

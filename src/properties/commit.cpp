@@ -23,11 +23,11 @@
 namespace ornavo {
 namespace {
 
-// What nothing on the canvas shows.
+// Nothing on the canvas shows these.
 constexpr std::array<std::string_view, 4> UndrawnTexts = {"ElementName", "dbScript", "Value",
                                                           "SP_SkinInformation.Value"};
 constexpr std::array<std::string_view, 2> UndrawnTicks = {"Resizer", "Dragger"};
-// What decides which rows there are.
+// These decide which rows the sheet has.
 constexpr std::array<std::string_view, 2> RebuildingTicks = {"UseTopLeftTransparency",
                                                              "CB_UseTopLeftTransparency"};
 constexpr std::array<std::string_view, 3> RebuildingLists = {"ActionType", "ElementType", "InfoType"};
@@ -38,7 +38,7 @@ void Write(PanelParts& parts, const std::string& key, const Value& value) {
     Attempt([&] { SetRowValue(parts.BoundObject, key, value); });
 }
 
-/// Where a key colour follows its control, the control takes an edited one first.
+/// For a key colour that is read back from a control: makes the control take the edited colour first.
 void TakeKeyColour(std::string_view key) {
     const std::string_view preference = GetClass(key);
     if (key == "TransparentColor") TargetForm->host().ScrollBar.ColourOwner.reset();
@@ -51,7 +51,7 @@ bool IsColourRow(std::string_view key) {
     return LowerText(key).find("color") != std::string::npos;
 }
 
-/// A colour as pictures and pages have it, "#RRGGBB", becomes its number.
+/// Converts a colour in the form "#RRGGBB" to its number.
 void TakeWebColour(RowText& box) {
     constexpr int length = 7;
     const QString text = box.text();
@@ -60,7 +60,8 @@ void TakeWebColour(RowText& box) {
     if (colour.isValid()) box.SetText(Value(Rgb(colour.red(), colour.green(), colour.blue())).ToText());
 }
 
-/// False: the box was empty, and its new text has been committed instead.
+/// Shows the colour as the box's background. False if the box was empty; it gets the text "0", whose change
+/// has been committed already.
 bool ShowColour(RowText& box) {
     if (box.Text().empty()) {
         box.setText(QStringLiteral("0"));
@@ -75,7 +76,7 @@ dbLayoutElementRef BoundElement(const PanelParts& parts) {
     return element ? *element : nullptr;
 }
 
-/// False: such a change can't be, and the list is back where it was.
+/// False if an element cannot change to or from this type; the list then shows its present type again.
 bool MayChangeType(PanelParts& parts, RowCombo& combo) {
     const dbLayoutElementRef element = BoundElement(parts);
     if (!element) return false;
@@ -85,10 +86,10 @@ bool MayChangeType(PanelParts& parts, RowCombo& combo) {
     return false;
 }
 
-/// The selection jumps to an element of the list, seen or not.
+/// Selects an element of the list, even one that is not visible.
 void ShowElement(PanelParts& parts, int listIndex) {
     const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Item(listIndex + 1);
-    parts.panel.DrawPendingEdits();  // of the element that is left
+    parts.panel.DrawPendingEdits();  // of the element selected so far
     parts.BoundObject = element;
     {
         const Raised open = parts.selection.KeepPropertiesOpen();
@@ -100,7 +101,7 @@ void ShowElement(PanelParts& parts, int listIndex) {
     parts.panel.ShowProperties();
 }
 
-/// The list of elements and who reads the canvas aloud know the bound element by its name.
+/// Shows the bound element's new name in the list of elements and to screen readers.
 void TellName(PanelParts& parts) {
     const dbLayoutElementRef element = BoundElement(parts);
     if (!element) return;

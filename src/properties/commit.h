@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What is typed, ticked or picked in a row goes to the model at once, and is drawn a moment later. A value
-// that the model can't hold leaves it as it was, without a word.
+// Writes what is typed, checked or selected in a row to the model at once; the canvas is redrawn a moment
+// later. A value that the model cannot hold is ignored silently.
 #pragma once
 
 #include "properties/row_pools.h"
@@ -9,7 +9,7 @@ namespace ornavo {
 
 struct PanelParts;
 
-/// Listens to the rows. What changes while they are built is no edit.
+/// The listener of all rows. Changes while the rows are being built are ignored.
 class RowEdits : public RowEvents {
 public:
     explicit RowEdits(PanelParts& parts) : parts_(parts) {}

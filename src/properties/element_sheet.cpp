@@ -9,7 +9,7 @@
 namespace ornavo {
 namespace {
 
-/// What a condition looks at.
+/// What the condition of a line can test.
 struct Subject {
     ElementKind kind;
     const dbLayoutElement& element;
@@ -45,6 +45,7 @@ bool IsText(const Subject& s) {
     return !IsVolume(s);
 }
 
+/// A line of a sheet, and the condition under which it is shown.
 struct Line {
     std::string_view caption;
     PropertyKindCode kind;
@@ -182,7 +183,7 @@ constexpr std::array<std::span<const Line>, 5> LinesOf = {OfElement, OfPanel, Of
 
 Value ValueOf(const Line& line, const dbLayoutElement& element) {
     if (line.kind == KindHeading) return 0;
-    // The list of elements is no field: it leads to another one.
+    // The list of elements is not a field; it selects another element.
     if (line.kind == KindElementList) return element.Key;
     return GetField(element, line.key);
 }

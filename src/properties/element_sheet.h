@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The rows of an element and of a corner of the shape.
+// The property sheets of an element and of a corner.
 #pragma once
 
 #include "document/dblayouts.h"
@@ -8,7 +8,7 @@
 
 namespace ornavo {
 
-/// Of an element on a control of that kind.
+/// The sheet of an element whose control has this kind.
 Sheet ElementSheet(ElementKind kind, const dbLayoutElement& element);
 Sheet PointSheet(const dbPoint& point);
 

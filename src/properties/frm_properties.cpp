@@ -21,7 +21,7 @@ namespace {
 constexpr int UpdateInterval = 100;  // milliseconds
 constexpr int LeastWidth = 200;      // pixels
 
-/// Title and frame, pixels. The desktop tells them only of a window that it has shown.
+/// Height of title and frame in pixels. The desktop reports it only for a window that it has shown.
 int FrameHeight(const QWidget& window) {
     return std::max(window.frameGeometry().height() - window.height(),
                     2 * screenMetrics.SM_CYFRAME + screenMetrics.SM_CYSMCAPTION);
@@ -91,7 +91,7 @@ void frm_Properties::Hide() {
 }
 
 void frm_Properties::DrawPendingEdits() {
-    // Whatever asks does so in place of leaving the row.
+    // The caller may not have taken the focus from the row, so do what leaving it would do.
     if (const RowValue* focused = sheet_.Focused())
         if (auto* box = dynamic_cast<RowText*>(focused->control)) edits_.tbx_Prop_LostFocus(*box);
     if (tmrUpdate.isActive()) tmrUpdate_Timer(parts_);
@@ -105,7 +105,7 @@ void frm_Properties::ShowProperties() {
     const std::string key = focused ? focused->key : "";
     const auto* box = focused ? dynamic_cast<QLineEdit*>(focused->control) : nullptr;
     const int cursor = box ? box->cursorPosition() : 0;
-    // A row that is hidden would hand the focus on to the next one, all the way down.
+    // Hiding a row with the focus would pass the focus to the next row, one after the other.
     if (focused) focused->control->clearFocus();
     UnloadProperties();
     Attempt([&] { Build(SheetOf(parts_.selection)); });
@@ -142,16 +142,16 @@ void frm_Properties::Build(const Sheet& sheet) {
     sheet_.SetValues(rows.Values());
 }
 
-/// What the screen has room for, pixels inside.
+/// The greatest inner height for the screen, in pixels.
 int frm_Properties::MostHeight() const {
     return screen()->availableGeometry().height() - FrameHeight(*this);
 }
 
-/// The height follows from the rows; while it would leave the screen below, the panel stands higher than its
-/// own place.
+/// Sets the height by the number of rows. If the panel would exceed the screen at the bottom, it is moved up
+/// from its own place.
 void frm_Properties::FitHeight(int rows) {
-    if (Corner() != shown_) home_ = Corner();  // moved by the user
-    // The line below the last row is the window's edge.
+    if (Corner() != shown_) home_ = Corner();  // the user has moved it
+    // The line below the last row coincides with the window's edge.
     const int pitch = PanelScale(*this)(RowPitch);
     const int wanted = std::clamp(rows * pitch - 1, pitch, std::max(MostHeight(), pitch));
     if (wanted != height() || wanted != minimumHeight()) setFixedHeight(wanted);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The properties panel: one sheet of rows for what is selected. Its life, its size, and which sheet.
+// The properties panel, which shows one sheet of rows for the selection.
 #pragma once
 
 #include <QScrollArea>
@@ -13,22 +13,23 @@
 
 namespace ornavo {
 
+/// The window of the panel: its place and size, and the choice of the sheet.
 class frm_Properties : public Form, public PropertiesPanel {
     Q_OBJECT
 public:
-    /// Owned by `owner`, the main window; null for none.
+    /// `owner` is the main window, or null.
     frm_Properties(QWidget* owner, Windows& windows, Canvas& canvas);
     ~frm_Properties() override;
 
     void Open() override;
     void ShowProperties() override;
-    void UnloadProperties() override;  // every row goes
+    void UnloadProperties() override;  // removes all rows
     void Hide() override;
     void DrawPendingEdits() override;
     bool IsShown() const override { return isVisible(); }
 
     PanelParts& parts() { return parts_; }
-    QTimer tmrUpdate;  // 100 ms after the last edit
+    QTimer tmrUpdate;  // 100 ms after the last edit, single shot
 
 protected:
     void Form_Activate() override;
@@ -42,9 +43,9 @@ private:
     void FitHeight(int rows);
     int MostHeight() const;
 
-    QPoint home_, shown_;  // the corner that the user chose, and where the height of the sheet has put it
+    QPoint home_, shown_;  // the user's corner, and the one to which a high sheet has moved the panel
     PanelParts parts_;
-    RowEdits edits_;  // outlives the rows, which tell it of a lost focus as they go
+    RowEdits edits_;  // before the rows, which report a lost focus when they are destroyed
     QScrollArea scroll_;
     RowSheet sheet_;
     RowPools pools_;

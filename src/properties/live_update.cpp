@@ -11,7 +11,7 @@
 namespace ornavo {
 namespace {
 
-/// The panel stays open under the user's hands, though what it shows may be hidden by the edit.
+/// Keeps the panel open while the user types in it, even if the edit hides the selected control.
 void KeepSelection(PanelParts& parts) {
     if (!parts.selection.SelControl()) return;
     const Raised open = parts.selection.KeepPropertiesOpen();
@@ -34,7 +34,8 @@ void RedrawSelected(PanelParts& parts) {
 }  // namespace
 
 void tmrUpdate_Timer(PanelParts& parts) {
-    parts.tmrUpdate.stop();  // first: a composition may hide the panel, which draws what still waits
+    // First, because a composition may hide the panel, which would draw the waiting edits again.
+    parts.tmrUpdate.stop();
     Attempt([&] { RedrawSelected(parts); });
     objSkin->Dirty = true;
     parts.canvas.UpdateCaption();
@@ -42,7 +43,7 @@ void tmrUpdate_Timer(PanelParts& parts) {
 
 void UpdateCurrentLayout(PanelParts& parts) {
     objSkin->Dirty = true;
-    // What the composition leaves without a control is no reason to close either.
+    // Nor must the panel close if the composition leaves the selection without a control.
     const Raised open = parts.selection.KeepPropertiesOpen();
     parts.canvas.UpdateCurrentLayout();
     KeepSelection(parts);

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-// After the last of a run of edits the canvas shows them: by what is selected, one thing is drawn anew.
+// Redraws the part of the canvas that a run of edits has changed, after the last of them.
 #pragma once
 
 namespace ornavo {
 
 struct PanelParts;
 
+/// Draws the waiting edits.
 void tmrUpdate_Timer(PanelParts& parts);
-/// The skin is dirty, its layout is composed anew, and the selection goes on.
+/// Marks the skin as changed and composes its layout; the selection is kept.
 void UpdateCurrentLayout(PanelParts& parts);
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What an edit of a row may touch.
+// What the edits of rows work with.
 #pragma once
 
 #include <QTimer>
@@ -11,16 +11,17 @@
 
 namespace ornavo {
 
+/// References to the parts of the panel, for edits and dialogs.
 struct PanelParts {
     PropertiesPanel& panel;
     Canvas& canvas;
     Selection& selection;
     Windows& windows;
     RowPools& pools;
-    QTimer& tmrUpdate;        // 100 ms after the last edit, one shot
-    bool IsBuilding = false;  // code fills the rows; nothing that changes in them is an edit
+    QTimer& tmrUpdate;        // 100 ms after the last edit, single shot
+    bool IsBuilding = false;  // code is filling the rows; changes are not edits
     BoundObjectRef BoundObject = {};
-    std::string lastPictures = {};  // the folder of the picture last chosen in this run; "" for none
+    std::string lastPictures = {};  // folder of the last picture chosen in this run; "" if none
 };
 
 }  // namespace ornavo

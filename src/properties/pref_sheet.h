@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The rows of a family of preferences, in the order in which the skin has them.
+// The property sheets of preferences, in the order of the skin.
 #pragma once
 
 #include "base/geometry.h"
@@ -8,9 +8,10 @@
 
 namespace ornavo {
 
-/// The preferences "Prefix_..." and "PrefixSuffix_...", with the headings that their captions call for.
+/// Appends the preferences "Prefix_..." and "PrefixSuffix_..." and inserts the headings "Pictures" and
+/// "Misc".
 void AddSkinProp(Sheet& sheet, const dbSkinPrefs& prefs, std::string_view prefix, std::string_view suffix);
-/// The sheet of a sample control at its bounds; of any other control an empty one.
+/// The sheet of a sample control with these bounds; an empty one for any other control.
 Sheet SampleSheet(const dbSkinPrefs& prefs, std::string_view controlName, const Rect& bounds);
 
 }  // namespace ornavo

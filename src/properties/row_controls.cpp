@@ -14,10 +14,10 @@
 namespace ornavo {
 namespace {
 
-constexpr int ListRows = 24;      // of an open list before it scrolls
-constexpr int LeastStretch = 60;  // percent, still readable
+constexpr int ListRows = 24;      // rows of an open list without scrolling
+constexpr int LeastStretch = 60;  // percent of the normal width that is still readable
 
-/// A value is one line of the file: what breaks lines in a pasted text becomes blanks.
+/// Replaces line breaks and other control characters by blanks, because a value is one line of the file.
 class OneLine : public QValidator {
 public:
     using QValidator::QValidator;
@@ -32,7 +32,7 @@ bool IsDark(const QColor& colour) {
     return qGray(colour.rgb()) < 128;
 }
 
-/// A screen reader has a row's caption as the name of its value, and doesn't read it twice.
+/// Hides a caption from screen readers, which read it as the name of the row's value.
 class AccessibleLabel : public QAccessibleWidget {
 public:
     explicit AccessibleLabel(RowLabel* label) : QAccessibleWidget(label, QAccessible::StaticText) {}
@@ -118,7 +118,7 @@ RowCombo::RowCombo(QWidget* frame) : QComboBox(frame) {
     setObjectName(QStringLiteral("cboProp"));
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(ListRows);
-    // Clipped, it has no edge: its ground is that of the text boxes.
+    // It is clipped and so has no visible edge; it gets the background of the text boxes.
     QPalette colours = palette();
     colours.setBrush(QPalette::Button, colours.base());
     setPalette(colours);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controls of a row, each with the Tag that binds it.
+// The controls of a row, each with the Tag that binds it to the model.
 #pragma once
 
 #include <QCheckBox>
@@ -14,11 +14,12 @@ namespace ornavo {
 
 inline constexpr Colour WindowBackground = ColourOf(0x80000005);
 
+/// The caption of a row.
 class RowLabel : public QLabel {
 public:
     explicit RowLabel(QWidget* sheet);
-    /// A heading is bold on a ground of its own; a caption that is too long for `width` pixels is narrowed,
-    /// and its tool tip has what is cut all the same.
+    /// A heading is bold and has its own background. A caption wider than `width` pixels is condensed; if it
+    /// is still too wide, its tool tip has the whole text.
     void Show(const QString& caption, bool heading, int width);
 
     bool IsHeading() const { return heading_; }
@@ -31,7 +32,7 @@ private:
 
 class RowText;
 
-/// Fills its box by a dialog of the row's kind.
+/// Opens a dialog that fills its text box.
 class RowButton : public TileCommand {
 public:
     using TileCommand::TileCommand;
@@ -39,21 +40,22 @@ public:
     RowText* box = nullptr;
 };
 
+/// The text box of a row.
 class RowText : public QLineEdit {
 public:
     explicit RowText(QWidget* sheet);
 
     std::string Text() const { return text().toStdString(); }
-    void SetText(std::string_view text);  // shown from its start
+    void SetText(std::string_view text);  // and scrolls to the start
     bool Locked() const { return isReadOnly(); }
     void SetLocked(bool locked) { setReadOnly(locked); }
     Colour BackColor() const { return backColor_; }
-    /// The text is black or white, whichever can be read. Failure 380 for what is no colour.
+    /// Also makes the text black or white, whichever is readable. Failure 380 for an invalid colour.
     void SetBackColor(Colour colour);
 
-    /// The tool tip when it is wanted, made from the text as it then is; null for none.
+    /// Makes the tool tip from the text at the time it is shown; null for no tool tip.
     std::function<QString(std::string_view text)> Tip;
-    RowButton* button = nullptr;  // that fills it; null for none
+    RowButton* button = nullptr;  // opens a dialog for the text; null if there is none
     std::string Tag;
 
 protected:
@@ -63,6 +65,7 @@ private:
     Colour backColor_ = WindowBackground;
 };
 
+/// The check box of a row.
 class RowCheck : public QCheckBox {
 public:
     explicit RowCheck(QWidget* sheet);
@@ -72,16 +75,16 @@ public:
     std::string Tag;
 
 protected:
-    void paintEvent(QPaintEvent*) override;  // the style's own box is higher than a row
+    void paintEvent(QPaintEvent*) override;  // because the style's box is higher than a row
     bool hitButton(const QPoint& at) const override { return rect().contains(at); }
 };
 
-/// The wheel changes it only while it has the focus.
+/// The list of a row. The mouse wheel changes it only while it has the focus.
 class RowCombo : public QComboBox {
 public:
     explicit RowCombo(QWidget* frame);
     int ListIndex() const { return currentIndex(); }
-    void SetListIndex(int index);  // what lies outside of the list selects nothing
+    void SetListIndex(int index);  // an index outside of the list selects nothing
 
     std::string Tag;
 
@@ -89,7 +92,7 @@ protected:
     void wheelEvent(QWheelEvent*) override;
 };
 
-/// Clips a combo box to the height of a row.
+/// Clips a combo box, which is higher than a row, to the row's height.
 class RowFrame : public Control {
 public:
     RowFrame(QWidget* sheet, int index);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int ButtonWidth = 18, ButtonHeight = 16, EditPictureSize = 12;  // pixels
 
-/// Tells of a text box that is left, but not for a menu or a list of its own, and presses its button by key.
+/// Reports that a text box loses the focus, except to its own menu, and presses its button by a key.
 class BoxFilter : public QObject {
 public:
     BoxFilter(RowText& box, RowEvents& events) : QObject(&box), box_(box), events_(events) {
@@ -29,7 +29,7 @@ public:
     }
 
 private:
-    // The keys that open a list.
+    // The keys that open a drop-down list.
     static bool OpensButton(const QKeyEvent& key) {
         return key.key() == Qt::Key_F4 || (key.key() == Qt::Key_Down && key.modifiers() & Qt::AltModifier);
     }
@@ -62,7 +62,7 @@ RowCheck* MakeCheck(QWidget& sheet, RowEvents& events) {
 RowButton* MakeButton(QWidget& sheet, const char* name, int index, const char* tip) {
     auto* button = new RowButton(&sheet, name, index);
     button->setToolTip(QLatin1String(tip));
-    // The Tab key walks the values; a row's button is pressed from its box.
+    // Tab steps through the values; a button is pressed from its box by a key.
     button->setFocusPolicy(Qt::NoFocus);
     button->resize(PanelScale(sheet)(QSize(ButtonWidth, ButtonHeight)));
     button->hide();

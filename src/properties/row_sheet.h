@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The ground on which the rows stand: its lines, and the way of the Tab key from value to value.
+// The sheet on which the rows are placed: it draws the lines, and Tab steps from value to value.
 #pragma once
 
 #include <QWidget>
@@ -10,25 +10,26 @@ class QScrollArea;
 
 namespace ornavo {
 
-inline constexpr int RowPitch = 15, CaptionWidth = 120;  // pixels, as designed
+inline constexpr int RowPitch = 15, CaptionWidth = 120;  // pixels at the designed size
 
-/// The value of a row: what the keyboard goes to.
+/// The value of a row: the control that gets the focus.
 struct RowValue {
     std::string key;
     QWidget* control;
 };
 
+/// The scrolled widget that has the rows' controls as children.
 class RowSheet : public QWidget {
 public:
-    /// Becomes the widget of the scroll area, which still has to live when the sheet goes.
+    /// Becomes the widget of the scroll area, which must outlive it.
     explicit RowSheet(QScrollArea& scroll);
     ~RowSheet() override;
 
     void SetValues(std::vector<RowValue> values) { values_ = std::move(values); }
     const std::vector<RowValue>& Values() const { return values_; }
-    /// The value that has the focus of the window, and null for none.
+    /// The value that has the focus of its window; null if none has.
     const RowValue* Focused() const;
-    /// Gives the focus of the window to the value with the key, if there is one.
+    /// Sets the focus to the value with this key; does nothing if there is none.
     void Focus(std::string_view key);
 
 protected:
@@ -37,7 +38,7 @@ protected:
 
 private:
     QScrollArea& scroll_;
-    std::vector<RowValue> values_;  // from the top
+    std::vector<RowValue> values_;  // from top to bottom
 };
 
 }  // namespace ornavo

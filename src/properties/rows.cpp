@@ -13,10 +13,10 @@ namespace {
 
 constexpr int ValueOverhang = 20;
 constexpr QSize CheckSize = {12, 12};
-constexpr int ComboLeft = -2, ComboLack = 16, ComboHeight = 24;  // in its frame; less wide than a value
+constexpr int ComboLeft = -2, ComboLack = 16, ComboHeight = 24;  // pixels; narrower than a value by ComboLack
 constexpr const char* Undefined = "<undefined>";
 
-/// Where the picture of that name lies.
+/// The path of the picture for its tool tip.
 QString PicturePath(std::string_view name) {
     const std::filesystem::path file = FindSkinPicture(name);
     if (!file.empty()) return Shown(ToText(file));
@@ -24,6 +24,7 @@ QString PicturePath(std::string_view name) {
                         : Shown(GetSkinPicturePath(name)) + QStringLiteral("\nThere is no such file.");
 }
 
+/// The names that a list of this kind offers.
 struct List {
     int kind;
     std::span<const std::string_view> names;
@@ -34,7 +35,8 @@ constexpr List Lists[] = {
     {KindVertical, VerticalNames},
 };
 
-/// The elements of the current layout, and the position of the one with the key.
+/// Appends the elements of the current layout; returns the index of the one with the key, -1 if there is
+/// none.
 int FillElements(QStringList& items, const std::string& key) {
     int chosen = -1;
     for (const dbLayoutElementRef& element : *objCurrentLayout->dbLayoutElements) {
@@ -54,7 +56,7 @@ Rows::Rows(RowPools& pools, int scaleWidth, const PanelScale& scale)
     : pools_(pools),
       scale_(scale),
       rowPitch_(scale(RowPitch)),
-      rowHeight_(rowPitch_ - 1),  // a line parts it from the next
+      rowHeight_(rowPitch_ - 1),  // one pixel less for the line between rows
       captionWidth_(scale(CaptionWidth)),
       valueOverhang_(scale(ValueOverhang)),
       scaleWidth_(scaleWidth),
@@ -98,7 +100,7 @@ void Rows::AddProperties(const SheetRow& row) {
 void Rows::AddCaption(const SheetRow& row) {
     const bool heading = row.kind == KindHeading;
     RowLabel& label = pools_.lbl_Prop[pools_.LoadLabel()];
-    // A heading has no key, and a label without a Tag would be free.
+    // A heading has no key, but a label needs a Tag to be in use.
     label.Tag = heading ? "Label" : row.key;
     const int width = heading ? scaleWidth_ : captionWidth_;
     label.Show(QLatin1String(heading ? " " : "  ") + Shown(row.caption), heading, width);
@@ -112,7 +114,7 @@ RowText& Rows::Box(const SheetRow& row, int width) {
     box.Tag = row.key;
     box.SetText("");
     box.setFocusPolicy(row.kind == KindBoolean ? Qt::NoFocus : Qt::StrongFocus);
-    // Behind a tick box it is ground alone.
+    // Behind a check box it is only background.
     box.setAccessibleName(row.kind == KindBoolean ? QString() : Shown(row.caption));
     box.setGeometry(captionWidth_, NextRowTop, width, rowHeight_);
     box.show();
@@ -186,7 +188,7 @@ void Rows::AddPicture(const SheetRow& row) {
 void Rows::AddList(const SheetRow& row) {
     RowFrame& frame = pools_.cboPic[pools_.LoadCombo()];
     frame.Tag = row.key;
-    frame.setAccessibleName(Shown(row.caption));  // a list itself is read as what it shows
+    frame.setAccessibleName(Shown(row.caption));  // because a combo box is announced with its selected text
     frame.Move({captionWidth_, NextRowTop, valueWidth_, rowHeight_});
     RowCombo& combo = frame.cboProp;
     combo.Tag = row.key;

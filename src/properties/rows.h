@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A row takes its controls from the pools: which ones its kind needs, and where they stand.
+// Makes the rows of a sheet: takes the controls for each row from the pools and places them.
 #pragma once
 
 #include "document/dblayouts.h"
@@ -10,20 +10,21 @@
 
 namespace ornavo {
 
-/// An element as the list of elements shows it.
+/// The text for an element in the list of elements.
 QString LineOf(const dbLayoutElement& element);
 
+/// Appends rows to a sheet from top to bottom.
 class Rows {
 public:
-    /// `scaleWidth` is the width of the sheet, pixels; `scale` that of its font.
+    /// `scaleWidth` is the width of the sheet in pixels.
     Rows(RowPools& pools, int scaleWidth, const PanelScale& scale);
 
     int RowCount = 0;
     int NextRowTop = 0;  // pixels
 
-    /// Appends one row. What fails (a value that is no colour, a place in no list) is left out.
+    /// Appends one row. A step that fails, such as an invalid colour or list index, is skipped.
     void AddProperties(const SheetRow& row);
-    /// The values of all rows from the top, as the Tab key walks them.
+    /// The values of all rows from top to bottom.
     const std::vector<RowValue>& Values() const { return values_; }
 
 private:

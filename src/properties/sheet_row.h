@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A row before it has controls: what a sheet is made of.
+// A sheet as data, before it has controls.
 #pragma once
 
 #include <string>
@@ -10,9 +10,10 @@
 
 namespace ornavo {
 
+/// A row of a sheet.
 struct SheetRow {
     std::string caption;
-    std::int32_t kind = KindHeading;  // PropertyKindCode; a preference of a file may hold any number
+    std::int32_t kind = KindHeading;  // PropertyKindCode; a preference of a file may have any number
     Value value;
     std::string key;  // "" for a heading
 };
