@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Start and stop of the editor.
+// Starts and ends the editor.
 #include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
@@ -23,13 +23,13 @@ constexpr const char* Usage =
     "  --help     show this text\n"
     "  --version  show the version\n";
 
-/// "0.1" of "0.1.0".
+/// The first two numbers of the version: "0.1" for "0.1.0".
 std::string MajorMinor() {
     const std::string_view version = ORNAVO_VERSION;
     return std::string(version.substr(0, version.rfind('.')));
 }
 
-/// The whole command line as one text: a skin's name may have blanks.
+/// All arguments joined by blanks, because a skin's name may contain blanks.
 std::string CommandLine(const QStringList& arguments) {
     return arguments.mid(1).join(' ').toStdString();
 }
@@ -49,14 +49,14 @@ std::string FolderWithSamples(const std::string& data) {
     return ornavo::ToText(own);
 }
 
-/// The desktop shows it in window frames, in its bar of tasks and when it switches windows.
+/// The icon for window frames, the task bar and the window switcher.
 QIcon ProgramIcon() {
     QIcon icon;
     for (const int size : {16, 32, 48, 128}) icon.addFile(QStringLiteral(":/ornavo-%1.png").arg(size));
     return icon;
 }
 
-/// What goes wrong on the way of an event is told, and the program lives on.
+/// Shows exceptions from event handlers as messages and keeps the program running.
 class Application : public QApplication {
 public:
     using QApplication::QApplication;

@@ -9,7 +9,7 @@
 namespace ornavo {
 namespace {
 
-constexpr int UsualSheetHeight = 640;  // pixels: most sheets are lower
+constexpr int UsualSheetHeight = 640;  // pixels; most sheets need less
 
 }  // namespace
 
@@ -66,12 +66,12 @@ void Program::UnloadOthers() {
     if (properties_) properties_->close();
     if (magnifier_) magnifier_->close();
     if (project_.LastUnload() == frm_SkinProject::Unload::Done) return;
-    // It stayed open, is asked to close once more, and is the last window if it stays again.
+    // A panel that stayed open is asked again, and becomes the last window if it stays open once more.
     if (!project_.close()) project_.StandAlone();
 }
 
 void Program::ShowToolbox() {
-    // A desktop keeps a tool window above its owner only if it has seen the owner first.
+    // A desktop keeps a tool window above its owner only if the owner was shown first.
     toolboxWaits_ = !main_.isVisible();
     if (toolboxWaits_) return;
     if (!toolbox_) {
@@ -97,7 +97,7 @@ void Program::ToggleToolbox() {
         ShowToolbox();
 }
 
-/// With nothing selected it shows what all of the skin has.
+/// Without a selection the panel shows the preferences of the whole skin.
 void Program::ToggleProperties() {
     if (properties().IsShown()) return properties().Hide();
     const Selection& selection = main_.selection();
@@ -126,7 +126,7 @@ void Program::ShowPreview() {
 void Program::LeavePreview() {
     if (!preview_) return;
     preview_->hide();
-    preview_.release()->deleteLater();  // it may be its own close that leads here
+    preview_.release()->deleteLater();  // because its own close event may have led here
     main_.EndPreview();
     main_.show();
     ShowToolbox();

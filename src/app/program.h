@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Owner of the windows, and the calls between them.
+// Owns the windows and connects them.
 #pragma once
 
 #include <memory>
@@ -17,9 +17,10 @@
 
 namespace ornavo {
 
+/// The program: implements the calls between windows.
 class Program : public Windows {
 public:
-    /// `ownFolder` holds the folder "Skins", `dataFolder` the folder "Recovered".
+    /// `ownFolder` has the folder "Skins", `dataFolder` the folder "Recovered".
     Program(std::string version, const std::string& ownFolder, const std::string& dataFolder);
     ~Program() override;
 
@@ -48,12 +49,12 @@ private:
     QtPrompts prompts_;
     frm_Ornavo main_;
     frm_SkinProject project_;
-    std::unique_ptr<frm_Properties> properties_;  // null until it is first asked for
-    std::unique_ptr<frm_Toolbox> toolbox_;        // null until it is first shown
-    std::unique_ptr<frm_Magnifier> magnifier_;    // the one last opened
-    std::unique_ptr<frm_Preview> preview_;        // null while there is none
+    std::unique_ptr<frm_Properties> properties_;  // null until first used
+    std::unique_ptr<frm_Toolbox> toolbox_;        // null until first shown
+    std::unique_ptr<frm_Magnifier> magnifier_;    // the last one opened
+    std::unique_ptr<frm_Preview> preview_;        // null unless it is open
     ToolPlaces tools_;
-    bool toolboxWaits_ = false;  // for the main window, above which it stays
+    bool toolboxWaits_ = false;  // to be shown once the main window is visible
     std::vector<WindowLine> lines_;
 };
 

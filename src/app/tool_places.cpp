@@ -23,7 +23,7 @@ bool HoldsPlace(const char* section) {
 
 void ToolPlaces::Add(Form& tool, const char* section, int leastHeight) {
     tools_.push_back({&tool, HoldsPlace(section), leastHeight, {}, std::nullopt});
-    // What grows comes last, below the others.
+    // Tools that may grow come last, so that they are below the others.
     std::stable_sort(tools_.begin(), tools_.end(),
                      [](const Tool& one, const Tool& other) { return one.leastHeight < other.leastHeight; });
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the tool windows stand as long as the user has not said so.
+// Places the tool windows until the user moves one.
 #pragma once
 
 #include <optional>
@@ -9,21 +9,24 @@
 
 namespace ornavo {
 
+/// The tool windows and their automatic places.
 class ToolPlaces {
 public:
-    /// The tool lives as long as this does. It stays where its settings in `section` want it, if they do;
-    /// otherwise it gets a place beside the main window, at least so high (pixels).
+    /// Adds a tool, which must live as long as this object. If `section` of the settings has a place for it,
+    /// the tool stays there; otherwise it gets a place beside the main window with at least this height in
+    /// pixels.
     void Add(Form& tool, const char* section, int leastHeight = 0);
-    /// Reckons the places anew. No more once the user has moved one of the tools.
+    /// Computes and sets the places. Does nothing once the user has moved one of the tools.
     void Arrange(const Form& main);
 
 private:
+    /// A tool window and its place.
     struct Tool {
         Form* form;
-        bool hasPlace;  // of its own, from the settings
+        bool hasPlace;  // the settings have a place for it
         int leastHeight;
-        QPoint designed;            // where it stands if there is no room beside the main window
-        std::optional<QPoint> put;  // where it was last put
+        QPoint designed;            // its place if there is no room beside the main window
+        std::optional<QPoint> put;  // its last automatic place
     };
     std::vector<Tool> tools_;
     bool userHasMovedOne_ = false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A function for each command of the tool.
+// The commands of the tool, a function each.
 #pragma once
 
 #include <map>
@@ -9,26 +9,27 @@
 
 namespace ornavo {
 
-/// The words of the command line were wrong; exit 2.
+/// The command line is wrong; exit code 2.
 class UsageError : public Failure {
 public:
     explicit UsageError(std::string reason)
         : Failure(Failure::InvalidCall, "Command line", std::move(reason)) {}
 };
 
+/// A parsed command line.
 struct Arguments {
-    std::string skin;    // or the picture to read
-    std::string target;  // the picture to write
+    std::string skin;    // for recolour, the picture to read
+    std::string target;  // for recolour, the picture to write
     std::map<std::string, std::string> options;
     bool Has(const std::string& name) const { return options.contains(name); }
     std::string Get(const std::string& name, const std::string& standard = "") const;
-    std::string Need(const std::string& name) const;  // UsageError if it is not there
+    std::string Need(const std::string& name) const;  // UsageError if it is missing
 };
 
-/// A line on the error stream.
+/// Prints a line on the error stream.
 void Tell(const std::string& text);
 
-/// Each returns the exit code and throws a Failure when it can't do its work.
+/// Each returns the exit code, or throws a Failure if it cannot do its work.
 int Dump(const Arguments&);
 int Save(const Arguments&);
 int Place(const Arguments&);

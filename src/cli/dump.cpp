@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A skin as JSON, and where its elements stand.
+// Prints a skin as JSON, and where its elements are.
 #include <cstdio>
 #include <map>
 

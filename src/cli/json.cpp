@@ -11,7 +11,7 @@
 namespace ornavo {
 namespace {
 
-/// A single value in the form that Qt gives it: the only array member without its brackets.
+/// A single value as Qt writes it: as the only member of an array, without the brackets.
 std::string Scalar(const QJsonValue& value) {
     const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return array.mid(1, array.size() - 2).toStdString();

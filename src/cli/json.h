@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// JSON whose members keep the order in which they were written.
+// Writes JSON whose members keep the order in which they are written.
 #pragma once
 
 #include <string>
@@ -9,17 +9,18 @@
 
 namespace ornavo {
 
-/// Writes straight into a text; commas and indentation are its matter, nesting is the caller's.
+/// Writes JSON into a text. It inserts commas and indentation; the caller must nest correctly.
 class JsonWriter {
 public:
     void BeginObject(std::string_view name = "") { Begin(name, '{'); }
     void EndObject() { End('}'); }
     void BeginArray(std::string_view name = "") { Begin(name, '['); }
     void EndArray() { End(']'); }
-    /// Booleans, numbers and texts by run-time type, null for empty, an object or null for a font.
+    /// Writes a boolean, number or text by the value's type, null for an empty value, an object or null for a
+    /// font.
     void Write(std::string_view name, const Value& value);
 
-    /// The whole text with a line end.
+    /// Ends the text with a line break and returns it; call once.
     const std::string& Text();
 
 private:

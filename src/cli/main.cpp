@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// ornavo-cli: the document and the renderer for scripts. Exit 0 done, 1 failed, 2 usage.
+// ornavo-cli: the document and the renderer for scripts. Exit codes: 0 done, 1 failed, 2 wrong usage.
 #include <QApplication>
 #include <QCommandLineParser>
 #include <cstdio>
@@ -32,11 +32,12 @@ constexpr const char* Usage =
     "  --help     show this text\n"
     "  --version  show the version\n";
 
+/// A command and its options.
 struct Command {
     const char* name;
-    QStringList options;  // with a value; a name that ends in "!" is a switch
+    QStringList options;  // each takes a value, unless its name ends in "!"
     int (*run)(const Arguments&);
-    bool pictures = false;  // takes IN and OUT in place of a skin
+    bool pictures = false;  // takes IN and OUT instead of a skin
 };
 
 const Command Commands[] = {
@@ -89,7 +90,7 @@ int Run(const QStringList& words) {
     return Misused("unknown command '" + words[1] + "'");
 }
 
-/// The error stream is for reasons; what Qt thinks of the environment is none.
+/// Keeps Qt's warnings about the environment off the error stream.
 void OnQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
     if (type == QtCriticalMsg || type == QtFatalMsg) Tell(text.toStdString());
 }

@@ -19,15 +19,15 @@ bool ReadWhole(std::string_view text, int most, int& number) {
     return error == std::errc() && end == text.data() + text.size() && number >= 1 && number <= most;
 }
 
-/// Where the editor keeps the user's skins: beside the program in a portable copy, else with the user's data.
-/// Nothing is made there.
+/// The user's skins as the editor finds them: beside the program in a portable copy, otherwise in the user's
+/// data folder. Makes no folder.
 std::string UserSkins() {
     const QFileInfo beside(QCoreApplication::applicationDirPath() + "/Skins");
     if (beside.isDir() && beside.isWritable()) return WithSeparator(beside.filePath().toStdString());
     return WithSeparator(DataFolder()) + "Skins/";
 }
 
-/// The skin's folder with a separator at its end, whichever way it was named.
+/// The skin's folder with a separator at its end, for a name or a path.
 std::string FolderOf(const std::string& skin) {
     if (!ContainsSeparator(skin) && NothingStandsAt(skin)) {
         const std::string skins = UserSkins();

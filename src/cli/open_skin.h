@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The skin and the layout that a command line names.
+// Opens the skin and the layout that the command line names.
 #pragma once
 
 #include <limits>
@@ -10,14 +10,15 @@
 
 namespace ornavo {
 
-/// Opens the skin as the current one: a path, and where there is none of that name a skin in the user's
-/// "Skins". Failure 53 if there is no settings file. `upgraded`: with the preferences that its file lacks.
+/// Opens the skin as the current one: by a path, or else by its name in the user's "Skins". Failure 53 if
+/// there is no settings file. `upgraded` adds the preferences that its file lacks.
 void OpenNamedSkin(const Arguments& arguments, bool upgraded = true);
 
-/// The layout of --layout; Failure 9 if the skin has none of that key.
+/// The layout of --layout. Failure 9 if the skin has no layout with this key.
 dbLayoutRef NamedLayout(const Arguments& arguments);
 
-/// The size of --size, else the skin's; pixels. UsageError unless the first is "WxH" with 1 to `most` each.
+/// The size of --size in pixels, or the skin's size without it. UsageError unless --size is "WxH" with 1 to
+/// `most` each.
 Size NamedSize(const Arguments& arguments, int most = std::numeric_limits<int>::max());
 
 }  // namespace ornavo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A picture of any kind that can be read gets one hue and saturation and becomes a BMP or JPEG file.
+// Recolours a picture of any readable kind and writes it as a BMP or JPEG file.
 #include <QImage>
 #include <charconv>
 #include <cstdio>

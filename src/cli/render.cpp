@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The picture of a layout, drawn by the canvas's and the preview's own code without a screen.
+// Draws the picture of a layout by the code of canvas and preview, without a screen.
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
@@ -19,7 +19,7 @@
 namespace ornavo {
 namespace {
 
-/// Answers on the error stream.
+/// Prints messages on the error stream and cancels all questions.
 class ConsolePrompts : public Prompts {
 public:
     ConsolePrompts() { UsePrompts(this); }
@@ -36,6 +36,7 @@ public:
     std::optional<Font> FontOf(const Font&, const std::vector<std::string>&) override { return std::nullopt; }
 };
 
+/// The window that is composed and drawn.
 class OffscreenTarget : public QWidget, public CompositionTarget {
 public:
     explicit OffscreenTarget(Size size) : host_(*this, nullptr) {
@@ -59,8 +60,8 @@ private:
     Surface surface_;
 };
 
-/// The picture with everything outside the polygon transparent. Soft edges go between the pixels of the
-/// polygon's line, hard ones by the window's region.
+/// The picture with everything outside of the shape transparent. Soft edges are anti-aliased along the
+/// polygon, hard ones follow the window's region.
 QImage Cut(const QImage& picture, const dbLayout& layout, bool soft) {
     const QRegion region = ShapeRegion(layout, TargetFrame);
     if (region.isEmpty()) return picture;
@@ -81,7 +82,7 @@ QImage Cut(const QImage& picture, const dbLayout& layout, bool soft) {
     return cut;
 }
 
-/// Stands still at the time of --time, HH:MM:SS; without one it is the real clock.
+/// A clock that stands at the time of --time, HH:MM:SS; without a time the real clock stays in use.
 class GivenClock : public Clock {
 public:
     explicit GivenClock(const std::string& text) {
@@ -108,7 +109,7 @@ std::string Words(const Size& size) {
     return std::to_string(size.width) + " x " + std::to_string(size.height);
 }
 
-/// A skin that is larger than a window can be is drawn as large as that, and it is told.
+/// The size to draw in pixels. A skin larger than a window can be is reduced to that size, with a message.
 Size SizeToDraw(const Arguments& arguments) {
     const Size whole = NamedSize(arguments, MostWindowPixels);
     if (whole.width < 1 || whole.height < 1)

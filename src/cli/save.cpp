@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A skin is read and written back, also under another name; tells where.
+// Reads a skin and writes it back, also under another name, and prints its file.
 #include <cstdio>
 #include <filesystem>
 
@@ -20,13 +20,13 @@ bool IsSavedWhereItWas() {
     return std::filesystem::equivalent(OnDisk(opened), OnDisk(objSkin->SkinFolder()), ignored);
 }
 
-/// What the save replaces is a file that had lost something.
+/// Whether the save replaces a damaged file.
 bool IsDamaged() {
     return !objSkin->Damage.empty() && IsSavedWhereItWas();
 }
 
-/// A damaged file stays, and so does the skin in a folder other than the one that was opened. Failure 58
-/// where one is.
+/// Failure 58 if the save would replace a damaged file, or a skin in a folder other than the one that was
+/// opened.
 void RefuseToReplace() {
     const std::string file = ToText(OnDisk(objSkin->SkinFile()));
     if (IsDamaged())
