@@ -6,7 +6,7 @@
 
 namespace ornavo {
 
-using Colour = std::int32_t;  // signed, as it stands in the file
+using Colour = std::int32_t;  // signed, as in the file
 
 /// A colour constant from its hexadecimal form.
 constexpr Colour ColourOf(std::uint32_t bits) {

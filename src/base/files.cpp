@@ -61,7 +61,7 @@ fs::path BehindLinks(fs::path path) {
     for (int hops = 0; hops < 40 && fs::is_symlink(fs::symlink_status(path, error)); ++hops) {
         const fs::path next = fs::read_symlink(path, error);
         if (error) break;
-        path = path.parent_path() / next;  // an absolute `next` takes the place of all
+        path = path.parent_path() / next;  // an absolute `next` replaces the whole path
     }
     return path;
 }

@@ -59,6 +59,7 @@ public:
     }
 
 private:
+    /// An item with its key.
     struct Entry {
         std::string key;
         Ref item;

@@ -68,7 +68,7 @@ public:
     dbLayoutElementRef Add(std::int32_t order, std::string_view key, std::int32_t elementType,
                            std::int32_t actionType);
     void AddObject(dbLayoutElementRef element);
-    void AddObjectToFirst(dbLayoutElementRef element);
+    void AddObjectToFirst(dbLayoutElementRef element);  // at the bottom
 };
 
 }  // namespace ornavo

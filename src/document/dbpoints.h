@@ -20,7 +20,7 @@ class dbPoints : public KeyedCollection<dbPoint> {
 public:
     dbPointRef Add(std::int32_t order);
     void AddObject(dbPointRef point);
-    void InsertObject(dbPointRef point, int after);
+    void InsertObject(dbPointRef point, int after);     // after position `after`; 0 inserts at the start
     dbPointRef GetFromOrder(std::int32_t order) const;  // the first with this order, or null
 };
 

@@ -22,7 +22,7 @@ public:
 
     bool Dirty = false;
     std::vector<std::string> Damage;  // what was lost when the file was read, in words; empty after a save
-    std::string OldSkinName;
+    std::string OldSkinName;          // when it was loaded or last saved; "" for a new skin
     std::int32_t SkinHeight = 0, SkinWidth = 0;  // pixels
     std::string SkinName;
     std::shared_ptr<ornavo::dbSkinPrefs> dbSkinPrefs;  // never null
@@ -37,7 +37,7 @@ public:
     /// Appends each preference of the catalogue that is missing.
     void SetupSkinPrefs();
     dbLayoutRef AddNewLayout(std::string_view name);
-    static std::string GetLayoutKey(std::string_view name);
+    static std::string GetLayoutKey(std::string_view name);  // "L" before a number; blanks become "_"
 
     /// Reads the skin's file, found by BasePath and SkinName. Returns whether there is one; without it
     /// nothing but OldSkinName and Damage changes. A line without meaning is skipped. SkinName is a plain

@@ -167,6 +167,7 @@ const Field<dbLayoutElement> ElementFields[] = {
 #undef SAVED
 #undef UNSAVED
 
+/// Names are equal, and have the same hash, without regard to case.
 struct SameName {
     bool operator()(std::string_view one, std::string_view two) const { return EqualText(one, two); }
 };

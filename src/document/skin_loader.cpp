@@ -93,6 +93,7 @@ public:
     std::vector<std::string> Damage(std::string_view bytes) const;
 
 private:
+    /// A tag of structure and what it does when it opens and closes.
     struct Structure {
         std::string_view tag;
         void (Loader::*open)();

@@ -70,6 +70,7 @@ public:
     std::string Loss(const PictureStep& step) const;
 
 private:
+    /// A file that an earlier step makes, and its source.
     struct Made {
         fs::path target, source;
     };
@@ -79,6 +80,7 @@ private:
     std::string InOldFolder(std::string_view path) const;
     fs::path FindSource(std::string_view path) const;
     std::string StoredName(const std::string& name, const fs::path& source) const;
+    /// The part of a step that is the same for equal references.
     struct Known {
         PictureStep step;
         bool isInPlace = false;
@@ -200,6 +202,7 @@ public:
     }
 
 private:
+    /// A loss, the first place that has it and the number of places.
     struct Line {
         std::string what, where;
         int times;

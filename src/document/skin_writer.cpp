@@ -43,6 +43,7 @@ public:
     }
 
 private:
+    /// The tags of a field, and how its value is appended.
     struct OneLine {
         bool (*append)(const T&, std::string& bytes);
         std::string open, close;

@@ -21,7 +21,7 @@ bool IsSkin(const std::string& path) {
     return EqualText(GetFileName(path), SettingsFileName) && FileExists(path);
 }
 
-/// The skin's folder or settings file that a drag brings; "" if it brings something else.
+/// The skin's folder or settings file that is dragged; "" if anything else is dragged.
 std::string DroppedSkin(const QDropEvent& event) {
     const QList<QUrl> urls = event.mimeData()->urls();
     if (urls.size() != 1 || !urls.first().isLocalFile()) return "";
@@ -38,7 +38,7 @@ SkinDrop::SkinDrop(QWidget& window, Windows& windows) : QObject(&window), window
 
 bool SkinDrop::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop) return false;
-    auto& drop = *static_cast<QDropEvent*>(event);  // the base of both
+    auto& drop = *static_cast<QDropEvent*>(event);  // the base class of both events
     const std::string path = DroppedSkin(drop);
     if (path.empty()) return false;
     drop.acceptProposedAction();

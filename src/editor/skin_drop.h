@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A skin's folder or its settings file dropped on a window opens the skin. Nothing else is taken.
+// Opens a skin whose folder or settings file is dropped on a window.
 #pragma once
 
 #include <QObject>
@@ -10,7 +10,7 @@ namespace ornavo {
 
 class Windows;
 
-/// Lives as long as the window. A skin that can't be opened is told.
+/// Accepts drops on a window as long as the window lives. A failure is shown in a message box.
 class SkinDrop : public QObject {
 public:
     SkinDrop(QWidget& window, Windows& windows);

@@ -16,10 +16,10 @@ class Control;
 
 /// A mouse event on a control.
 struct Mouse {
-    int button = 0;    // MouseButton; for a move the mask of the buttons held down
-    int shift = 0;     // ShiftMask
-    int x = 0, y = 0;  // pixels of the control
-    int screenX = 0, screenY = 0;
+    int button = 0;                // MouseButton; for a move the mask of the buttons held down
+    int shift = 0;                 // ShiftMask
+    int x = 0, y = 0;              // pixels of the control
+    int screenX = 0, screenY = 0;  // pixels of the screen
 };
 
 /// The modifiers as a ShiftMask.

@@ -39,7 +39,7 @@ public:
     /// The frame's corner in pixels; for a maximised window, its normal one.
     QPoint Corner() const { return corner_; }
     void MoveFrame(const QPoint& corner);
-    int WindowState() const;
+    int WindowState() const;         // WindowStateCode
     void SetWindowState(int state);  // of a hidden window: the state in which it will be shown
 
 protected:

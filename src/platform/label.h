@@ -27,6 +27,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
+    /// Everything that the painting depends on.
     struct Look {
         QString text;
         QFont font;

@@ -148,6 +148,7 @@ PictureRef Decode(const fs::path& path) {
     if (image.isNull()) return nullptr;
     memory = PictureMemory::Take(PixelsOf(image.size()));
     if (!memory) return nullptr;
+    /// A picture with the memory reserved for it, so that both are freed together.
     struct Counted {
         Picture picture;
         PictureMemory memory;

@@ -16,7 +16,9 @@ enum Kind { Normal, Over, Down };
 
 }  // namespace
 
+/// What was drawn last, and the state of the mouse and of the animation.
 struct TileButton::Look {
+    /// One of the button's pictures, plain or animated.
     struct Source {
         PictureRef picture;
         std::string animated;

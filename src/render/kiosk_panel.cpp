@@ -17,8 +17,7 @@ namespace {
 
 constexpr int PictureGap = 4;  // pixels between the picture and its label, and from the picture to its shadow
 constexpr int InfoWidth = 40, InfoHeight = 41;
-constexpr int Beside = 100,
-              RowsAtLeast = 300;  // pixels: room left beside a song row, and the width of a row without room
+constexpr int Beside = 100, RowsAtLeast = 300;  // pixels free beside a row; width of a row without room
 constexpr const char* PictureText = "The Tide Comes Over You!\r\n(Quillmar)\r\n(2002)";
 
 /// The Main element's margins and what follows from them, in pixels; 0 if a value cannot be computed.

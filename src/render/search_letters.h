@@ -4,6 +4,7 @@
 
 namespace ornavo {
 
+/// Places and styles the column.
 void SetupSearchLetters();
 
 }  // namespace ornavo

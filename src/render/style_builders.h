@@ -17,6 +17,7 @@ void SetupSongButton(const SampleFamily& family, TileButton& button);
 void SetupKey(const SampleFamily& family, TileButton& button);
 void StyleLetter(const SampleFamily& family, TileButton& button);  // one row of the search letters
 
+/// Style the search box, and the captions of the panel.
 void SetupSearchBox(TextBox& box);
 void SetupKioskLabels();
 

@@ -26,7 +26,7 @@ public:
 
 extern CompositionTarget* TargetForm;
 extern dbLayoutRef TargetLayout;
-extern Frame TargetFrame;  // TargetWidth, TargetHeight, DesignWidth, DesignHeight
+extern Frame TargetFrame;
 extern bool ComposeBusy;
 
 /// Reads the target's inner size into TargetFrame.
