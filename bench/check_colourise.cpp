@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Every pair of greatest and least channel at every hue and saturation, against the rule written once more in
-// the widest floating point there is. Takes a minute; `check_colourise 16` looks at each 16th hue and
-// saturation.
+// Compares the recolouring with the same rule in long double, for every pair of greatest and least channel at
+// every hue and saturation. Takes a minute; `check_colourise 16` checks only every 16th hue and saturation.
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -20,7 +19,7 @@ struct Pixel {
     std::uint8_t b, g, r;
 };
 
-/// Each pair once, the channel between the two anywhere, in each of the six orders in turn.
+/// A picture with each pair once, with any third channel between them and the six orders of channels in turn.
 cDIBSection AllPairs(std::vector<float>& lightness) {
     constexpr std::array<std::array<int, 3>, 6> orders{
         {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}}};
@@ -49,7 +48,7 @@ Pixel Expected(float H, float S, float L) {
     const float max = static_cast<float>(wide + wide - min);
     const Wide d = static_cast<float>(Wide(max) - min);
     const int sixth = static_cast<int>(std::floor(H));     // -1 to 5
-    const int corner = sixth < 1 ? 0 : sixth < 3 ? 2 : 4;  // of the circle, where one channel alone is lit
+    const int corner = sixth < 1 ? 0 : sixth < 3 ? 2 : 4;  // of the circle, with only one channel above 0
     const Wide climbed = d * std::fabs(Wide(H) - corner);
     const std::uint8_t low = ToByte(min), high = ToByte(max),
                        between = ToByte(static_cast<float>(min + climbed));
@@ -69,7 +68,7 @@ Pixel Expected(float H, float S, float L) {
     }
 }
 
-/// The pixels of one hue and saturation that differ.
+/// How many pixels differ at one hue and saturation.
 long long CountWrong(const cDIBSection& result, const std::vector<Pixel>& byLightness,
                      const std::vector<std::size_t>& lightnessOf) {
     long long wrong = 0;

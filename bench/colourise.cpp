@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// One step of a slider over a picture of 12 megapixels, beside a copy of the same bytes, beside the rule
-// pixel by pixel, and beside OpenCV's way to hue, lightness and saturation and back. All on one thread; every
-// step has another hue than the one before, so that the table is made each time.
+// One step of a slider over a picture of 12 megapixels, compared with a copy of the same bytes, with the rule
+// pixel by pixel, and with OpenCV's conversion to hue, lightness and saturation and back. All on one thread.
+// Each step has a new hue, so that the table is computed each time.
 #include <benchmark/benchmark.h>
 
 #include <cstring>
@@ -17,8 +17,8 @@ constexpr int Saturation = 180;
 
 enum Content { Noise, Scene };
 
-/// Noise meets every pair of channels at random, the worst for a table; a scene changes slowly and has a
-/// little grain, as a photograph has.
+/// Noise has random pairs of channels, the worst case for a table. A scene changes slowly and has a little
+/// grain, like a photograph.
 cDIBSection MakePicture(Content content, int width = Width, int height = Height) {
     cDIBSection picture;
     picture.Create(width, height);
@@ -69,7 +69,7 @@ void Process(benchmark::State& state, Content content, int width) {
     CountBytes(state, source);
 }
 
-/// Little but the making of the table.
+/// Measures little but the computation of the table.
 void ProcessOnePixel(benchmark::State& state) {
     cDIBSection picture = MakePicture(Noise, 1, 1);
     cColourise engine;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Composing a layout again, beside as many plain widgets that are hidden, placed, raised, shown and painted;
-// the same with the panel and its sample; and what is drawn alone after an edit: a frame has 16 ms.
+// Composing a layout again, compared with hiding, placing, raising, showing and painting as many plain
+// widgets; the same with the panel and its sample; and the redraw after an edit. A frame has 16 ms.
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
@@ -127,7 +127,7 @@ void RedrawOne(benchmark::State& state) {
     }
 }
 
-/// One part of the sample again after an edit that shows in all of it, and its painting.
+/// The redraw and the painting of one part of the sample after an edit that changes all of it.
 void SampleAgain(benchmark::State& state, void (*part)(), const char* edited) {
     const Skin skin(0, true);
     Window window;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One step of a drag on a layout of 60 elements, from the event to the painted picture, beside a bare repaint
-// of the area that such a step changes.
+// One step of a drag on a layout of 60 elements, from the event to the painted picture, compared with a bare
+// repaint of the area that such a step changes.
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
@@ -20,7 +20,7 @@ namespace ornavo {
 namespace {
 
 constexpr int Width = 1024, Height = 768, TileWidth = 100, TileHeight = 80, Elements = 60;
-constexpr int Step = 6;             // pixels each way
+constexpr int Step = 6;             // pixels in both directions
 constexpr QPoint Press = {20, 20};  // in the dragged control
 constexpr Rect Start = {400, 300, TileWidth, TileHeight};
 
@@ -44,7 +44,7 @@ public:
         form_->Start("");
         form_->ResetFormToOriginal();
         form_->UpdateCurrentLayout();
-        form_->tmrResizer.stop();  // it would compose in the middle of the drag
+        form_->tmrResizer.stop();  // otherwise it would compose during the drag
         QCoreApplication::processEvents();
     }
     ~Stage() { TargetLayout.reset(); }

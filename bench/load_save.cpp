@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Loading and saving a skin of many elements, beside an XML library's bare tree of the same bytes and beside
-// the file alone.
+// Loading and saving a skin of many elements, compared with an XML library's tree of the same bytes and with
+// reading and writing the bare file.
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 constexpr int ElementCount = 5000;
 
-/// The real disk, but nobody waits for it: what an XML library does when it saves.
+/// The real disk without flushing, as an XML library saves.
 class UnflushedLayer : public FileLayer {
 public:
     void Flush(int) override {}
@@ -137,7 +137,7 @@ void SaveSkin(benchmark::State& state, bool flushed) {
     CountBytes(state);
 }
 
-/// pugixml's text into memory, then to the disk by the same steps as a skin.
+/// pugixml's text is written to memory and then to the disk by the same steps as a skin.
 void SavePugixml(benchmark::State& state, bool flushed) {
     UnflushedLayer unflushed;
     UseFileLayer(flushed ? nullptr : &unflushed);
@@ -158,7 +158,7 @@ void SavePugixml(benchmark::State& state, bool flushed) {
     CountBytes(state);
 }
 
-/// The way that the library itself has.
+/// By the library's own function.
 void SavePugixmlFile(benchmark::State& state) {
     pugi::xml_document document;
     document.load_buffer(sample().bytes.data(), sample().bytes.size());

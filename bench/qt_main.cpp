@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The entry point of the benches with windows: no screen unless one is asked for.
+// The entry point of the benches with windows; they use no screen unless QT_QPA_PLATFORM asks for one.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The properties panel filled anew for a button, beside as many plain label and text box pairs that are
-// placed and painted. A frame is 16 ms.
+// Filling the properties panel for a button, compared with placing and painting as many pairs of a label and
+// a text box. A frame has 16 ms.
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One step of the picture editor's slider from the value to the painted result, in a picture of 12 megapixels
-// whose source and result are both on show, beside a copy of the picture's bytes.
+// One step of the picture editor's slider, from the value to the painted result, with source and result of a
+// picture of 12 megapixels visible, compared with a copy of the picture's bytes.
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
@@ -16,7 +16,7 @@ namespace {
 
 constexpr int Width = 4000, Height = 3000;
 
-/// Slopes of colour, as a photograph has them.
+/// Gradients of colour, like a photograph.
 QImage Scene() {
     QImage scene(Width, Height, QImage::Format_RGB32);
     for (int y = 0; y < Height; ++y)

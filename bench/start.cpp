@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Start to the first painted window, and peak memory: the editor beside an empty Qt window, as whole
-// processes, taken in turn. Prints medians and their ratio to the empty window.
+// Time to the first painted window, and peak memory, of the editor and of an empty Qt window. Starts the two
+// processes alternately; prints medians and their ratio to the empty window.
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>

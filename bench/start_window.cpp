@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Starts, paints its first window and ends: an empty Qt window, or with --editor the editor with the skin
-// that follows. The editor tells on the error stream what its time was spent on, in milliseconds.
+// Starts, paints its first window and ends: an empty Qt window, or with --editor SKIN the editor. The editor
+// prints the milliseconds of each step on the error stream.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <cstdio>
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Ends the program when the first painting of its main window is done.
+/// Ends the program after the first painting of its main window.
 class FirstPaint : public QObject {
 public:
     const QString mainWindow;  // by its name

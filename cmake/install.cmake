@@ -1,4 +1,4 @@
-# Where a program's files lie below the prefix. The samples lie where the program looks for them from its own folder.
+# Installs the files below the prefix. The samples go where the program looks for them, relative to its own folder.
 include(GNUInstallDirs)
 install(TARGETS ornavo ornavo-cli)
 foreach(sample Aurora Classic)

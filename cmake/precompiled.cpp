@@ -1,1 +1,1 @@
-// The Qt and standard headers that most rooms use are compiled once, here.
+// Belongs to the library that compiles the Qt and standard headers once for all rooms.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What most rooms with windows include. Compiled once.
+// The headers that most rooms with windows include; precompiled.
 #pragma once
 
 #include <QApplication>

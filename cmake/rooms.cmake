@@ -1,5 +1,5 @@
-# A room is one folder of src/ and one library, which links the rooms named. All share one include path, so a way
-# up the house may compile: tests/house holds the #include lines to the same table, which it reads from rooms.txt.
+# A room is one folder of src/ and one library, which links the rooms named. All rooms share one include path, so the
+# compiler accepts any #include: tests/house checks the #include lines against the same table, read from rooms.txt.
 file(WRITE ${CMAKE_BINARY_DIR}/rooms.txt "")
 
 # ornavo_room(<room> [QT] <allowed rooms...>)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What most tests include. Compiled once.
+// The headers that most tests include; precompiled.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a skin's settings file: nothing breaks, the short roads of reading agree with the long one,
-// and what was loaded and saved once stays the same from then on.
+// Takes any bytes as a skin's settings file: nothing crashes, the fast paths of reading give the same values
+// as the general one, and a skin that was loaded and saved once does not change any more.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -24,14 +24,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The real disk but for its waits.
+/// The real disk without flushing.
 class QuickLayer : public FileLayer {
 public:
     void Flush(int) override {}
     void FlushFolder(const fs::path&) override {}
 };
 
-/// In memory where the system has such a place.
+/// Makes a temporary folder, in memory if the system offers that.
 fs::path MakeFolder() {
     std::error_code ignored;
     const fs::path memory = "/dev/shm";
@@ -75,7 +75,7 @@ std::string Describe(const dbSkin& skin) {
     return text;
 }
 
-/// Gaps in the orders lose items at each save, as they must; here it is the rest that counts.
+/// Closes gaps in the orders, because an item beyond a gap is rightly lost at each save.
 void Renumber(const dbSkin& skin) {
     for (const dbLayoutRef& layout : *skin.dbLayouts) {
         std::int32_t order = 0;
@@ -85,11 +85,11 @@ void Renumber(const dbSkin& skin) {
     }
 }
 
-/// The skin of that folder and name as its file has it.
+/// Loads the skin with this name in the folder `base`, without the catalogue.
 dbSkinRef Load(const fs::path& base, const std::string& name) {
     objSkin = std::make_shared<dbSkin>();
     objSkin->dbSkinPrefs =
-        std::make_shared<dbSkinPrefs>();  // the catalogue alone would take most of the time
+        std::make_shared<dbSkinPrefs>();  // loading the catalogue would take most of the time
     objSkin->SetBasePath(ToText(base));
     objSkin->SkinName = name;
     objSkin->LoadSkin();
@@ -97,7 +97,7 @@ dbSkinRef Load(const fs::path& base, const std::string& name) {
     return objSkin;
 }
 
-/// A name that no folder can have is refused; then there is nothing to come back to.
+/// False if the save is refused, because no folder can have the name; the skin is then unchanged.
 bool Save(dbSkin& skin) {
     const std::string before = Describe(skin);
     if (Attempt([&] { skin.SaveSkin(false); })) return true;
@@ -114,8 +114,8 @@ void CompareRoads(std::string_view bytes) {
     }
 }
 
-/// A fraction that rounds up to 1 is saved as "+7." and comes back as the floor; from then on nothing
-/// changes.
+/// The saves until nothing changes any more: a fraction that is rounded up to 1 is saved as "+7." and read as
+/// the floor.
 constexpr int SettlingRounds = 1;
 
 void RoundTrip(const fs::path& base, std::string_view bytes) {
