@@ -14,11 +14,11 @@ namespace ornavo {
 namespace {
 
 using Rgb = std::array<int, 3>;
-using Bytes = std::vector<int>;
+using ByteList = std::vector<int>;
 
-Bytes BytesOf(const cDIBSection& picture) {
+ByteList BytesOf(const cDIBSection& picture) {
     const std::uint8_t* bits = picture.DIBSectionBitsPtr();
-    return Bytes(bits, bits + std::ptrdiff_t{picture.BytesPerScanLine()} * picture.Height());
+    return ByteList(bits, bits + std::ptrdiff_t{picture.BytesPerScanLine()} * picture.Height());
 }
 
 cDIBSection Filled(int width, int height, std::uint8_t byte) {
@@ -237,7 +237,7 @@ TEST(Colourise, FailsPartWay) {
         const cDIBSection source = Filled(8, 6, 0x80);
         cDIBSection dest = Filled(c.width, c.height, 0x5a);
         EXPECT_EQ(FailureOfProcess(0, 0, source, dest), c.failure) << c.width;
-        const Bytes bytes = BytesOf(dest);
+        const ByteList bytes = BytesOf(dest);
         EXPECT_EQ(static_cast<int>(bytes.size()) - std::count(bytes.begin(), bytes.end(), 0x5a),
                   c.written * 3);
     }
@@ -253,7 +253,7 @@ TEST(Colourise, SettingsBeyondTheScale) {
         EXPECT_EQ(FailureOfProcess(hue, saturation, black, black), 0) << "black stays black";
     }
     FailureOfProcess(512, 0, grey, grey);
-    EXPECT_EQ(BytesOf(grey), Bytes(16, 0x80));
+    EXPECT_EQ(BytesOf(grey), ByteList(16, 0x80));
 }
 
 }  // namespace
