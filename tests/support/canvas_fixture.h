@@ -6,6 +6,7 @@
 #include <QTimerEvent>
 
 #include "canvas/frm_ornavo.h"
+#include "document/codes.h"
 #include "support/recorded_windows.h"
 #include "support/scripted_prompts.h"
 #include "support/skin_fixture.h"
@@ -43,10 +44,6 @@ protected:
         point.X = at.x;
         point.Y = at.y;
         return point;
-    }
-    /// Takes the sample off the panel, whose ground then takes every press; until the next composition.
-    void BarePanel() {
-        for (QWidget* sample : host().pMain.findChildren<QWidget*>()) sample->hide();
     }
     LayoutHost& host() { return form_->host(); }
     Control* SelControl() { return form_->selection().SelControl(); }
