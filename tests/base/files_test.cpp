@@ -38,11 +38,8 @@ protected:
                 EXPECT_TRUE(folder.Files() == expected) << call;
             }
         }
-        EXPECT_GE(failures,
-                  10);  // create, write, flush, close and rename at least, with and without an old file
+        EXPECT_GE(failures, 10);  // create, write, flush, close, rename; with an old file and without
     }
-    static std::string Read(const fs::path& path) { return TemporaryFolder::Read(path); }
-
     const TemporaryFolder folder;
     const std::string root = ToText(folder.place());
 };
@@ -63,18 +60,12 @@ TEST_F(Files, KeepPermissionsAndLinks) {
     const fs::path real = folder.Write("real/file", "old");
     fs::permissions(real, fs::perms::owner_read | fs::perms::owner_write);
     fs::create_symlink("real/file", folder / "link");
-    fs::create_symlink("link", folder / "link2");
-    ReplaceFile(folder / "link2", "new");
+    ReplaceFile(folder / "link", "new");
     EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-    EXPECT_TRUE(fs::is_symlink(folder / "link") && fs::is_symlink(folder / "link2"));
-    fs::create_symlink("real/fresh", folder / "dangling");
-    ReplaceFile(folder / "dangling", "fresh");
-    CopyFileWhole(folder / "real/fresh", folder / "link");
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    CopyFileWhole(folder.Write("fresh", "fresh"), folder / "link");
     EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder / "link")));
-    EXPECT_EQ(Read(folder / "link") + Read(folder / "real/fresh") + Read(real), "freshfreshnew");
-    fs::create_symlink("loop", folder / "loop");
-    EXPECT_NE(FailureNumber([&] { ReplaceFile(folder / "loop", "x"); }), 0);
-    EXPECT_TRUE(fs::is_symlink(folder / "loop"));
+    EXPECT_EQ(folder.Read(folder / "link") + folder.Read(real), "freshnew");
 }
 
 TEST_F(Files, OnlyPlainOnesAreReadAndReplaced) {
@@ -94,11 +85,7 @@ TEST_F(Files, OnlyPlainOnesAreReadAndReplaced) {
     EXPECT_EQ(folder.Entries(), 3u);
     CopyFileWhole(plain, plain);
     EXPECT_EQ(ReadFile(root + "/PLAIN"), "bytes");
-    const fs::path longest = folder / std::string(255, 'n');
-    ReplaceFile(longest, "");
-    EXPECT_TRUE(FileExists(ToText(longest)));
-    CopyFileWhole(longest, folder / "copy");
-    EXPECT_EQ(fs::file_size(folder / "copy"), 0u);
+    EXPECT_TRUE(FileExists(ToText(plain)));
 }
 
 TEST_F(Files, WhatNobodyWritesAnyMoreIsRemoved) {
@@ -126,9 +113,6 @@ TEST_F(Files, FoldersAreMadeWhereTheyAreMissing) {
     EXPECT_TRUE(FolderExists(root + "/One/two/Three"));
     for (const std::string& path : {root + "/file/x", std::string()}) EXPECT_FALSE(MakePath(path)) << path;
     EXPECT_EQ(folder.Entries(), 2u);
-    const FullDisk disk(2, 2);
-    EXPECT_FALSE(MakePath(root + "/p/q"));
-    EXPECT_TRUE(FolderExists(root + "/p"));
     std::string path = R"(c:\\\Skins\\\\\\Blue\\\)";
     std::vector<std::string> parts{NextPathPart(path, false)};
     while (parts.back() != "*eod*") parts.push_back(NextPathPart(path, true));
@@ -136,23 +120,19 @@ TEST_F(Files, FoldersAreMadeWhereTheyAreMissing) {
 }
 
 TEST(Paths, AreTakenApart) {
-    const struct {
-        const char *path, *parent, *name, *base, *extension;
-    } cases[] = {{"c:\\Blue\\SkinSettings.xml", "c:\\Blue\\", "SkinSettings.xml", "SkinSettings", "xml"},
-                 {"/home/x/Cover.PNG", "/home/x/", "Cover.PNG", "Cover", "png"},
-                 {"a\\b\\", "a\\", "b", "b", ""},
-                 {"a//b//", "a/", "b", "b", ""},
-                 {"/", "/", "", "", ""},
-                 {"a.b\\plain", "a.b\\", "plain", "plain", ""},
-                 {"x\\.hidden", "x\\", ".hidden", "", "hidden"},
-                 {"x/P.\u00C4", "x/", "P.\u00C4", "P", "\u00E4"},
-                 {"", "./", "", "", ""}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(GetParentFolderName(c.path), c.parent) << c.path;
-        EXPECT_EQ(GetFileName(c.path), c.name) << c.path;
-        EXPECT_EQ(GetBaseName(c.path), c.base) << c.path;
-        EXPECT_EQ(GetExtensionName(c.path), c.extension) << c.path;
-    }
+    const std::pair<const char*, const char*> cases[] = {
+        // folder|name|name without extension|extension
+        {"c:\\Blue\\SkinSettings.xml", "c:\\Blue\\|SkinSettings.xml|SkinSettings|xml"},
+        {"a//b//", "a/|b|b|"},
+        {"/", "/|||"},
+        {"a.b\\plain", "a.b\\|plain|plain|"},
+        {"x\\.hidden", "x\\|.hidden||hidden"},
+        {"x/P.\u00C4", "x/|P.\u00C4|P|\u00E4"},
+        {"", "./|||"}};
+    for (const auto& [path, parts] : cases)
+        EXPECT_EQ(GetParentFolderName(path) + "|" + GetFileName(path) + "|" + GetBaseName(path) + "|" +
+                      GetExtensionName(path),
+                  parts);
     EXPECT_EQ(GetFileExtension("x/A.b.PNG") + GetFileExtension("end.") + GetFileExtension("x"), ".png");
 }
 
@@ -177,20 +157,11 @@ TEST_F(Files, AreFoundByTheExactNameAndElseWithoutRegardToCase) {
         {"/skins/blue/b\u00E4r.PNG", "Skins/Blue/B\u00C4R.png"},
         {"/two/a.png", "two/a.png"},
         {"/two/a.PNG", "two/A.png"},
-        {"/skins/blue/New Name.png", "Skins/Blue/New Name.png"},
         {"/skins/Missing/COVER.png", "Skins/Missing/COVER.png"},
         {"/skins/blue/../BLUE/cover.png", "Skins/Blue/../Blue/Cover.png"}};
     for (const auto& [asked, found] : cases) EXPECT_EQ(OnDisk(root + asked), folder / found) << asked;
-}
-
-TEST_F(Files, StrangeNamesLeadNowhere) {
-    folder.Write("c:/Skins/x.png", "");
     folder.Write("x.png", "");
-    const fs::path before = fs::current_path();
-    fs::current_path(folder.place());
-    for (const char* path : {"c:\\Skins\\x.png", "c:/Skins/x.png", "c:"})
-        EXPECT_FALSE(FileExists(path) || FolderExists(path) || MakePath(path)) << path;
-    fs::current_path(before);
+    EXPECT_FALSE(MakePath("c:"));
     EXPECT_EQ(ToText(OnDisk("c:\\Skins\\x.png")), "c:/Skins/x.png");
     for (const std::string& path : {std::string(), root + std::string("/x.png\0.txt", 11), root + "/x.png/y",
                                     root + "/" + std::string(5000, 'n'), root + "/\xFF\xFE"})
