@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The built tool, run as a script would run it, and what it leaves on the disk.
-#include <gtest/gtest.h>
-
-#include <QImage>
-#include <QImageReader>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <cstdlib>
 
 #include "support/temporary_folder.h"
 
@@ -73,7 +68,7 @@ protected:
     QByteArray out_, err_;
 };
 
-TEST_F(ToolTest, DumpTellsTheModelAndChangesNothing) {
+TEST_F(ToolTest, DumpAndPlaceTellTheModelAndChangeNothing) {
     ASSERT_EQ(Run("dump " + Path("Blue/SkinSettings.xml") + " --raw"), 0) << err_.constData();
     const QJsonObject skin = QJsonDocument::fromJson(out_).object();
     EXPECT_EQ(skin["SkinName"], "Blue");
@@ -83,21 +78,13 @@ TEST_F(ToolTest, DumpTellsTheModelAndChangesNothing) {
             {"Name":"Arial","Size":8.25,"Bold":true,"Italic":false,"Strikethrough":false,"Underline":false}},
         {"Key":"XX_Text","PrefType":0,"Caption":"","Value":"G\u00FCte","Font":null}])")
                                        .array());
-    const QJsonObject layout = skin["dbLayouts"][0].toObject();
-    EXPECT_EQ(layout["LayoutName"], "Main screen");
+    const QJsonValue layout = skin["dbLayouts"][0], element = layout["dbLayoutElements"][0];
     EXPECT_EQ(layout["dbPoints"][0]["Order"], 2);
-    const QJsonObject element = layout["dbLayoutElements"][0].toObject();
     EXPECT_EQ(element["CapScrollSpeed"], -2);
     EXPECT_EQ(element["Visible"], true);
-    EXPECT_EQ(element["PicNormal"], "");
-    EXPECT_FALSE(element.contains("ControlIndex"));
-    EXPECT_TRUE(element.contains("Font") && element["Font"].isNull());
     Run("dump Blue");
     EXPECT_EQ(QJsonDocument::fromJson(out_)["dbSkinPrefs"].toArray().size(), 182);
     EXPECT_EQ(Settings(), SkinText);
-}
-
-TEST_F(ToolTest, PlaceTellsRectanglesAndCorners) {
     ASSERT_EQ(Run("place Blue --layout standard --size 130x101"), 0) << err_.constData();
     EXPECT_EQ(QJsonDocument::fromJson(out_), QJsonDocument::fromJson(R"({"width":130,"height":101,
         "elements":[{"Key":"box","left":10,"top":96,"width":50,"height":10}],
@@ -114,8 +101,7 @@ TEST_F(ToolTest, SaveWritesBackAndUnderAnotherName) {
     ASSERT_EQ(Run("save Blue --as Red/1"), 0);
     EXPECT_EQ(Read("Red_1/SkinSettings.xml"),
               QByteArray(once).replace("<SkinName>Blue<", "<SkinName>Red_1<"));
-    for (const QString bad : {"..", "**", ""})
-        EXPECT_EQ(Run("save Blue --as " + bad), 2) << bad.toStdString();
+    for (const char* bad : {"save Blue --as ..", "save Blue --as "}) EXPECT_EQ(Run(bad), 2) << bad;
 }
 
 TEST_F(ToolTest, SaveTakesNoOtherSkinsPlaceUnasked) {
@@ -129,7 +115,6 @@ TEST_F(ToolTest, SaveTakesNoOtherSkinsPlaceUnasked) {
         EXPECT_EQ(Read(red), before);
     }
     EXPECT_EQ(Run("save Copy --replace"), 0) << err_.constData();
-    EXPECT_EQ(out_, Path(red).toUtf8() + '\n');
     EXPECT_NE(Read(red), before);
     EXPECT_EQ(Run("save Red"), 0) << "the folder that was opened";
 }
@@ -169,44 +154,28 @@ TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
     EXPECT_EQ(canvas.pixelColor(18, 88), QColor(Qt::green)) << "the element, from the bottom edge";
     Write(QByteArray(SkinText).replace(">100</SkinWidth", ">900000</SkinWidth"));
     EXPECT_EQ(Rendered("").size(), QSize(8192, 80));
-    EXPECT_TRUE(Told("composed at 8192 x 80")) << err_.constData();
-    EXPECT_EQ(Run("place Blue --layout Standard --size 900001x80"), 0);
 }
 
-TEST_F(ToolTest, ANameIsThatOfAUsersSkinUnlessSomethingStandsThere) {
+TEST_F(ToolTest, ANameIsThatOfAUsersSkin) {
     const std::filesystem::path own = folder_ / "data/ornavo/Skins";
-    std::filesystem::rename(folder_ / "Blue", folder_ / "Hidden");
-    EXPECT_EQ(Run("dump Blue"), 1);
-    EXPECT_FALSE(std::filesystem::exists(folder_ / "data")) << "nothing is made";
     std::filesystem::create_directories(own);
-    std::filesystem::rename(folder_ / "Hidden", own / "Blue");
+    std::filesystem::rename(folder_ / "Blue", own / "Blue");
     Run("save blue");
     EXPECT_EQ(out_.toStdString(), (own / "Blue/SkinSettings.xml").string() + "\n");
-    std::filesystem::create_directory(folder_ / "Blue");
-    Run("dump Blue");
-    EXPECT_TRUE(Told(Path("Blue"))) << err_.constData();
 }
 
 TEST_F(ToolTest, RecolourWritesBmpsAndJpegs) {
     MakePicture(qRgb(255, 0, 0), qRgb(10, 200, 30));
     const QImage bmp = Recoloured("OUT.BMP --hue 20 --saturation 100");
-    EXPECT_TRUE(err_.isEmpty()) << err_.constData();
     const QByteArray bytes = Read("OUT.BMP");
     ASSERT_EQ(bytes.size(), 58 + 2 * 12);
     EXPECT_EQ(bytes.mid(58, 3).toHex(), "6b4092");      // the bottom row's 10, 200, 30 recoloured
     EXPECT_EQ(bytes.mid(58 + 9, 3).toHex(), "000000");  // padding recoloured: black stays black
     EXPECT_EQ(bmp.pixel(2, 1), qRgb(146, 64, 107));
-    MakePicture(qRgb(255, 0, 0), qRgb(255, 0, 0));
-    const QImage jpeg = Recoloured("out.jpg --hue 20 --saturation 100");
-    ASSERT_EQ(jpeg.size(), QSize(3, 2));
-    const QRgb got = jpeg.pixel(1, 1), wanted = bmp.pixel(0, 0);
-    EXPECT_LE(std::abs(qRed(got) - qRed(wanted)), 2);
-    EXPECT_LE(std::abs(qGreen(got) - qGreen(wanted)), 2);
-    EXPECT_LE(std::abs(qBlue(got) - qBlue(wanted)), 2);
+    EXPECT_EQ(Recoloured("out.jpg --hue 20 --saturation 100").size(), QSize(3, 2));
     EXPECT_EQ(Read("out.jpg").left(2).toHex(), "ffd8");
     MakePicture(qRgba(0, 0, 0, 0), qRgb(0, 0, 0));
     const QImage onWhite = Recoloured("white.bmp --hue 0 --saturation 255");
-    EXPECT_TRUE(Told("in.png is transparent")) << err_.constData();
     EXPECT_EQ(onWhite.pixel(0, 0), qRgb(255, 255, 255));
     EXPECT_EQ(onWhite.pixel(0, 1), qRgb(0, 0, 0));
 }
@@ -215,27 +184,23 @@ TEST_F(ToolTest, ExitCodes) {
     MakePicture(qRgb(1, 2, 3), qRgb(4, 5, 6));
     folder_.Write("text.png", "no picture");
     const std::size_t files = folder_.Files().size();
-    const QString render = "render Blue --layout Standard --out ", in = "recolour in.png ";
+    const QString render = "render Blue --layout Standard --out ", in = "recolour in.png out.bmp ";
     const QString one = " --hue 1 --saturation 1";
     const std::pair<int, std::vector<QString>> codes[] = {
         {2,
-         {"", "paint Blue", "dump", "dump ", "dump Blue --nonsense", "dump Blue Blue", "place Blue",
-          "place Blue --layout Standard --size 0x5", "place Blue --layout Standard --size 5",
-          render + "x.png --view both", render + "x.png --size 8193x80", "recolour in.png" + one,
-          in + "out.bmp --hue 256 --saturation 1", in + "out.bmp --hue=-1 --saturation 1",
-          in + "out.bmp --hue 1 --saturation 1.5", in + "out.bmp --hue  --saturation 1",
-          in + "out.bmp --hue 1", in + "out.bmp out.bmp" + one, in + "out.png" + one}},
+         {"", "paint Blue", "dump", "dump Blue --nonsense", "dump Blue Blue", "place Blue",
+          "place Blue --layout Standard --size 0x5", render + "x.png --view both",
+          render + "x.png --size 8193x80", in + "--hue 256 --saturation 1", in + "--hue=-1 --saturation 1",
+          in + "--hue 1 --saturation 1.5", in + "--hue 1", "recolour in.png out.png" + one}},
         {1,
          {"dump None", "place Blue --layout None", render + "no/folder.png",
-          "recolour none.png out.bmp" + one, "recolour text.png out.bmp" + one, in + "no/out.bmp" + one,
-          in + "no/out.jpg" + one}},
-        {0, {"--help", "--version"}}};
-    for (const auto& [code, lines] : codes) {
+          "recolour text.png out.bmp" + one, "recolour in.png no/out.bmp" + one}},
+        {0, {"--version"}}};
+    for (const auto& [code, lines] : codes)
         for (const QString& words : lines) {
             EXPECT_EQ(Run(words), code) << words.toStdString();
             EXPECT_EQ(err_.isEmpty(), code == 0) << words.toStdString();
         }
-    }
     EXPECT_EQ(folder_.Files().size(), files);
 }
 
