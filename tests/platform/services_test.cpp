@@ -99,7 +99,7 @@ TEST(PictureBox, GroundPictureLayer) {
     const auto seen = [&] {
         std::string colours;
         const QImage shown = box.grab().toImage();
-        for (int i = 0; i < 8; ++i) colours += "rgb"[shown.pixelColor(i % 4, i / 4).hue() / 120];
+        for (int i = 0; i < 8; ++i) colours += "?rgb"[(shown.pixelColor(i % 4, i / 4).hue() + 120) / 120];
         return colours;
     };
     EXPECT_EQ(seen(), "gbrrrbrr");
