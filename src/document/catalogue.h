@@ -20,7 +20,7 @@ struct CatalogueRow {
 };
 
 // clang-format off
-inline constexpr std::array<CatalogueRow, 181> Catalogue = {{
+inline constexpr auto Catalogue = std::to_array<CatalogueRow>({
     {"SP_BackLabel", "Editor", KindHeading, ""},
     {"SP_BackgroundPicture", "Background Helper", KindPicture, ""},
     {"SP_ColorLabel", "General Colors", KindHeading, ""},
@@ -202,7 +202,7 @@ inline constexpr std::array<CatalogueRow, 181> Catalogue = {{
     {"LA_TextColor", "Text Color", KindColour, 0xFFFFFF},
     {"LA_Shadow", "Show Shadow", KindBoolean, true},
     {"LA_ShadowColor", "Shadow Color", KindColour, 0x000000},
-}};
+});
 // clang-format on
 
 }  // namespace ornavo

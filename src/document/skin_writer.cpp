@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <array>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -98,7 +97,7 @@ void AppendPoints(std::string& file, const dbPoints& points) {
 
 /// Rotation and Resizer are there twice, as in the files that the jukebox writes.
 // clang-format off
-constexpr std::array<std::string_view, 58> ElementTags = {
+constexpr std::string_view ElementTags[] = {
     "Key", "ElementName", "Caption", "Order", "ElementType", "ActionType", "Value", "LeftX", "Visible",
     "TopY", "WidthX", "HeightY", "LockLeft", "StretchWidth", "LockTop", "LockRight", "StretchHeight",
     "LockBottom", "MarginLeft", "MarginRight", "MarginTop", "MarginBottom", "dbScript", "BorderColor",

@@ -3,7 +3,6 @@
 
 #include <QColor>
 #include <algorithm>
-#include <array>
 
 #include "base/failure.h"
 #include "base/find_row.h"
@@ -24,13 +23,11 @@ namespace ornavo {
 namespace {
 
 // Nothing on the canvas shows these.
-constexpr std::array<std::string_view, 4> UndrawnTexts = {"ElementName", "dbScript", "Value",
-                                                          "SP_SkinInformation.Value"};
-constexpr std::array<std::string_view, 2> UndrawnTicks = {"Resizer", "Dragger"};
+constexpr std::string_view UndrawnTexts[] = {"ElementName", "dbScript", "Value", "SP_SkinInformation.Value"};
+constexpr std::string_view UndrawnTicks[] = {"Resizer", "Dragger"};
 // These decide which rows the sheet has.
-constexpr std::array<std::string_view, 2> RebuildingTicks = {"UseTopLeftTransparency",
-                                                             "CB_UseTopLeftTransparency"};
-constexpr std::array<std::string_view, 3> RebuildingLists = {"ActionType", "ElementType", "InfoType"};
+constexpr std::string_view RebuildingTicks[] = {"UseTopLeftTransparency", "CB_UseTopLeftTransparency"};
+constexpr std::string_view RebuildingLists[] = {"ActionType", "ElementType", "InfoType"};
 
 constexpr std::string_view KeyColourSuffix = "_TransparentColor";
 

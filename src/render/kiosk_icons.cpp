@@ -2,7 +2,6 @@
 #include "render/kiosk_icons.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
 #include <string>
 
@@ -19,7 +18,7 @@ static void InitResources() {
 namespace ornavo {
 namespace {
 
-constexpr std::array<std::string_view, 28> Keys = {
+constexpr std::string_view Keys[] = {
     "StarFull",   "StarHalf",   "StarEmpty",  "Favorite",  "Party",       "Lyrics",         "NoParty",
     "NoFavorite", "Rate",       "AlbumGenre", "AlbumYear", "ArtistGenre", "Genre",          "LastPlayed",
     "PLGen",      "Unplayed",   "db_Script",  "Category",  "Year",        "ArtistFavorite", "AlbumFavorite",
