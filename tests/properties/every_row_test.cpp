@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Every row of every sheet is edited once by window events: the model has the new value at once and nothing
-// else changed, the canvas shows it after the tick as a whole composition would, and the file that is saved
-// has it too.
+// Every row of every sheet is edited once: the model has the new value at once and nothing else changed, the
+// canvas shows it after the tick as a whole composition would, and the file that is saved has it too.
 #include "properties/row_edit_fixture.h"
 #include "render/sample_families.h"
 

@@ -4,10 +4,6 @@
 #pragma once
 
 #include <QClipboard>
-#include <algorithm>
-#include <chrono>
-#include <map>
-#include <set>
 #include <sstream>
 
 #include "base/files.h"
@@ -53,18 +49,6 @@ protected:
         objSkin->SetupSkinPrefs();
         Picture("old.png", Qt::darkGreen, 40, 30);
         Picture("new.bmp", Qt::darkRed, 40, 30);
-        AddOneOfEach();
-        panel_ = std::make_unique<frm_Properties>(form_.get(), windows_, *form_);
-        EXPECT_EQ(timer().interval(), 100);
-        timer().setInterval(std::chrono::hours(1));  // it fires when the test says so
-        windows_.real = panel_.get();
-        Compose();
-        objSkin->SaveSkin(false);
-    }
-    ~RowEditTest() override { windows_.real = nullptr; }
-
-    /// None lies over another.
-    void AddOneOfEach() {
         const struct {
             const char* key;
             Rect place;
@@ -83,7 +67,14 @@ protected:
             element.Caption = "Play";
         }
         for (const Point at : {Point{0, 0}, Point{800, 0}, Point{800, 600}, Point{0, 600}}) AddPoint(at);
+        panel_ = std::make_unique<frm_Properties>(form_.get(), windows_, *form_);
+        EXPECT_EQ(timer().interval(), 100);
+        timer().setInterval(std::chrono::hours(1));  // it fires when the test says so
+        windows_.real = panel_.get();
+        Compose();
+        objSkin->SaveSkin(false);
     }
+    ~RowEditTest() override { windows_.real = nullptr; }
 
     void Select(Control& control) {
         form_->ResetSelection();
@@ -109,7 +100,7 @@ protected:
         Fire(timer());
     }
 
-    // The value of a row; null when the sheet has no such row.
+    // Null when the sheet has no such row.
     RowText* Box(const std::string& key) { return Find(panel_->parts().pools.tbx_Prop, key); }
     RowCheck* Check(const std::string& key) { return Find(panel_->parts().pools.chk_Boolean, key); }
     RowCombo* Combo(const std::string& key) {
