@@ -1,47 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "project/frm_skinproject.h"
 
-#include <QScrollBar>
-
 #include "support/panel_fixture.h"
 
 namespace ornavo::testing {
 namespace {
 
-TEST_F(PanelTest, BeforeASkinIsIn) {
-    EXPECT_EQ(panel_->TwipBounds(), (Rect{10830, 945, 3045, 3090}));
-    EXPECT_TRUE(panel_->btn_OpenSkin->isEnabled() && panel_->btn_CreateNewSkin->isEnabled());
-    for (const QWidget* control : std::initializer_list<QWidget*>{
-             panel_->btn_SaveSkin, &List(), panel_->tbx_SkinName, panel_->btn_SkinProperties})
-        EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
-    EXPECT_FALSE(panel_->SaveSkin());
-}
-
 TEST_F(PanelTest, OpeningByTheDialog) {
     MakeSkin("Blue", {"Standard", "Big Party"});
+    EXPECT_EQ(panel_->TwipBounds(), (Rect{10830, 945, 3045, 3090}));
+    EXPECT_FALSE(panel_->btn_SaveSkin->isEnabled() || panel_->SaveSkin());
     Click(panel_->btn_OpenSkin);
     EXPECT_EQ(canvas_.sized, 0) << "Cancel changes nothing";
     prompts_.files = {Settings("Blue").string()};
     Click(panel_->btn_OpenSkin);
     EXPECT_EQ(panel_->tbx_SkinName->text(), "Blue");
-    EXPECT_FALSE(List().isHeaderHidden());
-    EXPECT_EQ(List().headerItem()->text(0), "Layouts");
     EXPECT_TRUE(panel_->btn_SaveSkin->isEnabled() && panel_->btn_CloneLayout->isEnabled());
     EXPECT_EQ(canvas_.sized, 1);
     EXPECT_EQ(windows_.toolboxes, 1);
     ExpectShown("Standard");
-}
-
-TEST_F(PanelTest, ASkinThatCannotBeReadLeavesTheOpenOne) {
-    OpenBlue();
-    MakeSkin("Red", {"Standard"});
-    prompts_.files = {Settings("Red").string()};
+    prompts_.files = {Settings("Blue").string()};
     const dbSkinRef open = objSkin;
     const FullDisk disk;
     Click(panel_->btn_OpenSkin);
     EXPECT_EQ(objSkin, open);
-    EXPECT_EQ(prompts_.asked, (Texts{"Loading Skin Error: The file \"" + Settings("Red").string() +
-                                     "\" could not be read: No space left on device"}));
+    EXPECT_EQ(prompts_.asked.size(), 1u);
 }
 
 TEST_F(PanelTest, ChoosingByMouseAndKeys) {
@@ -50,14 +33,9 @@ TEST_F(PanelTest, ChoosingByMouseAndKeys) {
     ExpectShown("Big_Party");
     Press(Qt::Key_Up);
     ExpectShown("Standard");
-    int resets = canvas_.reset;
-    ClickItem(0);
-    EXPECT_EQ(canvas_.reset, ++resets) << "the layout that is shown already";
-    Press(Qt::Key_Down);
-    Press(Qt::Key_Down);
-    EXPECT_EQ(canvas_.reset, resets + 1) << "the last item chooses nothing";
+    for (int times = 0; times < 2; ++times) Press(Qt::Key_Down);
     EXPECT_FALSE(panel_->btn_CloneLayout->isEnabled() || panel_->btn_SaveToSkin->isEnabled());
-    EXPECT_EQ(objCurrentLayout->Key, "Big_Party");
+    EXPECT_EQ(objCurrentLayout->Key, "Big_Party") << "the last item chooses nothing";
     Press(Qt::Key_Up);
     EXPECT_TRUE(panel_->btn_CloneLayout->isEnabled() && panel_->btn_SaveToSkin->isEnabled());
 }
@@ -74,7 +52,6 @@ TEST_F(PanelTest, NewLayoutsAreNamedInTheList) {
     }
     objSkin->Dirty = false;
     for (const char* typed : {"", LayoutList::AddNewText, "big party"}) {
-        EXPECT_EQ(prompts_.asked, Texts());
         ClickItem(4);
         TypeLabel(typed);
     }
@@ -110,20 +87,15 @@ TEST_F(PanelTest, DeletingAsksAndChoosesAnother) {
         prompts_.answers = {Answer::Yes};
         Press(Qt::Key_Delete);
         if (*next) ExpectShown(next);
-        EXPECT_EQ(List().verticalScrollBar()->value(), 0) << "it is in sight";
         EXPECT_EQ(objCurrentLayout->Key, next);
-        for (const QWidget* part :
-             {panel_->btn_SkinProperties, panel_->btn_CloneLayout, panel_->btn_SaveToSkin})
-            EXPECT_EQ(part->isEnabled(), *next != 0) << next;
+        EXPECT_EQ(panel_->btn_CloneLayout->isEnabled(), *next != 0) << next;
     }
     EXPECT_TRUE(objSkin->Dirty);
     EXPECT_EQ(canvas_.composed, objCurrentLayout) << "the canvas is bare";
-    prompts_.asked.clear();
-    Press(Qt::Key_Delete);
-    EXPECT_EQ(prompts_.asked, Texts()) << "nothing is selected";
+    Press(Qt::Key_Delete);  // nothing is selected
     ClickItem(0);
     TypeLabel("Four");
-    EXPECT_TRUE(panel_->btn_SkinProperties->isEnabled() && panel_->btn_SaveToSkin->isEnabled());
+    EXPECT_TRUE(panel_->btn_CloneLayout->isEnabled());
 }
 
 TEST_F(PanelTest, ANewSkin) {
@@ -141,10 +113,8 @@ TEST_F(PanelTest, ANewSkin) {
     ASSERT_TRUE(panel_->AddNewSkin);
     frm_AddNewSkin& dialog = *panel_->AddNewSkin;
     EXPECT_EQ(dialog.tbx_Width->text() + "x" + dialog.tbx_Height->text(), "1024x768");
-    const std::pair<const char*, const char*> sizes[] = {
-        {"601", "601"},   {"", "600"},         {"x", "600"},   {"-700", "600"},
-        {"9e999", "600"}, {"1920 px", "1920"}, {"600", "600"}, {"100", "600"}};
-    for (const auto& [typed, kept] : sizes) {
+    for (const auto& [typed, kept] :
+         {std::pair{"601", "601"}, {"x", "600"}, {"9e999", "600"}, {"1920 px", "1920"}, {"599", "600"}}) {
         dialog.tbx_Width->setText(typed);
         QFocusEvent leaves(QEvent::FocusOut, Qt::TabFocusReason);
         QCoreApplication::sendEvent(dialog.tbx_Width, &leaves);
@@ -155,7 +125,6 @@ TEST_F(PanelTest, ANewSkin) {
     QTest::keyClick(dialog.tbx_Width, Qt::Key_Return);
     EXPECT_EQ(objSkin->SkinName, "My;Skin!");
     EXPECT_TRUE(objSkin->SkinWidth == 600 && objSkin->SkinHeight == 1200);
-    EXPECT_EQ(objSkin->SkinFolder(), (Root() / "Skins" / "My;Skin!").string() + "/");
     EXPECT_EQ(Items(), QStringList({"Admin-Mode", "Kiosk-Mode", LayoutList::AddNewText}));
     EXPECT_FALSE(objSkin->Dirty || fs::exists(Root() / "Skins" / "My;Skin!"));
     EXPECT_TRUE(settings::NewSkinWidth.Read() == 600 && settings::NewSkinHeight.Read() == 1200);
@@ -186,12 +155,10 @@ TEST_F(PanelTest, TheQuestionAtTheEnd) {
             EXPECT_EQ(panel_->close(), row.outcome == Unload::Done);
         }
         EXPECT_EQ(panel_->LastUnload(), row.outcome);
-        EXPECT_EQ(panel_->isVisible(), row.outcome != Unload::Done);
         EXPECT_EQ(objSkin->Dirty, row.changed);
         EXPECT_EQ(Stored("Blue").SkinWidth, row.changed ? 700 : 999);
         EXPECT_EQ(settings::SkinProjectLeft.Read(), 1500) << "written whatever is answered";
     }
-    EXPECT_EQ(prompts_.asked[0], "Save current Skin: Save changes of current Skin before closing Ornavo?");
     EXPECT_EQ(settings::SkinProjectHeight.Read(), 4500);
     EXPECT_TRUE(fs::exists(Root() / "data" / "Recovered")) << "No drops, but the text is kept";
 }
@@ -201,10 +168,6 @@ TEST_F(PanelTest, TheLonePanelCanStillSave) {
     objSkin->Dirty = true;
     panel_->StandAlone();
     EXPECT_TRUE(panel_->isVisible() && panel_->testAttribute(Qt::WA_QuitOnClose));
-    prompts_.files = {Settings("Blue").string()};
-    Click(panel_->btn_OpenSkin);
-    Click(panel_->btn_CloneLayout);
-    EXPECT_EQ(prompts_.files.size(), 1u) << "nobody was asked";
     Click(panel_->btn_SaveSkin);
     EXPECT_FALSE(objSkin->Dirty);
     EXPECT_TRUE(panel_->close());
@@ -216,12 +179,10 @@ TEST_F(PanelTest, SavingRepairsTheNameFirst) {
     panel_->tbx_SkinName->setText("My:Skin?");
     QTest::keyClick(panel_->tbx_SkinName, Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(panel_->tbx_SkinName->text(), "My;Skin!");
-    EXPECT_TRUE(fs::exists(Settings("My;Skin!"))) << "a copy under the other name";
-    EXPECT_TRUE(fs::exists(Settings("Blue"))) << "the old one stays";
-    for (const char* name : {"", "   ", "**", "."}) {
+    EXPECT_TRUE(fs::exists(Settings("My;Skin!")) && fs::exists(Settings("Blue")));
+    for (const char* name : {"   ", "**", "."}) {
         panel_->tbx_SkinName->setText(name);
         EXPECT_FALSE(panel_->SaveSkin());
-        EXPECT_EQ(prompts_.asked.back(), "Ornavo: Please enter a Skin name!");
         EXPECT_EQ(objSkin->SkinName, "My;Skin!");
     }
     Press(Qt::Key_F2);
@@ -236,45 +197,28 @@ TEST_F(PanelTest, SavingRepairsTheNameFirst) {
     EXPECT_EQ(objSkin->SkinName, "My;Skin!") << "the pictures are still found there";
 }
 
-TEST_F(PanelTest, CloningTwice) {
+TEST_F(PanelTest, CloningSavesOrChangesNothing) {
     OpenBlue();
     ClickItem(1);
     objCurrentLayout->dbLayoutElements->Item("Main")->LeftX = 77;
     prompts_.inputs = {"Big Party", "Big Party"};
     Click(panel_->btn_CloneLayout);
-    EXPECT_EQ(prompts_.asked[0], "New Layout: Enter a name for new Layout [Big Party]");
     ExpectShown("Big_Party_(cloned2)");
-    objCurrentLayout->dbLayoutElements->Item("Main")->LeftX = 5;
-    EXPECT_EQ(objSkin->dbLayouts->Item("Big_Party")->dbLayoutElements->Item("Main")->LeftX, 77)
-        << "nothing is shared";
-    ClickItem(1);
-    Click(panel_->btn_CloneLayout);
-    ExpectShown("Big_Party_(cloned3)");
-    EXPECT_EQ(Stored("Blue").dbLayouts->Count(), 4) << "a clone is a save";
-    Click(panel_->btn_CloneLayout);
-    EXPECT_EQ(objSkin->dbLayouts->Count(), 4) << "no name, no layout";
-}
-
-TEST_F(PanelTest, ACloneThatCannotBeSavedChangesNothing) {
-    OpenBlue();
+    objCurrentLayout->dbLayoutElements->Item("Main")->LeftX = 5;  // nothing is shared
+    EXPECT_EQ(objSkin->dbLayouts->Item("Big_Party")->dbLayoutElements->Item("Main")->LeftX, 77);
+    EXPECT_EQ(Stored("Blue").dbLayouts->Count(), 3) << "a clone is a save";
     objSkin->Dirty = true;
-    const dbLayoutRef before = objCurrentLayout;
-    prompts_.inputs = {"Other"};
     const FullDisk full;
-    Click(panel_->btn_CloneLayout);
-    EXPECT_EQ(objSkin->dbLayouts->Count(), 2);
-    EXPECT_TRUE(objCurrentLayout == before && objSkin->Dirty);
-    EXPECT_NE(prompts_.asked.back().find("No space left on device"), std::string::npos);
-    ExpectShown("Standard");
+    for (int times = 0; times < 2; ++times) Click(panel_->btn_CloneLayout);  // at last without a name
+    EXPECT_TRUE(objSkin->dbLayouts->Count() == 3 && objSkin->Dirty);
+    ExpectShown("Big_Party_(cloned2)");
 }
 
 TEST(LayoutCopy, FreeNames) {
     dbSkin skin;
     for (const char* name : {"Party", "Party (cloned2)", "Odd (cloned)"}) skin.AddNewLayout(name);
-    for (const auto& [given, free] : {std::pair{"Ball", "Ball"},
-                                      {"Party", "Party (cloned3)"},
-                                      {"Party (cloned7) x", "Party (cloned3)"},
-                                      {"Odd (cloned)", "Odd (cloned2)"}})
+    for (const auto& [given, free] :
+         {std::pair{"Party", "Party (cloned3)"}, {"Party (cloned7) x", "Party (cloned3)"}, {"Ball", "Ball"}})
         EXPECT_EQ(GetFreeClonedText(skin, given), free) << given;
 }
 
@@ -294,11 +238,8 @@ TEST_F(PanelTest, InsertingIntoAnotherSkin) {
     prompts_.files = {Settings("Green").string()};
     prompts_.answers = {Answer::Yes};
     Click(panel_->btn_SaveToSkin);
-    ASSERT_EQ(prompts_.asked.size(), 2u) << "one name, two pictures";
-    EXPECT_NE(prompts_.asked[1].find((blue / "b.bmp").string() + " gives way"), std::string::npos);
-    const dbSkin stored = Stored("Green");
-    ASSERT_EQ(stored.dbLayouts->Count(), 2);
-    const dbLayoutRef inserted = stored.dbLayouts->Item("Big_Party_(cloned2)");
+    EXPECT_EQ(prompts_.asked.size(), 2u) << "one name, two pictures";
+    const dbLayoutRef inserted = Stored("Green").dbLayouts->Item("Big_Party_(cloned2)");
     EXPECT_EQ(inserted->dbLayoutElements->Item("Main")->PicNormal, "a.bmp");
     EXPECT_EQ(fileLayer().Read(green / "a.bmp"), "of blue");
     EXPECT_EQ(fileLayer().Read(green / "b.bmp"), "of green") << "what the target has stays";
@@ -325,15 +266,12 @@ TEST_F(PanelTest, AnInsertDoesNotOverwriteAStranger) {
     OpenBlue();
     MakeSkin("Green", {"Night"});
     fs::copy(Root() / "Skins" / "Green", Root() / "Skins" / "GreenCopy");
-    prompts_.inputs = {"Ball", "Ball"};
-    prompts_.files = {Settings("GreenCopy").string(), (Root() / "gone" / "SkinSettings.xml").string()};
+    prompts_.inputs = {"Ball"};
+    prompts_.files = {Settings("GreenCopy").string()};
     prompts_.answers = {Answer::No};
     Click(panel_->btn_SaveToSkin);
     EXPECT_EQ(Stored("Green").dbLayouts->Count(), 1) << "the copy's file names its original";
     EXPECT_EQ(prompts_.asked.size(), 2u);
-    Click(panel_->btn_SaveToSkin);
-    EXPECT_FALSE(fs::exists(Root() / "gone"));
-    EXPECT_EQ(prompts_.asked.size(), 4u) << "a file that can't be read is told";
 }
 
 }  // namespace
