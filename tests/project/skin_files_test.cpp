@@ -26,7 +26,6 @@ TEST_F(FilesTest, WhereASkinLies) {
     const std::string root = Root().string();
     folder_.Write("Party/SkinSettings.xml", "");
     const std::pair<std::string, std::string> rows[] = {{"Party", "/own/Skins/ Party"},
-                                                        {root + "/Party", root + "/ Party"},
                                                         {root + "/Party/skinsettings.XML", root + "/ Party"},
                                                         {root + "/party", root + "/ Party"},
                                                         {root + "/None", root + "/ None"}};
@@ -212,10 +211,9 @@ TEST_F(FilesTest, SamplesComeOnce) {
 }
 
 TEST_F(FilesTest, AnInstallPutsProgramsSamplesAndDesktopFilesIntoOneTree) {
-    const std::string command = "DESTDIR='" + Root().string() +
-                                "' cmake --install '" ORNAVO_BINARY_DIR "' --prefix /usr >'" +
-                                (Root() / "log").string() + "' 2>&1";
-    ASSERT_EQ(std::system(command.c_str()), 0) << folder_.Read(Root() / "log");
+    const std::string command =
+        "DESTDIR='" + Root().string() + "' cmake --install '" ORNAVO_BINARY_DIR "' --prefix /usr >/dev/null";
+    ASSERT_EQ(std::system(command.c_str()), 0);
     for (const char* file : {"bin/ornavo", "bin/ornavo-cli", "share/applications/ornavo.desktop",
                              "share/icons/hicolor/128x128/apps/ornavo.png"})
         EXPECT_TRUE(fs::is_regular_file(Root() / "usr" / file)) << file;

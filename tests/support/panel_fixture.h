@@ -2,12 +2,8 @@
 // The project panel on a scratch folder with two skins, its dialogs scripted.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QAccessible>
 #include <QLineEdit>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include "base/files.h"
 #include "editor/settings_keys.h"

@@ -3,9 +3,6 @@
 #pragma once
 
 #include <deque>
-#include <optional>
-#include <string>
-#include <vector>
 
 #include "platform/prompts.h"
 
@@ -28,19 +25,11 @@ public:
         questions.push_back(question);
         return Next(files);
     }
-    std::optional<Colour> ColourOf(Colour, CustomColours& custom) override {
-        customColours = custom;
-        return Next(colours);
-    }
-    std::optional<Font> FontOf(const Font&, const std::vector<std::string>& offered) override {
-        offeredFaces = offered;
-        return Next(fonts);
-    }
+    std::optional<Colour> ColourOf(Colour, CustomColours&) override { return Next(colours); }
+    std::optional<Font> FontOf(const Font&, const std::vector<std::string>&) override { return Next(fonts); }
 
     std::vector<std::string> asked;  // "title: text", of an input with " [proposal]"
     std::vector<FileQuestion> questions;
-    CustomColours customColours = {};
-    std::vector<std::string> offeredFaces;
     // What is answered, in turn; when none is left: Ok, and Cancel for the others.
     std::deque<Answer> answers;
     std::deque<std::string> inputs, files;

@@ -2,10 +2,7 @@
 // A current skin in a scratch folder, and a target without a window manager to compose it on.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QImage>
 #include <QTemporaryDir>
 
 #include "document/current_skin.h"
