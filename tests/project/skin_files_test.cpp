@@ -147,9 +147,8 @@ TEST_F(FilesTest, ASaveThatFailsAndAPictureThatCannotBeCopied) {
     }
     EXPECT_TRUE(Told((Root() / "Skins/New/SkinSettings.xml").string()) && Told("No space left on device"));
     EXPECT_TRUE(objSkin->Dirty);
-    const std::string real = folder_.Write("a/x.png", "A");
     fs::create_directories(Root() / "Skins/New/x.png");
-    Main().PicNormal = Main().PicOn = real;
+    Main().PicNormal = Main().PicOn = folder_.Write("a/x.png", "A").string();
     EXPECT_EQ(files.Save(), Saved::Yes);
     EXPECT_FALSE(objSkin->Dirty);
     EXPECT_EQ(prompts_.asked.size(), 2u) << "one box each";
@@ -168,9 +167,7 @@ TEST_F(FilesTest, DroppedChangesAreRecoverable) {
     const TickingClock time;
     SkinFiles files = Files();
     const fs::path recovered = Root() / "data" / "Recovered";
-    files.Create("Quiet", 800, 600);
     files.Create("First", 800, 600);
-    EXPECT_FALSE(fs::exists(recovered)) << "an unchanged skin leaves no trace";
     for (int i = 0; i < 12; ++i) {
         objSkin->Dirty = true;
         objSkin->SkinWidth = 1000 + i;

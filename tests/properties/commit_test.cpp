@@ -5,11 +5,11 @@
 namespace ornavo::testing {
 namespace {
 
-class CommitTest : public RowEditTest {
-protected:
-    void SelectSong() { SelectSample(host().sample.but_Song); }
-    static std::string Preference(const char* key) { return objSkin->dbSkinPrefs->Item(key)->value.ToText(); }
-};
+using CommitTest = RowEditTest;
+
+std::string Preference(const char* key) {
+    return objSkin->dbSkinPrefs->Item(key)->value.ToText();
+}
 
 TEST_F(CommitTest, KeysReachTheModelAndAnEmptyBox) {
     Select("Button1");
@@ -29,7 +29,7 @@ TEST_F(CommitTest, KeysReachTheModelAndAnEmptyBox) {
     EXPECT_EQ(Box("TextColor")->Text(), "0");
     Type(*Box("TextColor"), "12x");
     EXPECT_EQ(Element("Button1").TextColor, 12);
-    SelectSong();
+    SelectSample(host().sample.but_Song);
     for (const auto& [row, afterwards] : {std::pair{std::string("SO_Height"), "0"}, {"SO_Picture", ""}}) {
         RowText& empty = *Box(row + ".Value");
         Type(empty, "");
@@ -138,7 +138,7 @@ TEST_F(CommitTest, AnotherCommandFinishesWhatWaits) {
 
 TEST_F(CommitTest, AnEditedKeyColourStandsAndWhatAnInfoWritesBack) {
     objSkin->dbSkinPrefs->Item("SO_UseTopLeftTransparency")->value = false;
-    SelectSong();
+    SelectSample(host().sample.but_Song);
     Type(*Box("SO_TransparentColor.Value"), "4711");
     Tick();
     EXPECT_EQ(Preference("SO_TransparentColor"), "4711");

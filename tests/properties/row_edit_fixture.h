@@ -90,9 +90,7 @@ protected:
     }
     void Open() {
         panel_->Open();
-        // Without a window manager nothing tells of a window that comes back.
-        QApplication::setActiveWindow(panel_.get());
-        EXPECT_TRUE(panel_->isActiveWindow());
+        QApplication::setActiveWindow(panel_.get());  // which no window manager does
     }
     QTimer& timer() { return panel_->tmrUpdate; }
     void Tick() {

@@ -25,11 +25,15 @@ public:
         questions.push_back(question);
         return Next(files);
     }
-    std::optional<Colour> ColourOf(Colour, CustomColours&) override { return Next(colours); }
+    std::optional<Colour> ColourOf(Colour, CustomColours& custom) override {
+        customColours = custom;
+        return Next(colours);
+    }
     std::optional<Font> FontOf(const Font&, const std::vector<std::string>&) override { return Next(fonts); }
 
     std::vector<std::string> asked;  // "title: text", of an input with " [proposal]"
     std::vector<FileQuestion> questions;
+    CustomColours customColours = {};
     // What is answered, in turn; when none is left: Ok, and Cancel for the others.
     std::deque<Answer> answers;
     std::deque<std::string> inputs, files;
