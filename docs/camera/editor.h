@@ -3,7 +3,7 @@
 #pragma once
 
 #include "camera.h"
-#include "walk/sheet.h"
+#include "sheet.h"
 
 namespace ornavo::guide {
 
@@ -39,7 +39,7 @@ public:
     QRect Part(const QRect& onCanvas) { return onCanvas.translated(Canvas().topLeft()); }
     QString Skins() const { return desktop_.Home() + "/ornavo/Skins/"; }
 
-    walk::Sheet sheet;
+    Sheet sheet;
     const QString& main() const { return main_; }
     const QString& panel() const { return panel_; }
     const QString& toolbox() const { return toolbox_; }

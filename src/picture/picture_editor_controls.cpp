@@ -15,7 +15,7 @@ namespace {
 constexpr int Margin = 12, Gap = 8, RowGap = 14;  // pixels
 constexpr QSize ButtonSize = {104, 26};
 
-QLabel* Label(const char* name, const char* caption, QWidget* buddy = nullptr) {
+QLabel* MakeLabel(const char* name, const char* caption, QWidget* buddy = nullptr) {
     auto* label = new QLabel(QLatin1String(caption));
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
@@ -23,7 +23,7 @@ QLabel* Label(const char* name, const char* caption, QWidget* buddy = nullptr) {
     return label;
 }
 
-TileCommand* Command(QWidget* parent, const char* name, const char* caption) {
+TileCommand* MakeCommand(QWidget* parent, const char* name, const char* caption) {
     auto* command = new TileCommand(parent, name);
     command->SetCaption(QLatin1String(caption));
     command->setMinimumSize(PanelScale(*parent)(ButtonSize));
@@ -31,7 +31,7 @@ TileCommand* Command(QWidget* parent, const char* name, const char* caption) {
 }
 
 QLabel* ValueLabel(const char* name) {
-    QLabel* label = Label(name, "");
+    QLabel* label = MakeLabel(name, "");
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
     return label;
@@ -49,17 +49,17 @@ frm_PictureEditor::frm_PictureEditor(QWidget* owner)
       hscSaturation(new ColourSlider("hscSaturation", "Saturation")),
       lblHueValue(ValueLabel("lblHueValue")),
       lblSaturationValue(ValueLabel("lblSaturationValue")),
-      lbl_Presets(Label("lbl_Presets", " Color Presets")),
+      lbl_Presets(MakeLabel("lbl_Presets", " Color Presets")),
       lstPresets(new QListWidget),
-      btn_SavePreset(Command(this, "btn_SavePreset", "S&ave Preset")),
-      btn_DeletePreset(Command(this, "btn_DeletePreset", "&Delete Preset")),
+      btn_SavePreset(MakeCommand(this, "btn_SavePreset", "S&ave Preset")),
+      btn_DeletePreset(MakeCommand(this, "btn_DeletePreset", "&Delete Preset")),
       fraOptions(new QGroupBox(QStringLiteral("Save Options"))),
       tbx_FinalName(new QLineEdit),
       optBMP(new QRadioButton(QStringLiteral("BMP"))),
       optJPG(new QRadioButton(QStringLiteral("JPEG"))),
-      btn_Save(Command(this, "btn_Save", "&Save")),
-      btn_Cancel(Command(this, "btn_Cancel", "&Cancel")),
-      lbl_Notice(Label("lbl_Notice", "")) {
+      btn_Save(MakeCommand(this, "btn_Save", "&Save")),
+      btn_Cancel(MakeCommand(this, "btn_Cancel", "&Cancel")),
+      lbl_Notice(MakeLabel("lbl_Notice", "")) {
     setWindowTitle(QStringLiteral("Picture Editor"));
     setWindowModality(Qt::ApplicationModal);
     Arrange();
@@ -70,10 +70,10 @@ QWidget* frm_PictureEditor::ColourBox() {
     auto* box = new QGroupBox(QStringLiteral("Color"));
     auto* grid = new QGridLayout(box);
     grid->setVerticalSpacing(RowGap);
-    grid->addWidget(Label("lblHue", "&Hue", hscHue), 0, 0);
+    grid->addWidget(MakeLabel("lblHue", "&Hue", hscHue), 0, 0);
     grid->addWidget(hscHue, 0, 1);
     grid->addWidget(lblHueValue, 0, 2);
-    grid->addWidget(Label("lblSaturation", "&Saturation", hscSaturation), 1, 0);
+    grid->addWidget(MakeLabel("lblSaturation", "&Saturation", hscSaturation), 1, 0);
     grid->addWidget(hscSaturation, 1, 1);
     grid->addWidget(lblSaturationValue, 1, 2);
     grid->setRowStretch(2, 1);
@@ -106,7 +106,7 @@ QWidget* frm_PictureEditor::OptionsBox() {
     tbx_FinalName->setMinimumWidth(PanelScale(*this)(150));
     optBMP->setObjectName(QStringLiteral("optBMP"));
     optJPG->setObjectName(QStringLiteral("optJPG"));
-    grid->addWidget(Label("lbl_SaveAs", "Save As", tbx_FinalName), 0, 0);
+    grid->addWidget(MakeLabel("lbl_SaveAs", "Save As", tbx_FinalName), 0, 0);
     grid->addWidget(tbx_FinalName, 0, 1, 1, 2);
     grid->addWidget(optBMP, 1, 1);
     grid->addWidget(optJPG, 1, 2);
@@ -122,8 +122,8 @@ void frm_PictureEditor::Arrange() {
     auto* pictures = new QGridLayout;
     pictures->setSpacing(Gap / 2);
     pictures->setHorizontalSpacing(Gap);
-    pictures->addWidget(Label("lbl_Source", "Source"), 0, 0);
-    pictures->addWidget(Label("lbl_Result", "Result"), 0, 1);
+    pictures->addWidget(MakeLabel("lbl_Source", "Source"), 0, 0);
+    pictures->addWidget(MakeLabel("lbl_Result", "Result"), 0, 1);
     pictures->addWidget(picSource, 1, 0);
     pictures->addWidget(picResult, 1, 1);
     auto* boxes = new QHBoxLayout;

@@ -124,10 +124,10 @@ TEST_F(Dialogs, AFileIsGivenWithItsTitleAndASavedOneWithTheExtensionItLacks) {
     files = {"/skins/Blue/back.jpg"};
     EXPECT_TRUE(dialog.VBGetOpenFileName(file, title, {"A|*.a", "/skins", "Open Picture", "bmp"}));
     EXPECT_EQ(file + ' ' + title, "/skins/Blue/back.jpg back.jpg");
-    const FileQuestion asked = questions.at(0);
-    EXPECT_EQ(asked.title + ' ' + asked.filter + ' ' + asked.folder + ' ' + asked.name,
+    const FileQuestion question = questions.at(0);
+    EXPECT_EQ(question.title + ' ' + question.filter + ' ' + question.folder + ' ' + question.name,
               "Open Picture A|*.a /skins old.jpg");
-    EXPECT_FALSE(dialog.VBGetOpenFileName(file, title, {}) || asked.save) << "cancelled";
+    EXPECT_FALSE(dialog.VBGetOpenFileName(file, title, {}) || question.save) << "cancelled";
     EXPECT_EQ(file + ' ' + title, "/skins/Blue/back.jpg back.jpg");
     for (const auto& [typed, saved] : {std::pair{"/a.b/c", "/a.b/c.bmp"}, {"/a/c.jpg", "/a/c.jpg"}}) {
         files = {typed};
