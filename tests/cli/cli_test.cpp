@@ -72,7 +72,6 @@ TEST_F(ToolTest, DumpAndPlaceTellTheModelAndChangeNothing) {
     ASSERT_EQ(Run("dump " + Path("Blue/SkinSettings.xml") + " --raw"), 0) << err_.constData();
     const QJsonObject skin = QJsonDocument::fromJson(out_).object();
     EXPECT_EQ(skin["SkinName"], "Blue");
-    EXPECT_EQ(skin["SkinHeight"], 80);
     EXPECT_EQ(skin["dbSkinPrefs"], QJsonDocument::fromJson(R"([
         {"Key":"SP_ColLight","PrefType":1,"Caption":"","Value":255,"Font":
             {"Name":"Arial","Size":8.25,"Bold":true,"Italic":false,"Strikethrough":false,"Underline":false}},
@@ -134,8 +133,6 @@ TEST_F(ToolTest, SaveTellsWhatIsLost) {
     EXPECT_TRUE(Told("could not be copied")) << err_.constData();
     const QByteArray torn = QByteArray(SkinText).left(700);
     Write(torn);
-    Run("dump Blue");
-    EXPECT_TRUE(Told("damaged"));
     EXPECT_EQ(Run("save Blue"), 1);
     EXPECT_EQ(Settings(), torn);
     EXPECT_EQ(Run("save Blue --replace"), 0);

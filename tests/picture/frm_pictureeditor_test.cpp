@@ -145,12 +145,11 @@ TEST_F(PictureEditorTest, WhatIsClearStaysClearForItsElement) {
         form_->hscSaturation->setValue(255);
     };
     const QRgb clear = qRgba(0, 0, 0, 127), seeThrough = qRgba(200, 200, 200, 128);
-    for (const auto& [selected, ground] : {std::pair{"E1", qRgb(0, 0, 20)}, {"", qRgb(255, 255, 255)}}) {
+    for (const auto& [selected, ground] : {std::pair{"", qRgb(255, 255, 255)}, {"E1", qRgb(0, 0, 20)}}) {
         selKey_ = selected;
         open({red, qRgba(255, 0, 0, 0), red, red});
         EXPECT_EQ(Seen(form_->picSource, 1, 0), ground);
     }
-    selKey_ = "E1";
     element.UseTransparency = true;
     const QRgb magenta = qRgb(255, 0, 255), light = Recoloured(half, 0, 255);
     for (const auto& expected :

@@ -156,16 +156,11 @@ TEST_F(PanelTest, TheQuestionAtTheEnd) {
     }
     EXPECT_EQ(settings::SkinProjectHeight.Read(), 4500);
     EXPECT_TRUE(fs::exists(Root() / "data" / "Recovered")) << "No drops, but the text is kept";
-}
-
-TEST_F(PanelTest, TheLonePanelCanStillSave) {
-    OpenBlue();
     objSkin->Dirty = true;
     panel_->StandAlone();
     EXPECT_TRUE(panel_->isVisible() && panel_->testAttribute(Qt::WA_QuitOnClose));
     Click(panel_->btn_SaveSkin);
     EXPECT_FALSE(objSkin->Dirty);
-    EXPECT_TRUE(panel_->close());
 }
 
 TEST_F(PanelTest, SavingRepairsTheNameFirst) {
