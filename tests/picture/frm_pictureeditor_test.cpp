@@ -65,6 +65,9 @@ TEST_F(PictureEditorTest, BothBoxesShowTheirPixelsWhereverTheyAreScrolled) {
     const QRgb pixel = large.pixel(301 + 17, 77 + 60);
     EXPECT_EQ(Seen(form_->picSource, 17, 60), pixel);
     EXPECT_EQ(Seen(form_->picResult, 17, 60), Recoloured(pixel, 100, 100));
+    const QSize room = form_->picSource->viewport()->size();
+    EXPECT_EQ(form_->picSource->horizontalScrollBar()->maximum(), 1101 - room.width());
+    EXPECT_EQ(form_->picSource->verticalScrollBar()->maximum(), 903 - room.height());
 }
 
 TEST_F(PictureEditorTest, SlidersGoByKeys) {
@@ -83,6 +86,7 @@ TEST_F(PictureEditorTest, SlidersGoByKeys) {
 TEST_F(PictureEditorTest, PresetsAreSavedPickedAndDeleted) {
     Picture("a.png", Qt::red);
     Open();
+    EXPECT_FALSE(form_->btn_DeletePreset->isEnabled());
     prompts_.inputs = {"  Sea ", "   ", "Rust"};
     form_->hscHue->setValue(170);
     for (int times = 0; times < 2; ++times) Click(form_->btn_SavePreset);

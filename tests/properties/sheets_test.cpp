@@ -104,6 +104,15 @@ TEST_F(SheetTest, ARowsControlsShowItsValue) {
          {std::pair{"ElementType", int(TypeButton)}, {"ActionType", 55}, {"ShowElement", 1}})
         EXPECT_EQ(Combo(key)->ListIndex(), chosen) << key;
     EXPECT_EQ(Combo("ShowElement")->itemText(5), "SearchBox (hidden)");
+    int right = panel_->ScaleWidth();  // of a picture's two buttons, first the outer one
+    for (const Pool<RowButton>* pool : {&pools().btn_Prop, &pools().btn_PicEdit})
+        for (int i = 1; i <= pool->Top(); ++i) {
+            const RowButton& button = (*pool)[i];
+            if (button.Tag != "PicOver") continue;
+            EXPECT_EQ(button.x() + button.width(), right);
+            right = button.x();
+        }
+    EXPECT_EQ(right, panel_->ScaleWidth() - pools().btn_Prop[1].width() - pools().btn_PicEdit[1].width());
     element().TextColor = ColourOf(0x7F000000);  // no colour: the box stays white
     element().ActionType = 56;
     Select("Element");
