@@ -21,12 +21,6 @@ std::int32_t GetTopOrder(const dbLayout& layout) {
     return layout.dbLayoutElements->Count() + 1;
 }
 
-std::int32_t GetControlIndex(const dbLayout& layout, std::int32_t order) {
-    for (const dbLayoutElementRef& element : *layout.dbLayoutElements)
-        if (element->Order == order) return element->ControlIndex;
-    return 0;
-}
-
 void DeleteElement(dbLayout& layout, std::string_view key) {
     layout.dbLayoutElements->Remove(key);
     Renumber(*layout.dbLayoutElements, 1);

@@ -8,8 +8,6 @@ namespace ornavo {
 
 /// The Order that puts a new element on top of all the others.
 std::int32_t GetTopOrder(const dbLayout& layout);
-/// The ControlIndex of the first element with this Order; 0 if there is none.
-std::int32_t GetControlIndex(const dbLayout& layout, std::int32_t order);
 
 /// Removes the element and renumbers the rest. Failure 9 if there is no such element.
 void DeleteElement(dbLayout& layout, std::string_view key);

@@ -5,10 +5,13 @@
 #include <QJsonObject>
 #include <QProcess>
 
+#include "document/catalogue.h"
 #include "support/temporary_folder.h"
 
 namespace ornavo::testing {
 namespace {
+
+constexpr auto Prefs = std::ssize(Catalogue) + 1;  // with the one of its own
 
 const char* const SkinText =
     "<Skin>\n<SkinWidth>100</SkinWidth>\n<SkinHeight>80</SkinHeight>\n<SkinPrefs>\n<SkinPref>\n"
@@ -82,7 +85,7 @@ TEST_F(ToolTest, DumpAndPlaceTellTheModelAndChangeNothing) {
     EXPECT_EQ(element["CapScrollSpeed"], -2);
     EXPECT_EQ(element["Visible"], true);
     Run("dump Blue");
-    EXPECT_EQ(QJsonDocument::fromJson(out_)["dbSkinPrefs"].toArray().size(), 182);
+    EXPECT_EQ(QJsonDocument::fromJson(out_)["dbSkinPrefs"].toArray().size(), Prefs);
     EXPECT_EQ(Settings(), SkinText);
     ASSERT_EQ(Run("place Blue --layout standard --size 130x101"), 0) << err_.constData();
     EXPECT_EQ(QJsonDocument::fromJson(out_), QJsonDocument::fromJson(R"({"width":130,"height":101,
@@ -96,7 +99,7 @@ TEST_F(ToolTest, SaveWritesBackAndUnderAnotherName) {
     ASSERT_EQ(Run("save Blue"), 0);
     const QByteArray once = Settings();
     EXPECT_TRUE(once.contains("\t\t\t<Value>G\xFCte</Value>\r\n"));
-    EXPECT_EQ(once.count("<SkinPref>"), 182);
+    EXPECT_EQ(once.count("<SkinPref>"), Prefs);
     ASSERT_EQ(Run("save Blue --as Red/1"), 0);
     EXPECT_EQ(Read("Red_1/SkinSettings.xml"),
               QByteArray(once).replace("<SkinName>Blue<", "<SkinName>Red_1<"));

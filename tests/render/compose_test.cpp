@@ -22,7 +22,7 @@ protected:
 };
 
 TEST_F(ComposeTest, EveryTypeHasItsControlAndItsPlace) {
-    Add("b", TypeButton, {1, 2, 10, 11});
+    Add("b", TypeButton, {1, 2, 10, 11}).Dragger = true;
     Add("p", TypePicture, {2, 2, 10, 11});
     Add("v", TypeVolume, {3, 2, 10, 11});
     Add("i", TypeInfo, {4, 2, 10, 11});
@@ -47,6 +47,10 @@ TEST_F(ComposeTest, EveryTypeHasItsControlAndItsPlace) {
     EXPECT_EQ(tags, "bpvimsf");
     EXPECT_EQ(objCurrentLayout->dbLayoutElements->Item("v")->ControlIndex, 3);
     EXPECT_EQ(host_.Element.Top(), 3);
+    EXPECT_EQ(target_.gridsShown, 1);
+    EXPECT_EQ(host_.Element[1].cursor().shape(), Qt::ArrowCursor);
+    ComposePreview(target_, objCurrentLayout, 100, 100);
+    EXPECT_EQ(host_.Element[1].cursor().shape(), Qt::SizeAllCursor);
 }
 
 TEST_F(ComposeTest, TheLastElementIsInFront) {

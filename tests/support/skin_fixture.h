@@ -23,8 +23,9 @@ public:
     int ScaleWidth() const override { return width(); }
     int ScaleHeight() const override { return height(); }
     LayoutHost& host() override { return host_; }
-    void ShowGrid() override {}
+    void ShowGrid() override { ++gridsShown; }
     void SetShape(const QRegion&) override {}
+    int gridsShown = 0;
 
 private:
     LayoutHost host_;
