@@ -44,6 +44,13 @@ int Close(int file) {
 int FlushFolder(const fs::path&) {
     return 0;
 }  // Windows flushes a rename by itself
+FileState State(const fs::path& path) {
+    std::error_code error;
+    FileState state = {.type = fs::status(path, error).type()};
+    if (state.type == fs::file_type::regular) state.size = fs::file_size(path, error);
+    state.written = fs::last_write_time(path, error).time_since_epoch().count() * 100;
+    return state;
+}
 #else
 int Create(const fs::path& path) {
     return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -72,6 +79,18 @@ int FlushFolder(const fs::path& path) {
     ::close(folder);
     errno = reason;
     return result;
+}
+fs::file_type TypeOf(mode_t mode) {
+    if (S_ISREG(mode)) return fs::file_type::regular;
+    return S_ISDIR(mode) ? fs::file_type::directory : fs::file_type::unknown;
+}
+FileState State(const fs::path& path) {
+    struct stat found = {};
+    if (::stat(path.c_str(), &found) == 0)
+        return {TypeOf(found.st_mode), static_cast<std::uintmax_t>(found.st_size),
+                std::int64_t{found.st_mtim.tv_sec} * 1'000'000'000 + found.st_mtim.tv_nsec};
+    const bool isAbsent = errno == ENOENT || errno == ENOTDIR;
+    return {isAbsent ? fs::file_type::not_found : fs::file_type::none};
 }
 #endif
 }  // namespace disk
@@ -103,16 +122,19 @@ bool CannotFlush(int reason) {
 
 FileLayer realDisk;
 FileLayer* layerInUse = &realDisk;
+FileListener* listenerInUse = nullptr;
+
+void TellMade(const fs::path& path) {
+    if (listenerInUse) listenerInUse->Made(path);
+}
+void TellGone(const fs::path& path) {
+    if (listenerInUse) listenerInUse->Gone(path);
+}
 
 }  // namespace
 
 Failure NotAFile() {
     return Failure(Failure::PathError, "Files", "It is not a plain file");
-}
-
-fs::file_type TypeOf(const fs::path& path) {
-    std::error_code ignored;
-    return fs::status(path, ignored).type();
 }
 
 bool IsOther(fs::file_type type) {
@@ -122,6 +144,7 @@ bool IsOther(fs::file_type type) {
 int FileLayer::Create(const fs::path& path) {
     const int file = disk::Create(path);
     if (file < 0) throw Refused(errno);
+    TellMade(path);
     return file;
 }
 
@@ -146,18 +169,22 @@ void FileLayer::Rename(const fs::path& from, const fs::path& to) {
     std::error_code error;
     fs::rename(from, to, error);
     if (error) throw Refused(error.value());
+    TellGone(from);
+    TellMade(to);
 }
 
 void FileLayer::Remove(const fs::path& path) {
     std::error_code error;
     fs::remove(path, error);
     if (error) throw Refused(error.value());
+    TellGone(path);
 }
 
 void FileLayer::MakeFolder(const fs::path& path) {
     std::error_code error;
     fs::create_directory(path, error);
     if (error) throw Refused(error.value());
+    TellMade(path);
 }
 
 void FileLayer::FlushFolder(const fs::path& path) {
@@ -165,7 +192,7 @@ void FileLayer::FlushFolder(const fs::path& path) {
 }
 
 int FileLayer::Open(const fs::path& path) {
-    if (IsOther(TypeOf(path))) throw NotAFile();
+    if (IsOther(State(path).type)) throw NotAFile();
     const int file = disk::Open(path);
     if (file < 0) throw Refused(errno);
     return file;
@@ -191,8 +218,26 @@ std::string FileLayer::Read(const fs::path& path) {
     return bytes;
 }
 
+FileState FileLayer::State(const fs::path& path) {
+    return disk::State(path);
+}
+
+std::vector<FolderEntry> FileLayer::List(const fs::path& folder) {
+    std::vector<FolderEntry> entries;
+    std::error_code error, ignored;
+    for (fs::directory_iterator at(folder.empty() ? fs::path(".") : folder, error), end; !error && at != end;
+         at.increment(error)) {
+        const std::u8string name = at->path().filename().u8string();
+        entries.push_back({std::string(name.begin(), name.end()), at->symlink_status(ignored).type()});
+    }
+    return entries;
+}
+
 FileLayer& fileLayer() {
     return *layerInUse;
+}
+void UseFileListener(FileListener* listener) {
+    listenerInUse = listener;
 }
 void UseFileLayer(FileLayer* layer) {
     layerInUse = layer ? layer : &realDisk;

@@ -3,15 +3,31 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/failure.h"
 
 namespace ornavo {
 
 inline constexpr std::size_t Chunk = 1 << 16;  // bytes of a file that are read at once
+
+/// What there is at a path; links are followed.
+struct FileState {
+    std::filesystem::file_type type =
+        std::filesystem::file_type::not_found;  // none: the system does not tell
+    std::uintmax_t size = 0;                    // bytes
+    std::int64_t written = 0;                   // the time of the last change, nanoseconds
+};
+
+/// An entry of a folder. The type is that of the entry itself, so it may be a link.
+struct FolderEntry {
+    std::string name;  // UTF-8
+    std::filesystem::file_type type;
+};
 
 /// The elementary disk operations; the base class works on the real disk. A failing one throws a Failure (53
 /// not found, 58 exists already, 61 disk full, 75 anything else) with the system's reason.
@@ -29,9 +45,21 @@ public:
     virtual int Open(const std::filesystem::path& path);                    // for reading; regular files only
     virtual std::size_t ReadSome(int file, char* bytes, std::size_t size);  // the count; 0 at the end
     virtual std::string Read(const std::filesystem::path& path);            // the whole file
+    virtual FileState State(const std::filesystem::path& path);             // never fails
+    /// The entries without "." and ".."; those that can be read. Never fails.
+    virtual std::vector<FolderEntry> List(const std::filesystem::path& folder);
 };
 FileLayer& fileLayer();
 void UseFileLayer(FileLayer* layer);  // null: the real disk
+
+/// Is told what the file layer has made or removed.
+class FileListener {
+public:
+    virtual ~FileListener() = default;
+    virtual void Made(const std::filesystem::path& path) = 0;
+    virtual void Gone(const std::filesystem::path& path) = 0;
+};
+void UseFileListener(FileListener* listener);  // null: nobody listens
 
 /// A file that is open for reading; the destructor closes it.
 class InFile {
@@ -48,7 +76,6 @@ private:
     int file_;
 };
 
-std::filesystem::file_type TypeOf(const std::filesystem::path& path);  // follows links; never fails
 /// Whether something exists there that isn't a regular file.
 bool IsOther(std::filesystem::file_type type);
 Failure NotAFile();

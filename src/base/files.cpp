@@ -16,6 +16,7 @@
 #endif
 
 #include "base/file_layer.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 
 namespace ornavo {
@@ -152,10 +153,6 @@ void PutInPlace(const fs::path& target, std::string_view bytes) {
 }
 
 }  // namespace
-
-bool FileExists(std::string_view path) {
-    return TypeOf(OnDisk(path)) == fs::file_type::regular;
-}
 
 bool NothingStandsAt(std::string_view path) {
     std::error_code ignored;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Folders, the existence of files, copies, and replacing a whole file. A failure names the file.
+// Folders, copies, and replacing a whole file. A failure names the file.
 #pragma once
 
 #include <filesystem>
@@ -8,8 +8,6 @@
 
 namespace ornavo {
 
-bool FileExists(std::string_view path);  // a regular file, looked up by OnDisk; never fails
-bool FolderExists(std::string_view path);
 /// Whether the path is free: nothing has that name, not even a broken link. False if the system cannot tell.
 bool NothingStandsAt(std::string_view path);
 std::string ReadFile(std::string_view path);  // regular files only, looked up by OnDisk

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <string>
-#include <system_error>
 
 #include "base/failure.h"
 #include "base/file_layer.h"
 #include "base/files.h"
-#include "base/paths.h"
+#include "base/lookup.h"
 #include "base/text.h"
 
 namespace ornavo {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -22,11 +19,6 @@ bool IsSeparator(char c) {
 }
 
 }  // namespace
-
-bool FolderExists(std::string_view path) {
-    std::error_code ignored;
-    return fs::is_directory(OnDisk(path), ignored);
-}
 
 bool CreateFolderOnce(std::string_view path) {
     if (path.size() > 1 && IsSeparator(path.back())) path.remove_suffix(1);

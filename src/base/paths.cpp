@@ -2,7 +2,6 @@
 #include "base/paths.h"
 
 #include <algorithm>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -49,41 +48,6 @@ std::string_view LastPart(std::string_view path) {
     const std::string_view whole = WithoutTrailingSeparators(path);
     const std::size_t at = whole.find_last_of(Separators);
     return at == std::string_view::npos ? whole : whole.substr(at + 1);
-}
-
-bool Stands(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(fs::symlink_status(path, ignored));
-}
-
-/// The name in the folder that equals `wanted` without regard to case; the first by byte order of several.
-/// Empty if there is none.
-fs::path NameInFolder(const fs::path& folder, const fs::path& wanted) {
-    const std::string lower = LowerText(Utf8(wanted));
-    std::string best;
-    std::error_code error;
-    for (fs::directory_iterator at(folder.empty() ? fs::path(".") : folder, error), end; !error && at != end;
-         at.increment(error)) {
-        std::string name = Utf8(at->path().filename());
-        if (LowerText(name) == lower && (best.empty() || name < best)) best = std::move(name);
-    }
-    return best.empty() ? fs::path() : Native(best);
-}
-
-fs::path FindPartByPart(const fs::path& path) {
-    fs::path found = path.root_path();
-    bool lost = false;
-    for (const fs::path& part : path.relative_path()) {
-        if (part.empty()) continue;
-        fs::path next = found / part;
-        if (!lost && !Stands(next)) {
-            const fs::path other = NameInFolder(found, part);
-            lost = other.empty();
-            if (!lost) next = found / other;
-        }
-        found = std::move(next);
-    }
-    return found;
 }
 
 }  // namespace
@@ -140,14 +104,13 @@ bool IsPlainName(std::string_view name) {
     return !TrimBlanks(name).empty() && name != "." && name != ".." && CleanFileName(name) == name;
 }
 
-fs::path OnDisk(std::string_view path) {
+fs::path NativePath(std::string_view path) {
     std::string text(path);
     if (text.find('\0') != std::string::npos) text = ReplaceAll(text, std::string_view("\0", 1), "\uFFFD");
     if (!HasDrives) std::replace(text.begin(), text.end(), '\\', '/');
     while (text.size() > 1 && text.back() == '/' && !(HasDrives && text.size() == 3)) text.pop_back();
     if (!HasDrives && NamesDrive(text)) return Native(std::string(Nowhere) + text);
-    const fs::path exact = Native(text).make_preferred();
-    return exact.empty() || Stands(exact) ? exact : FindPartByPart(exact);
+    return Native(text).make_preferred();
 }
 
 std::string ToText(const fs::path& path) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The parts of a path, and where a path of a skin is on this disk. "\" and "/" both separate.
+// The parts of a path. "\" and "/" both separate. Nothing here looks at the disk.
 #pragma once
 
 #include <filesystem>
@@ -21,10 +21,9 @@ std::string WithSeparator(std::string_view folder);
 /// CleanFileName, so without a separator.
 bool IsPlainName(std::string_view name);
 
-/// The file's path on this disk, with native separators. A part that does not exist under its exact name is
-/// looked for without regard to case; of several the first by byte order is taken. Where the system has no
-/// drives, a path with a drive letter gives a place that cannot exist.
-std::filesystem::path OnDisk(std::string_view path);
+/// The path with native separators and without one at its end. Where the system has no drives, a path with a
+/// drive letter gives a place that cannot exist. base/lookup.h finds the file that is meant.
+std::filesystem::path NativePath(std::string_view path);
 /// The path as UTF-8 text with native separators.
 std::string ToText(const std::filesystem::path& path);
 

@@ -7,6 +7,7 @@
 
 #include "base/failure.h"
 #include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "canvas/anchors.h"
 #include "canvas/element_families.h"

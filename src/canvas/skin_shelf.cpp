@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "document/dbskin.h"
 

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "base/paths.h"
+#include "base/lookup.h"
 #include "editor/open_skin.h"
 #include "editor/windows.h"
 #include "platform/shown.h"

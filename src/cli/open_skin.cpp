@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "platform/startup.h"

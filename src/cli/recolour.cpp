@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "cli/commands.h"
 #include "pixels/ccolourise.h"

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "cli/open_skin.h"
 #include "document/recovered.h"

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "base/text.h"
 

@@ -8,6 +8,7 @@
 #include "base/failure.h"
 #include "base/file_layer.h"
 #include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 
 namespace ornavo {

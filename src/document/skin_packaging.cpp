@@ -9,6 +9,7 @@
 #include "base/file_layer.h"
 #include "base/files.h"
 #include "base/find_row.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "document/current_skin.h"

@@ -3,6 +3,7 @@
 
 #include "base/failure.h"
 #include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "document/dbskin.h"

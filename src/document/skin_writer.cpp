@@ -6,7 +6,7 @@
 
 #include "base/failure.h"
 #include "base/files.h"
-#include "base/paths.h"
+#include "base/lookup.h"
 #include "base/text.h"
 #include "document/codes.h"
 #include "document/dbskin.h"

@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <string>
 
-#include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "document/dbskin.h"

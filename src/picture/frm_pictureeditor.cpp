@@ -9,7 +9,7 @@
 #include <QScreen>
 
 #include "base/failure.h"
-#include "base/files.h"
+#include "base/lookup.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"

@@ -3,7 +3,7 @@
 
 #include <QImageReader>
 
-#include "base/paths.h"
+#include "base/lookup.h"
 #include "platform/shown.h"
 
 namespace ornavo {

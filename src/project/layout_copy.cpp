@@ -2,7 +2,7 @@
 #include "project/layout_copy.h"
 
 #include "base/failure.h"
-#include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "document/skin_packaging.h"

@@ -6,6 +6,7 @@
 
 #include "base/failure.h"
 #include "base/files.h"
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "dialogs/ccommondialog.h"

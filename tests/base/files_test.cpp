@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "support/failure_number.h"
 #include "support/step_layer.h"
