@@ -131,9 +131,10 @@ FileState StateOf(const fs::path& path) {
     return Asked([&](Lookup& lookup) { return lookup.State(path); });
 }
 
-bool FileExists(std::string_view path) {
+fs::path FindFile(std::string_view path) {
     return Asked([exact = NativePath(path)](Lookup& lookup) {
-        return lookup.Type(lookup.Find(exact)) == fs::file_type::regular;
+        fs::path found = lookup.Find(exact);
+        return lookup.Type(found) == fs::file_type::regular ? found : fs::path();
     });
 }
 

@@ -14,7 +14,11 @@ namespace ornavo {
 /// drives, a path with a drive letter gives a place that cannot exist.
 std::filesystem::path OnDisk(std::string_view path);
 FileState StateOf(const std::filesystem::path& path);  // never fails
-bool FileExists(std::string_view path);                // a regular file, looked up by OnDisk; never fails
+/// The regular file that is meant by the path; empty if there is none. Never fails.
+std::filesystem::path FindFile(std::string_view path);
+inline bool FileExists(std::string_view path) {
+    return !FindFile(path).empty();
+}
 bool FolderExists(std::string_view path);
 
 /// While one lives, a folder is listed at most once and no file is asked for twice, found or not. What the

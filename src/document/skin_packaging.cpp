@@ -234,6 +234,7 @@ std::string StorableSkinName(const dbSkin& skin) {
 }
 
 SavePlan PlanSave(const dbSkin& skin, bool keepExisting) {
+    const LookupScope names;
     SavePlan plan;
     Planner planner(skin, keepExisting);
     std::vector<std::string> holders;

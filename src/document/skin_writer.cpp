@@ -164,6 +164,7 @@ std::string dbSkin::FileBytes() const {
 std::vector<std::string> dbSkin::SaveSkin(bool keepExisting) {
     if (SkinName.empty() || SkinName == "." || SkinName == ".." || ContainsSeparator(SkinName))
         throw Failure(Failure::PathError, "SaveSkin", "A skin's folder can't be called \"" + SkinName + "\"");
+    const LookupScope names;
     Probation probation;
     probation.Set(SkinName, StorableSkinName(*this));
     const std::string folder = SkinFolder();

@@ -10,6 +10,7 @@
 #include <list>
 #include <map>
 
+#include "base/lookup.h"
 #include "base/paths.h"
 #include "platform/shown.h"
 
@@ -27,15 +28,15 @@ std::int64_t bytesInUse = 0;
 struct Stamp {
     std::string path;
     std::uintmax_t size = 0;
-    fs::file_time_type time;
+    std::int64_t written = 0;
     auto operator<=>(const Stamp&) const = default;
 };
 
 /// The cache of decoded pictures.
 struct Shelf {
     std::map<Stamp, std::weak_ptr<const Picture>> known;
-    std::map<fs::path, fs::file_time_type>
-        seen;                    // files and folders with their times when they were first asked for
+    // Files and folders with the times they had when they were first asked for.
+    std::map<fs::path::string_type, std::int64_t> seen;
     std::list<PictureRef> kept;  // the most recently used first
     std::int64_t keptBytes = 0;
 };
@@ -47,27 +48,17 @@ Shelf& shelf() {
 
 /// False if there is no regular file: reading a pipe might never end, and a folder has no bytes.
 bool StampOf(const fs::path& path, Stamp& stamp) {
-    std::error_code error;
-    if (!fs::is_regular_file(path, error) || error) return false;
-    stamp.path = ToText(path);
-    stamp.size = fs::file_size(path, error);
-    if (error) return false;
-    stamp.time = fs::last_write_time(path, error);
-    return !error;
-}
-
-fs::file_time_type TimeOf(const fs::path& path) {
-    std::error_code error;
-    const fs::file_time_type time = fs::last_write_time(path, error);
-    return error ? fs::file_time_type::min() : time;
+    const FileState state = StateOf(path);
+    stamp = {ToText(path), state.size, state.written};
+    return state.type == fs::file_type::regular;
 }
 
 void Remember(const fs::path& path) {
-    const auto [at, isNew] = shelf().seen.try_emplace(path);
+    const auto [at, isNew] = shelf().seen.try_emplace(path.native());
     if (!isNew) return;
-    at->second = TimeOf(path);
+    at->second = StateOf(path).written;
     const fs::path folder = path.parent_path();
-    shelf().seen.try_emplace(folder, TimeOf(folder));
+    shelf().seen.try_emplace(folder.native(), StateOf(folder).written);
 }
 
 QString FileName(const fs::path& path) {
@@ -176,8 +167,9 @@ void PictureMemory::Give() {
 
 bool PicturesChanged() {
     auto& seen = shelf().seen;
-    const bool changed = std::any_of(seen.begin(), seen.end(),
-                                     [](const auto& one) { return TimeOf(one.first) != one.second; });
+    const bool changed = std::any_of(seen.begin(), seen.end(), [](const auto& one) {
+        return fileLayer().State(one.first).written != one.second;
+    });
     if (changed) seen.clear();
     return changed;
 }

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "base/lookup.h"
 #include "document/codes.h"
 #include "platform/screen.h"
 #include "render/compose_report.h"
@@ -92,6 +93,7 @@ void RenderElements(View view) {
     {
         const Raised busy(ComposeBusy);
         const WaitPointer wait;
+        const LookupScope names;
         MeasureTarget();
         TargetForm->host().ClearElements();
         if (TargetLayout && (view == View::Preview || viewSwitches.ShowElements))
