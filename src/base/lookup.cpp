@@ -109,7 +109,7 @@ void Lookup::Change(const fs::path& path, bool isMade) {
     if (!folder) return;
     const std::string name = ToText(path.filename());
     folder->Remove(name);
-    if (isMade) folder->Add(name, State(path).type);
+    if (isMade) folder->Add(name, (states_[path.native()] = fileLayer().State(path)).type);
 }
 
 std::unique_ptr<Lookup> scopeLookup;  // null between operations
