@@ -55,10 +55,16 @@ private:
     QPixmap picture_;
 };
 
-/// A skin with `count` buttons, every second with a caption, all with the same picture.
+/// The names of the skin's pictures: one for all; as the files are called; in another case; of files that are
+/// not there.
+enum Names { OnePicture, Exact, Upper, Gone };
+constexpr int PictureCount = 300;
+
+/// A skin with `count` buttons, every second with a caption, all with the same picture or with three pictures
+/// each.
 class Skin {
 public:
-    explicit Skin(int count, bool withPanel = false) {
+    explicit Skin(int count, bool withPanel = false, Names names = OnePicture) {
         objSkin->SetBasePath(folder_.path().toStdString());
         objSkin->SkinName = "Bench";
         objSkin->SkinWidth = Width;
@@ -67,6 +73,8 @@ public:
         QImage picture(32, 32, QImage::Format_RGB32);
         picture.fill(Qt::darkCyan);
         picture.save(folder_.filePath("Bench/tile.bmp"));
+        for (int i = 0; i < PictureCount && (names == Exact || names == Upper); ++i)
+            picture.save(folder_.filePath(QStringLiteral("Bench/tile%1.bmp").arg(i)));
         objCurrentLayout = std::make_shared<dbLayout>();
         objCurrentLayout->Key = "Bench";
         for (int i = 1; i <= count; ++i) {
@@ -77,6 +85,12 @@ public:
             e.LockLeft = e.LockTop = true;
             e.PicNormal = "tile.bmp";
             if (i % 2 == 0) e.Caption = "Play";
+            if (names == OnePicture) continue;
+            std::string* const pictures[] = {&e.PicNormal, &e.PicOver, &e.PicDown};
+            for (int field = 0; field < 3; ++field)
+                *pictures[field] = std::string(names == Upper ? "TILE" : "tile")
+                                       .append(std::to_string((3 * i + field) % PictureCount))
+                                       .append(".bmp");
         }
         if (withPanel) AddPanel(count + 1);
     }
@@ -95,8 +109,8 @@ private:
     QTemporaryDir folder_;
 };
 
-void ComposeAgain(benchmark::State& state) {
-    const Skin skin(static_cast<int>(state.range(0)));
+void ComposeAgain(benchmark::State& state, Names names) {
+    const Skin skin(static_cast<int>(state.range(0)), false, names);
     Window window;
     for (auto _ : state) {
         ComposeLayout(window, objCurrentLayout, Width, Height);
@@ -159,7 +173,10 @@ void PlainWidgets(benchmark::State& state) {
     }
 }
 
-BENCHMARK(ComposeAgain)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ComposeAgain, one_picture, OnePicture)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ComposeAgain, exact, Exact)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ComposeAgain, upper, Upper)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ComposeAgain, gone, Gone)->Arg(60)->Arg(500)->Unit(benchmark::kMillisecond);
 BENCHMARK(ComposeWithPanel)->Arg(60)->Unit(benchmark::kMillisecond);
 BENCHMARK(RedrawOne)->Arg(60)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(SampleAgain, letters, SetupSearchLetters, "SL_ShadowDistance")

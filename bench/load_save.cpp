@@ -12,7 +12,7 @@
 
 #include "base/file_layer.h"
 #include "base/files.h"
-#include "document/dbskin.h"
+#include "document/current_skin.h"
 
 namespace ornavo {
 namespace {
@@ -167,6 +167,75 @@ void SavePugixmlFile(benchmark::State& state) {
     CountBytes(state);
 }
 
+/// What a real skin has: 500 elements with three pictures each of the 300 in its folder.
+class PictureSkin {
+public:
+    /// Upper: the names are in another case than the files. Gone: there are no such files.
+    enum class Names { Exact, Upper, Gone };
+    explicit PictureSkin(Names names) {
+        skin.SetBasePath(sample().folder.string());
+        skin.SkinName = std::string("Pictures").append(std::to_string(static_cast<int>(names)));
+        fs::create_directory(skin.SkinFolder());
+        const std::string bytes(2000, 'p');
+        for (int i = 0; i < PictureCount; ++i)
+            if (names != Names::Gone) ReplaceFile(skin.SkinFolder() + Numbered("picture", i) + ".png", bytes);
+        const dbLayoutRef layout = skin.AddNewLayout("One");
+        for (int i = 4; i <= NamedElementCount; ++i) {
+            dbLayoutElement& element = *layout->dbLayoutElements->Add(i, Numbered("E", i), i % 5, i % 56);
+            FillElement(element, i);
+            std::string dbLayoutElement::*fields[] = {&dbLayoutElement::PicNormal, &dbLayoutElement::PicOver,
+                                                      &dbLayoutElement::PicDown};
+            for (int field = 0; field < 3; ++field)
+                element.*fields[field] =
+                    Numbered(names == Names::Upper ? "PICTURE" : "picture", (3 * i + field) % PictureCount) +
+                    ".png";
+        }
+        text = skin.FileBytes();
+    }
+    /// As it was before the first save.
+    void LoadAnew() {
+        ReplaceFile(skin.SkinFile(), text);
+        dbSkin anew;
+        anew.SetBasePath(skin.BasePath());
+        anew.SkinName = skin.SkinName;
+        anew.LoadSkin();
+        skin = anew;
+        *objSkin = skin;
+    }
+    dbSkin skin;
+    std::string text;
+
+private:
+    static constexpr int PictureCount = 300, NamedElementCount = 500;
+};
+
+void SaveNamed(benchmark::State& state, PictureSkin::Names names) {
+    UnflushedLayer unflushed;
+    UseFileLayer(&unflushed);
+    PictureSkin pictures(names);
+    for (auto _ : state) {
+        state.PauseTiming();
+        pictures.LoadAnew();
+        state.ResumeTiming();
+        pictures.skin.SaveSkin(false);
+    }
+    UseFileLayer(nullptr);
+}
+
+/// The limit: what any save of that skin does.
+void WriteNamed(benchmark::State& state) {
+    UnflushedLayer unflushed;
+    UseFileLayer(&unflushed);
+    PictureSkin pictures(PictureSkin::Names::Exact);
+    for (auto _ : state) {
+        state.PauseTiming();
+        pictures.LoadAnew();
+        state.ResumeTiming();
+        ReplaceFile(pictures.skin.SkinFile(), pictures.skin.FileBytes());
+    }
+    UseFileLayer(nullptr);
+}
+
 void Medians(benchmark::internal::Benchmark* bench) {
     bench->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggregatesOnly()->UseRealTime();
 }
@@ -181,6 +250,10 @@ BENCHMARK_CAPTURE(SavePugixml, unflushed, false)->Apply(Medians);
 BENCHMARK(SavePugixmlFile)->Apply(Medians);
 BENCHMARK_CAPTURE(SaveSkin, flushed, true)->Apply(Medians);
 BENCHMARK_CAPTURE(SavePugixml, flushed, true)->Apply(Medians);
+BENCHMARK(WriteNamed)->Apply(Medians);
+BENCHMARK_CAPTURE(SaveNamed, exact, PictureSkin::Names::Exact)->Apply(Medians);
+BENCHMARK_CAPTURE(SaveNamed, upper, PictureSkin::Names::Upper)->Apply(Medians);
+BENCHMARK_CAPTURE(SaveNamed, gone, PictureSkin::Names::Gone)->Apply(Medians);
 
 }  // namespace
 }  // namespace ornavo

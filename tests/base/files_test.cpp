@@ -120,6 +120,24 @@ TEST_F(Files, FoldersAreMadeWhereTheyAreMissing) {
     EXPECT_EQ(parts, (std::vector<std::string>{"c:", "Skins", "", "Blue", "*eod*"}));
 }
 
+TEST_F(Files, AreAskedForOnceInAnOperation) {
+    folder.Write("Back.png", "A");
+    folder.Write("over.png", "B");
+    const StepLayer disk;
+    const LookupScope scope;
+    const auto found = [&](const char* name) { return FindFile(root + "/" + name).filename().string(); };
+    const auto questions = [&] { return std::pair(disk.asked, disk.listed); };
+    for (int times = 0; times < 2; ++times)
+        EXPECT_EQ(found("Back.png") + found("over.png"), "Back.pngover.png");
+    EXPECT_EQ(questions(), std::pair(2, 0));
+    for (int times = 0; times < 2; ++times) EXPECT_EQ(found("BACK.png") + found("gone"), "Back.png");
+    EXPECT_EQ(questions(), std::pair(3, 1));
+    CopyFileWhole(folder / "over.png", folder / "New.png");
+    fileLayer().Remove(folder / "Back.png");
+    EXPECT_EQ(found("new.png") + found("back.png"), "New.png");
+    EXPECT_EQ(disk.listed, 1);
+}
+
 TEST(Paths, AreTakenApart) {
     const std::pair<const char*, const char*> cases[] = {
         // folder|name|name without extension|extension

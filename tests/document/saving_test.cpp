@@ -80,6 +80,33 @@ TEST_F(Packaging, NamesOfAnotherDiskAndAnotherCase) {
     EXPECT_FALSE(fs::exists(folder / "Blue/a.png"));
 }
 
+TEST_F(Packaging, TheDiskIsAskedOnceForEachPicture) {
+    constexpr int pictures = 10, besides = 6;  // folders, the settings file
+    const auto name = [](std::string_view format, int i) { return std::string(format) + std::to_string(i); };
+    for (int i = 0; i < pictures; ++i) Put("Blue/" + name("Pic", i), "A");
+    for (const auto& [format, listings] : {std::pair{"Pic", 0}, {"pic", 1}, {"gone", 1}}) {
+        objSkin = NewSkin("Blue");
+        dbLayoutElements& elements = *objSkin->AddNewLayout("One")->dbLayoutElements;
+        for (int i = 0; i < 3 * pictures; ++i)
+            elements.Add(9 + i, std::to_string(i), TypeButton, 0)->PicNormal = name(format, i % pictures);
+        const StepLayer disk;
+        objSkin->SaveSkin(false);
+        EXPECT_LE(disk.asked, pictures + besides) << format;
+        EXPECT_EQ(disk.listed, listings) << format;
+    }
+}
+
+TEST_F(Packaging, APictureThatIsCopiedIsThereForTheNext) {
+    Put("Pics/Over.png", "B");
+    objSkin->AddNewLayout("One");
+    Lowest().PicNormal = "over.png";  // not there yet
+    Lowest().PicOn = pics + "Over.png";
+    Lowest().PicOver = "OVER.png";
+    objSkin->SaveSkin(false);
+    EXPECT_EQ(Lowest().PicNormal + Lowest().PicOn + Lowest().PicOver, "Over.pngOVER.png");
+    EXPECT_EQ(FindSkinPicture("OVER.png"), folder / "Blue/Over.png");
+}
+
 TEST_F(Packaging, WhatIsNoPlainFileStaysOutside) {
     fs::create_directories(pics + "folder.png");
     EXPECT_EQ(Saved(pics + "folder.png"), "");

@@ -4,6 +4,7 @@
 #include "document/codes.h"
 #include "support/scripted_prompts.h"
 #include "support/skin_fixture.h"
+#include "support/step_layer.h"
 
 namespace ornavo::testing {
 namespace {
@@ -51,6 +52,20 @@ TEST_F(ComposeTest, EveryTypeHasItsControlAndItsPlace) {
     EXPECT_EQ(host_.Element[1].cursor().shape(), Qt::ArrowCursor);
     ComposePreview(target_, objCurrentLayout, 100, 100);
     EXPECT_EQ(host_.Element[1].cursor().shape(), Qt::SizeAllCursor);
+}
+
+TEST_F(ComposeTest, TheDiskIsAskedOnceForEachPicture) {
+    Picture("red.bmp", Qt::red);
+    Picture("blue.bmp", Qt::blue);
+    for (int i = 0; i < 9; ++i) {
+        dbLayoutElement& e = Add(std::to_string(i), TypeButton, {0, 0, 10, 10});
+        e.PicNormal = i % 2 == 0 ? "RED.bmp" : "blue.bmp";
+        e.PicOver = e.PicDown = "gone.bmp";
+    }
+    const StepLayer disk;
+    Compose(target_);
+    EXPECT_LE(disk.asked, 4);  // also for the folder's time
+    EXPECT_EQ(disk.listed, 1);
 }
 
 TEST_F(ComposeTest, TheLastElementIsInFront) {

@@ -20,6 +20,7 @@ public:
     }
     ~StepLayer() override { UseFileLayer(nullptr); }
     int steps = 0;
+    int asked = 0, listed = 0;  // questions, which are no steps
 
     int Create(const std::filesystem::path& path) override { return Step(), FileLayer::Create(path); }
     void Write(int file, std::string_view bytes) override {
@@ -37,6 +38,10 @@ public:
     void MakeFolder(const std::filesystem::path& path) override { Step(), FileLayer::MakeFolder(path); }
     void FlushFolder(const std::filesystem::path&) override { Step(); }
     int Open(const std::filesystem::path& path) override { return Step(), FileLayer::Open(path); }
+    FileState State(const std::filesystem::path& path) override { return ++asked, FileLayer::State(path); }
+    std::vector<FolderEntry> List(const std::filesystem::path& folder) override {
+        return ++listed, FileLayer::List(folder);
+    }
     std::size_t ReadSome(int file, char* bytes, std::size_t size) override {
         return Step(), FileLayer::ReadSome(file, bytes, size);
     }
