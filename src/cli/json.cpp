@@ -3,6 +3,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <algorithm>
 #include <cmath>
 
 #include "document/fields.h"
@@ -17,12 +18,26 @@ std::string Scalar(const QJsonValue& value) {
     return array.mid(1, array.size() - 2).toStdString();
 }
 
+/// Most numbers are whole; a document for each of them takes longer than all the rest of a dump.
+std::string Scalar(double value) {
+    constexpr double most = 1e9;
+    const bool isWhole = value > -most && value < most && value == std::trunc(value);
+    return isWhole ? std::to_string(static_cast<int>(value)) : Scalar(QJsonValue(value));
+}
+
+/// Most texts have nothing to escape.
+std::string Scalar(const std::string& text) {
+    const auto escaped = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\'; };
+    if (std::ranges::any_of(text, escaped)) return Scalar(QJsonValue(Shown(text)));
+    return '"' + text + '"';
+}
+
 std::string Scalar(const Value& value) {
     if (value.IsEmpty()) return "null";
     if (value.Is<bool>()) return value.As<bool>() ? "true" : "false";
     if (value.Is<std::int32_t>()) return std::to_string(value.As<std::int32_t>());
-    if (value.Is<double>()) return Scalar(QJsonValue(value.As<double>()));
-    return Scalar(QJsonValue(Shown(value.ToText())));
+    if (value.Is<double>()) return Scalar(value.As<double>());
+    return Scalar(value.ToText());
 }
 
 }  // namespace
