@@ -84,6 +84,7 @@ TEST_F(Packaging, TheDiskIsAskedOnceForEachPicture) {
     constexpr int pictures = 10, besides = 6;  // folders, the settings file
     const auto name = [](std::string_view format, int i) { return std::string(format) + std::to_string(i); };
     for (int i = 0; i < pictures; ++i) Put("Blue/" + name("Pic", i), "A");
+    Put("Blue/SkinSettings.xml", "");
     for (const auto& [format, listings] : {std::pair{"Pic", 0}, {"pic", 1}, {"gone", 1}}) {
         objSkin = NewSkin("Blue");
         dbLayoutElements& elements = *objSkin->AddNewLayout("One")->dbLayoutElements;

@@ -58,7 +58,7 @@ TEST_F(ComposeTest, TheDiskIsAskedOnceForEachPicture) {
     Picture("red.bmp", Qt::red);
     Picture("blue.bmp", Qt::blue);
     for (int i = 0; i < 9; ++i) {
-        dbLayoutElement& e = Add(std::to_string(i), TypeButton, {0, 0, 10, 10});
+        dbLayoutElement& e = Add(std::to_string(i).c_str(), TypeButton, {0, 0, 10, 10});
         e.PicNormal = i % 2 == 0 ? "RED.bmp" : "blue.bmp";
         e.PicOver = e.PicDown = "gone.bmp";
     }
