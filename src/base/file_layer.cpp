@@ -11,6 +11,7 @@
 #ifdef _WIN32
 #include <io.h>
 #else
+#include <dirent.h>
 #include <unistd.h>
 #endif
 
@@ -50,6 +51,16 @@ FileState State(const fs::path& path) {
     if (state.type == fs::file_type::regular) state.size = fs::file_size(path, error);
     state.written = fs::last_write_time(path, error).time_since_epoch().count() * 100;
     return state;
+}
+std::vector<FolderEntry> List(const fs::path& folder) {
+    std::vector<FolderEntry> entries;
+    std::error_code error, ignored;
+    for (fs::directory_iterator at(folder.empty() ? fs::path(".") : folder, error), end; !error && at != end;
+         at.increment(error)) {
+        const std::u8string name = at->path().filename().u8string();
+        entries.push_back({std::string(name.begin(), name.end()), at->status(ignored).type()});
+    }
+    return entries;
 }
 #else
 int Create(const fs::path& path) {
@@ -91,6 +102,22 @@ FileState State(const fs::path& path) {
                 std::int64_t{found.st_mtim.tv_sec} * 1'000'000'000 + found.st_mtim.tv_nsec};
     const bool isAbsent = errno == ENOENT || errno == ENOTDIR;
     return {isAbsent ? fs::file_type::not_found : fs::file_type::none};
+}
+fs::file_type TypeOf(const dirent& entry) {
+    if (entry.d_type == DT_REG) return fs::file_type::regular;
+    return entry.d_type == DT_DIR ? fs::file_type::directory : fs::file_type::unknown;
+}
+// The library's iterator makes a path of each name.
+std::vector<FolderEntry> List(const fs::path& folder) {
+    std::vector<FolderEntry> entries;
+    DIR* const names = ::opendir(folder.empty() ? "." : folder.c_str());
+    if (!names) return entries;
+    while (const dirent* entry = ::readdir(names)) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") entries.push_back({std::string(name), TypeOf(*entry)});
+    }
+    ::closedir(names);
+    return entries;
 }
 #endif
 }  // namespace disk
@@ -137,8 +164,12 @@ Failure NotAFile() {
     return Failure(Failure::PathError, "Files", "It is not a plain file");
 }
 
+bool Exists(fs::file_type type) {
+    return type != fs::file_type::not_found && type != fs::file_type::none;
+}
+
 bool IsOther(fs::file_type type) {
-    return type != fs::file_type::regular && type != fs::file_type::not_found && type != fs::file_type::none;
+    return Exists(type) && type != fs::file_type::regular;
 }
 
 int FileLayer::Create(const fs::path& path) {
@@ -223,14 +254,7 @@ FileState FileLayer::State(const fs::path& path) {
 }
 
 std::vector<FolderEntry> FileLayer::List(const fs::path& folder) {
-    std::vector<FolderEntry> entries;
-    std::error_code error, ignored;
-    for (fs::directory_iterator at(folder.empty() ? fs::path(".") : folder, error), end; !error && at != end;
-         at.increment(error)) {
-        const std::u8string name = at->path().filename().u8string();
-        entries.push_back({std::string(name.begin(), name.end()), at->symlink_status(ignored).type()});
-    }
-    return entries;
+    return disk::List(folder);
 }
 
 FileLayer& fileLayer() {

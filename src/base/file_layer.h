@@ -23,10 +23,11 @@ struct FileState {
     std::int64_t written = 0;                   // the time of the last change, nanoseconds
 };
 
-/// An entry of a folder. The type is that of the entry itself, so it may be a link.
+/// An entry of a folder.
 struct FolderEntry {
     std::string name;  // UTF-8
-    std::filesystem::file_type type;
+    std::filesystem::file_type
+        type;  // regular or directory where the listing tells it, as it doesn't of links
 };
 
 /// The elementary disk operations; the base class works on the real disk. A failing one throws a Failure (53
@@ -76,6 +77,7 @@ private:
     int file_;
 };
 
+bool Exists(std::filesystem::file_type type);
 /// Whether something exists there that isn't a regular file.
 bool IsOther(std::filesystem::file_type type);
 Failure NotAFile();

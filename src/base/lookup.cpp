@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/lookup.h"
 
+#include <map>
 #include <memory>
-#include <set>
 #include <string>
 #include <unordered_map>
 
@@ -15,132 +15,138 @@ namespace fs = std::filesystem;
 
 namespace {
 
-using NativeText = fs::path::string_type;
+struct HashOfName {
+    std::size_t operator()(std::string_view name) const { return HashText(name); }
+};
+struct SameName {
+    bool operator()(std::string_view one, std::string_view two) const { return EqualText(one, two); }
+};
 
 /// The names of one folder.
 class Listing {
 public:
-    explicit Listing(const fs::path& folder) {
-        for (const FolderEntry& entry : fileLayer().List(folder)) Add(entry.name, entry.type);
+    explicit Listing(const std::string& folder) {
+        for (FolderEntry& entry : fileLayer().List(NativePath(folder))) Add(entry.name, entry.type);
     }
-    void Add(const std::string& name, fs::file_type type) {
-        types_.insert_or_assign(name, type);
-        names_[LowerText(name)].insert(name);
-    }
+    void Add(const std::string& name, fs::file_type type) { names_[name].insert_or_assign(name, type); }
     void Remove(const std::string& name) {
-        types_.erase(name);
-        names_[LowerText(name)].erase(name);
+        if (const auto same = names_.find(name); same != names_.end()) same->second.erase(name);
     }
-    /// The name as the folder has it, in the given case if there is one; otherwise the first by byte order;
-    /// "" if there is none.
-    std::string Name(const std::string& wanted) const {
-        if (types_.contains(wanted)) return wanted;
-        const auto same = names_.find(LowerText(wanted));
-        return same == names_.end() || same->second.empty() ? "" : *same->second.begin();
-    }
-    /// not_found for a name that the folder does not have in this case.
-    fs::file_type Type(const std::string& name) const {
-        const auto found = types_.find(name);
-        return found == types_.end() ? fs::file_type::not_found : found->second;
+    /// The name and type of the entry that is meant: in the given case if there is one, otherwise the first
+    /// by byte order. Null if there is none.
+    const std::pair<const std::string, fs::file_type>* Find(const std::string& name) const {
+        const auto same = names_.find(name);
+        if (same == names_.end() || same->second.empty()) return nullptr;
+        const auto exact = same->second.find(name);
+        return exact == same->second.end() ? &*same->second.begin() : &*exact;
     }
 
 private:
-    std::unordered_map<std::string, fs::file_type> types_;
-    std::unordered_map<std::string, std::set<std::string>> names_;  // by name in lower case
+    /// Names that differ in case only are together.
+    std::unordered_map<std::string, std::map<std::string, fs::file_type>, HashOfName, SameName> names_;
 };
 
-/// What is known of the disk.
+/// What is known of the disk. All paths are texts with native separators: to take an fs::path apart costs
+/// more than to look its name up.
 class Lookup : public FileListener {
 public:
-    fs::path Find(const fs::path& path);
-    FileState State(const fs::path& path);
-    fs::file_type Type(const fs::path& path);
-    void Made(const fs::path& path) override { Change(path, true); }
-    void Gone(const fs::path& path) override { Change(path, false); }
+    std::string Find(const std::string& path);
+    FileState State(const std::string& path);
+    fs::file_type Type(const std::string& path);
+    void Made(const fs::path& path) override { Change(ToText(path), true); }
+    void Gone(const fs::path& path) override { Change(ToText(path), false); }
 
 private:
-    Listing* Known(const fs::path& folder) {
-        const auto known = listings_.find(folder.native());
+    Listing* ListingOf(const std::string& folder) {
+        const auto known = listings_.find(folder);
         return known == listings_.end() ? nullptr : &known->second;
     }
-    bool Stands(const fs::path& path) {
-        const fs::file_type type = State(path).type;
-        return type != fs::file_type::not_found && type != fs::file_type::none;
-    }
-    void Change(const fs::path& path, bool isMade);
+    void Change(const std::string& path, bool isMade);
 
-    std::unordered_map<NativeText, FileState> states_;
-    std::unordered_map<NativeText, Listing> listings_;
+    std::unordered_map<std::string, FileState> states_;
+    std::unordered_map<std::string, Listing> listings_;
 };
 
-fs::path Lookup::Find(const fs::path& path) {
-    if (!path.has_relative_path()) return path;
-    fs::path folder = path.parent_path();
-    if (!Known(folder)) {
-        if (Stands(path)) return path;
-        folder = Find(folder);
+std::string Lookup::Find(const std::string& path) {
+    auto [folder, name] = SplitPath(path);
+    if (name.empty()) return path;
+    const Listing* listing = ListingOf(folder);
+    if (!listing) {
+        if (Exists(State(path).type)) return path;
+        if (!folder.empty()) folder = Find(folder);
+        listing = &listings_.try_emplace(folder, folder).first->second;
     }
-    const Listing& listing = listings_.try_emplace(folder.native(), folder).first->second;
-    const std::string name = listing.Name(ToText(path.filename()));
-    return folder / (name.empty() ? path.filename() : NativePath(name));
+    const auto* entry = listing->Find(name);
+    return JoinPath(folder, entry ? entry->first : name);
 }
 
-FileState Lookup::State(const fs::path& path) {
-    const auto [state, isNew] = states_.try_emplace(path.native());
+FileState Lookup::State(const std::string& path) {
+    const auto [state, isNew] = states_.try_emplace(path);
     if (!isNew) return state->second;
-    const Listing* folder = Known(path.parent_path());
-    if (!folder || folder->Type(ToText(path.filename())) != fs::file_type::not_found)
-        state->second = fileLayer().State(path);
+    const auto [folder, name] = SplitPath(path);
+    const Listing* listing = ListingOf(folder);
+    const auto* entry = listing ? listing->Find(name) : nullptr;
+    if (!listing || (entry && entry->first == name)) state->second = fileLayer().State(NativePath(path));
     return state->second;
 }
 
-/// A listing tells it without another question, except for links.
-fs::file_type Lookup::Type(const fs::path& path) {
-    if (const Listing* folder = Known(path.parent_path())) {
-        const fs::file_type type = folder->Type(ToText(path.filename()));
-        if (type == fs::file_type::regular || type == fs::file_type::directory) return type;
+/// Asks the disk only where the listing does not tell.
+fs::file_type Lookup::Type(const std::string& path) {
+    const auto [folder, name] = SplitPath(path);
+    if (const Listing* listing = ListingOf(folder)) {
+        const auto* entry = listing->Find(name);
+        if (!entry || entry->first != name) return fs::file_type::not_found;
+        if (entry->second != fs::file_type::unknown) return entry->second;
     }
     return State(path).type;
 }
 
-void Lookup::Change(const fs::path& path, bool isMade) {
-    states_.erase(path.native());
-    Listing* folder = Known(path.parent_path());
-    if (!folder) return;
-    const std::string name = ToText(path.filename());
-    folder->Remove(name);
-    if (isMade) folder->Add(name, (states_[path.native()] = fileLayer().State(path)).type);
+void Lookup::Change(const std::string& path, bool isMade) {
+    states_.erase(path);
+    const auto [folder, name] = SplitPath(path);
+    Listing* listing = ListingOf(folder);
+    if (!listing) return;
+    listing->Remove(name);
+    if (isMade) listing->Add(name, (states_[path] = fileLayer().State(NativePath(path))).type);
 }
 
 std::unique_ptr<Lookup> scopeLookup;  // null between operations
 
 template <class Question>
-auto Asked(Question question) {
-    if (scopeLookup) return question(*scopeLookup);
+auto Ask(std::string_view path, Question question) {
+    const std::string text = NativeText(path);
+    if (scopeLookup) return question(*scopeLookup, text);
     Lookup once;
-    return question(once);
+    return question(once, text);
 }
 
 }  // namespace
 
 fs::path OnDisk(std::string_view path) {
-    return Asked([exact = NativePath(path)](Lookup& lookup) { return lookup.Find(exact); });
+    return NativePath(Ask(path, [](Lookup& lookup, const std::string& text) { return lookup.Find(text); }));
 }
 
 FileState StateOf(const fs::path& path) {
-    return Asked([&](Lookup& lookup) { return lookup.State(path); });
+    return Ask(ToText(path), [](Lookup& lookup, const std::string& text) { return lookup.State(text); });
 }
 
 fs::path FindFile(std::string_view path) {
-    return Asked([exact = NativePath(path)](Lookup& lookup) {
-        fs::path found = lookup.Find(exact);
-        return lookup.Type(found) == fs::file_type::regular ? found : fs::path();
+    const std::string file = Ask(path, [](Lookup& lookup, const std::string& text) {
+        std::string found = lookup.Find(text);
+        return lookup.Type(found) == fs::file_type::regular ? found : "";
+    });
+    return file.empty() ? fs::path() : NativePath(file);
+}
+
+bool FileExists(std::string_view path) {
+    return Ask(path, [](Lookup& lookup, const std::string& text) {
+        return lookup.Type(lookup.Find(text)) == fs::file_type::regular;
     });
 }
 
 bool FolderExists(std::string_view path) {
-    return Asked([exact = NativePath(path)](Lookup& lookup) {
-        return lookup.Type(lookup.Find(exact)) == fs::file_type::directory;
+    return Ask(path, [](Lookup& lookup, const std::string& text) {
+        return lookup.Type(lookup.Find(text)) == fs::file_type::directory;
     });
 }
 

@@ -16,9 +16,7 @@ std::filesystem::path OnDisk(std::string_view path);
 FileState StateOf(const std::filesystem::path& path);  // never fails
 /// The regular file that is meant by the path; empty if there is none. Never fails.
 std::filesystem::path FindFile(std::string_view path);
-inline bool FileExists(std::string_view path) {
-    return !FindFile(path).empty();
-}
+bool FileExists(std::string_view path);
 bool FolderExists(std::string_view path);
 
 /// While one lives, a folder is listed at most once and no file is asked for twice, found or not. What the

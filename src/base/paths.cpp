@@ -21,6 +21,8 @@ constexpr bool HasDrives = true;
 constexpr bool HasDrives = false;
 #endif
 
+constexpr char NativeSeparator = HasDrives ? '\\' : '/';
+
 /// A place where no file can exist or be made, because the parent is not a folder.
 constexpr std::string_view Nowhere = "/dev/null/";
 
@@ -104,13 +106,28 @@ bool IsPlainName(std::string_view name) {
     return !TrimBlanks(name).empty() && name != "." && name != ".." && CleanFileName(name) == name;
 }
 
-fs::path NativePath(std::string_view path) {
+std::string NativeText(std::string_view path) {
     std::string text(path);
     if (text.find('\0') != std::string::npos) text = ReplaceAll(text, std::string_view("\0", 1), "\uFFFD");
-    if (!HasDrives) std::replace(text.begin(), text.end(), '\\', '/');
-    while (text.size() > 1 && text.back() == '/' && !(HasDrives && text.size() == 3)) text.pop_back();
-    if (!HasDrives && NamesDrive(text)) return Native(std::string(Nowhere) + text);
-    return Native(text).make_preferred();
+    std::ranges::replace(text, HasDrives ? '/' : '\\', NativeSeparator);
+    while (text.size() > 1 && text.back() == NativeSeparator && !(HasDrives && text.size() == 3))
+        text.pop_back();
+    return !HasDrives && NamesDrive(text) ? std::string(Nowhere) + text : text;
+}
+
+fs::path NativePath(std::string_view path) {
+    return Native(NativeText(path));
+}
+
+std::pair<std::string, std::string> SplitPath(const std::string& native) {
+    const std::size_t separator = native.rfind(NativeSeparator);
+    if (separator == std::string::npos) return {"", native};
+    return {native.substr(0, std::max<std::size_t>(separator, 1)), native.substr(separator + 1)};
+}
+
+std::string JoinPath(std::string folder, std::string_view name) {
+    if (!folder.empty() && folder.back() != NativeSeparator) folder += NativeSeparator;
+    return folder.append(name);
 }
 
 std::string ToText(const fs::path& path) {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ornavo {
 
@@ -23,7 +24,11 @@ bool IsPlainName(std::string_view name);
 
 /// The path with native separators and without one at its end. Where the system has no drives, a path with a
 /// drive letter gives a place that cannot exist. base/lookup.h finds the file that is meant.
+std::string NativeText(std::string_view path);
 std::filesystem::path NativePath(std::string_view path);
+/// The folder and the name in it; "" and the path for a bare name, and no name for the root.
+std::pair<std::string, std::string> SplitPath(const std::string& native);
+std::string JoinPath(std::string folder, std::string_view name);
 /// The path as UTF-8 text with native separators.
 std::string ToText(const std::filesystem::path& path);
 
