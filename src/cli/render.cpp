@@ -19,6 +19,9 @@
 namespace ornavo {
 namespace {
 
+// Qt's "quality", where 0 compresses most: half the time of its own choice, for 1.06 times the bytes.
+constexpr int PngQuality = 50;
+
 /// Prints messages on the error stream and cancels all questions.
 class ConsolePrompts : public Prompts {
 public:
@@ -136,7 +139,7 @@ int Render(const Arguments& arguments) {
     if (preview) InfoShow().Begin(target.host(), *objCurrentLayout);
     QImage picture = target.grab().toImage();
     if (preview) picture = Cut(picture, *objCurrentLayout, soft);
-    if (!picture.save(Shown(out), "PNG"))
+    if (!picture.save(Shown(out), "PNG", PngQuality))
         throw Failure(Failure::PathError, "Render", out + " can't be written.");
     return 0;
 }
