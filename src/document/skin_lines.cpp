@@ -88,6 +88,21 @@ TagLine GetTag(std::string_view line) {
     return parts;
 }
 
+std::optional<TagLine> PlainLine(std::string_view line) {
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    const std::size_t open = line.find_first_not_of('\t');
+    if (open == None || line[open] != '<') return std::nullopt;
+    const std::size_t close = line.find('>', open);
+    if (close == None) return std::nullopt;
+    const std::string_view tag = line.substr(open + 1, close - open - 1);
+    const std::string_view rest = line.substr(close + 1);
+    if (rest.size() < tag.size() + 3 || tag.find('<') != None) return std::nullopt;
+    const std::string_view end = rest.substr(rest.size() - tag.size() - 3);
+    if (!end.starts_with("</") || !end.ends_with('>') || end.substr(2, tag.size()) != tag)
+        return std::nullopt;
+    return TagLine{tag, rest.substr(0, rest.size() - end.size())};
+}
+
 Value ReadValue(std::string_view bytes) {
     if (const auto flag = ReadBoolean(bytes)) return Value(*flag);
     std::string text = FromFileBytes(bytes);

@@ -22,6 +22,9 @@ struct TagLine {
         value;  // between the first ">" and the last "<"; none on a line of structure
 };
 TagLine GetTag(std::string_view line);
+/// The same in one pass for a whole line of the form that a save writes: tabs, tag, value, closing tag. None
+/// for any other line, which TrimTag and GetTag must read.
+std::optional<TagLine> PlainLine(std::string_view line);
 
 /// The value of the bytes between two tags: a boolean, a double or a text. Numbers without "+" and "." are
 /// read with the signs of the user's system.

@@ -211,7 +211,8 @@ void Loader::Pop(bool kept) {
 }
 
 void Loader::ReadLine(std::string_view line) {
-    const TagLine parts = GetTag(TrimTag(line));
+    const std::optional<TagLine> plain = PlainLine(line);
+    const TagLine parts = plain ? *plain : GetTag(TrimTag(line));
     if (parts.tag.empty() || parts.tag[0] == ' ' || parts.tag[0] == '!' || parts.tag[0] == '?') return;
     if (parts.value)
         AssignToCurrent(parts.tag, *parts.value);

@@ -6,6 +6,7 @@
 
 #include "app/program_fixture.h"
 #include "base/files.h"
+#include "base/lookup.h"
 #include "editor/settings_keys.h"
 #include "support/step_layer.h"
 

@@ -101,13 +101,18 @@ TEST(SkinLines, ALineIsTakenApart) {
                 {"</Element>", "/Element", "-"},
                 {"<Unknown><Deep>x</Deep></Unknown>", "Unknown", "<Deep>x</Deep>"},
                 {"<Key>a</Key> <!-- b -->", "Key", "a</Key> "},
+                {"<Key>a > b</Key>", "Key", "a > b"},
+                {"<a<b>x</a<b>", "a<b", "x</a"},
                 {"> backwards <", "", "-"},
                 {"<Key>cut", "Key", "-"}};
     for (const auto& row : rows) {
         const TagLine parts = GetTag(TrimTag(row.line));
         EXPECT_EQ(parts.tag, row.tag) << row.line;
         EXPECT_EQ(parts.value.value_or("-"), row.value) << row.line;
+        const TagLine plain = PlainLine(row.line).value_or(parts);
+        EXPECT_TRUE(plain.tag == parts.tag && plain.value == parts.value) << row.line;
     }
+    EXPECT_TRUE(PlainLine(rows[0].line) && PlainLine(rows[1].line));
 }
 
 TEST(SkinLines, AValueIsTypedByItsLook) {
