@@ -105,13 +105,16 @@ bool Save(dbSkin& skin) {
     return false;
 }
 
-void CompareRoads(std::string_view bytes) {
+void ComparePaths(std::string_view bytes) {
     for (const Field<dbLayoutElement>& field : Fields<dbLayoutElement>()) {
         dbLayoutElement quick, general;
         if (!field.take(quick, bytes)) continue;
         field.set(general, ReadValue(bytes));
-        Require(field.get(quick) == field.get(general), "the two roads read a value differently");
+        Require(field.get(quick) == field.get(general), "the two paths read a value differently");
     }
+    const TagLine parts = GetTag(TrimTag(bytes)), plain = PlainLine(bytes).value_or(parts);
+    Require(plain.tag == parts.tag && plain.value == parts.value,
+            "the two paths take a line apart differently");
 }
 
 /// The saves until nothing changes any more: a fraction that is rounded up to 1 is saved as "+7." and read as
@@ -142,7 +145,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     UseFileLayer(&layer);
     UseNumberSigns(size % 2 == 0 ? NumberSigns{} : NumberSigns{",", "."});
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    CompareRoads(bytes.substr(0, 40));
+    ComparePaths(bytes.substr(0, 40));
     RoundTrip(place.folder, bytes);
     for (const auto& entry : std::filesystem::directory_iterator(place.folder))
         std::filesystem::remove_all(entry.path());

@@ -151,8 +151,8 @@ TEST_F(LoadSave, TheUsersSignsCountForPlainNumbersOnly) {
     EXPECT_EQ(Written(1.5) + Written("12,50") + Written(0.00001), "+1.5+12.50,00001");
 }
 
-/// The short road of each field against the general one.
-TEST(SkinLines, BothRoadsAgree) {
+/// The fast path of each field against the general one.
+TEST(SkinLines, BothPathsAgree) {
     int taken = 0;
     for (const char* bytes :
          {"True", "Wahr",  "False", "Falsch", "true",  "Truely", "",           "0",   "-0", "007",

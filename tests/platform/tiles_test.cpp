@@ -157,7 +157,7 @@ TEST(TileCache, MakesAPictureOnceForALook) {
     EXPECT_NE(keyed, first);
     state.TransColorTopLeft = false;
     state.TransparentColor = Rgb(255, 0, 0);
-    EXPECT_EQ(made(), keyed) << "the same key colour by another road";
+    EXPECT_EQ(made(), keyed) << "the same key colour by another function";
     for (int width = 3900; width < 3920; ++width) made({width, 1000});
     EXPECT_LE(TileCacheSize(), TileCacheBytes);
     EXPECT_NE(made(), keyed) << "dropped for the large ones";
