@@ -6,11 +6,10 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "base/failure.h"
-#include "base/text.h"
+#include "base/text_map.h"
 
 namespace ornavo {
 
@@ -64,15 +63,6 @@ private:
         std::string key;
         Ref item;
     };
-    // Both take a string_view as it is, so that Find does not allocate.
-    struct SameKey {
-        using is_transparent = void;
-        bool operator()(std::string_view one, std::string_view two) const { return EqualText(one, two); }
-    };
-    struct HashOfKey {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view key) const { return HashText(key); }
-    };
 
 public:
     /// Iterates over the items' references, in order.
@@ -98,7 +88,7 @@ private:
         if (position < 1 || position > Count()) throw NotFound();
     }
     std::vector<Entry> items_;
-    std::unordered_map<std::string, Ref, HashOfKey, SameKey> byKey_;
+    TextMap<std::string, Ref> byKey_;
 };
 
 }  // namespace ornavo

@@ -7,20 +7,13 @@
 #include <unordered_map>
 
 #include "base/paths.h"
-#include "base/text.h"
+#include "base/text_map.h"
 
 namespace ornavo {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-struct HashOfName {
-    std::size_t operator()(std::string_view name) const { return HashText(name); }
-};
-struct SameName {
-    bool operator()(std::string_view one, std::string_view two) const { return EqualText(one, two); }
-};
 
 /// The names of one folder.
 class Listing {
@@ -43,7 +36,7 @@ public:
 
 private:
     /// Names that differ in case only are together.
-    std::unordered_map<std::string, std::map<std::string, fs::file_type>, HashOfName, SameName> names_;
+    TextMap<std::string, std::map<std::string, fs::file_type>> names_;
 };
 
 /// What is known of the disk. All paths are texts with native separators: to take an fs::path apart costs
@@ -120,6 +113,10 @@ auto Ask(std::string_view path, Question question) {
     return question(once, text);
 }
 
+fs::file_type TypeAt(std::string_view path) {
+    return Ask(path, [](Lookup& lookup, const std::string& text) { return lookup.Type(lookup.Find(text)); });
+}
+
 }  // namespace
 
 fs::path OnDisk(std::string_view path) {
@@ -139,15 +136,11 @@ fs::path FindFile(std::string_view path) {
 }
 
 bool FileExists(std::string_view path) {
-    return Ask(path, [](Lookup& lookup, const std::string& text) {
-        return lookup.Type(lookup.Find(text)) == fs::file_type::regular;
-    });
+    return TypeAt(path) == fs::file_type::regular;
 }
 
 bool FolderExists(std::string_view path) {
-    return Ask(path, [](Lookup& lookup, const std::string& text) {
-        return lookup.Type(lookup.Find(text)) == fs::file_type::directory;
-    });
+    return TypeAt(path) == fs::file_type::directory;
 }
 
 LookupScope::LookupScope() : isOuter_(!scopeLookup) {

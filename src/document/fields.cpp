@@ -3,10 +3,9 @@
 
 #include <algorithm>
 #include <string>
-#include <unordered_map>
 
 #include "base/failure.h"
-#include "base/text.h"
+#include "base/text_map.h"
 #include "document/skin_lines.h"
 
 namespace ornavo {
@@ -167,15 +166,8 @@ const Field<dbLayoutElement> ElementFields[] = {
 #undef SAVED
 #undef UNSAVED
 
-/// Names are equal, and have the same hash, without regard to case.
-struct SameName {
-    bool operator()(std::string_view one, std::string_view two) const { return EqualText(one, two); }
-};
-struct HashOfName {
-    std::size_t operator()(std::string_view name) const { return HashText(name); }
-};
 template <class T>
-using NameTable = std::unordered_map<std::string_view, const Field<T>*, HashOfName, SameName>;
+using NameTable = TextMap<std::string_view, const Field<T>*>;
 
 template <class T>
 NameTable<T> ByName() {
