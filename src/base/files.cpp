@@ -173,14 +173,9 @@ void ReplaceFileItself(const fs::path& path, std::string_view bytes) {
 }
 
 void RemoveLeftScratchFiles(const fs::path& folder) {
-    std::vector<fs::path> left;
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        const std::string name = ToText(at->path().filename());
-        if (name.starts_with(ScratchStart) && name.ends_with(ScratchEnd) && IsLeft(at->path(), name))
-            left.push_back(at->path());
-    }
-    for (const fs::path& file : left) Attempt([&] { fileLayer().Remove(file); });
+    for (const std::string& name : NamesIn(folder))
+        if (name.starts_with(ScratchStart) && name.ends_with(ScratchEnd) && IsLeft(folder / name, name))
+            Attempt([&] { fileLayer().Remove(folder / name); });
 }
 
 void CopyFileWhole(const fs::path& source, const fs::path& target) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "base/paths.h"
 #include "base/text_map.h"
@@ -22,6 +23,10 @@ public:
         for (FolderEntry& entry : fileLayer().List(NativePath(folder))) Add(entry.name, entry.type);
     }
     void Add(const std::string& name, fs::file_type type) { names_[name].insert_or_assign(name, type); }
+    void AppendNames(std::vector<std::string>& names) const {
+        for (const auto& same : names_)
+            for (const auto& entry : same.second) names.push_back(entry.first);
+    }
     void Remove(const std::string& name) {
         if (const auto same = names_.find(name); same != names_.end()) same->second.erase(name);
     }
@@ -46,6 +51,8 @@ public:
     std::string Find(const std::string& path);
     FileState State(const std::string& path);
     fs::file_type Type(const std::string& path);
+    /// The listing of a folder, by its exact path; made now unless it is known.
+    Listing& List(const std::string& folder) { return listings_.try_emplace(folder, folder).first->second; }
     void Made(const fs::path& path) override { Change(ToText(path), true); }
     void Gone(const fs::path& path) override { Change(ToText(path), false); }
 
@@ -67,7 +74,7 @@ std::string Lookup::Find(const std::string& path) {
     if (!listing) {
         if (Exists(State(path).type)) return path;
         if (!folder.empty()) folder = Find(folder);
-        listing = &listings_.try_emplace(folder, folder).first->second;
+        listing = &List(folder);
     }
     const auto* entry = listing->Find(name);
     return JoinPath(folder, entry ? entry->first : name);
@@ -100,7 +107,7 @@ void Lookup::Change(const std::string& path, bool isMade) {
     Listing* listing = ListingOf(folder);
     if (!listing) return;
     listing->Remove(name);
-    if (isMade) listing->Add(name, (states_[path] = fileLayer().State(NativePath(path))).type);
+    if (isMade) listing->Add(name, fs::file_type::unknown);  // asked for when somebody wants to know
 }
 
 std::unique_ptr<Lookup> scopeLookup;  // null between operations
@@ -127,12 +134,11 @@ FileState StateOf(const fs::path& path) {
     return Ask(ToText(path), [](Lookup& lookup, const std::string& text) { return lookup.State(text); });
 }
 
-fs::path FindFile(std::string_view path) {
-    const std::string file = Ask(path, [](Lookup& lookup, const std::string& text) {
+std::string FindFile(std::string_view path) {
+    return Ask(path, [](Lookup& lookup, const std::string& text) {
         std::string found = lookup.Find(text);
         return lookup.Type(found) == fs::file_type::regular ? found : "";
     });
-    return file.empty() ? fs::path() : NativePath(file);
 }
 
 bool FileExists(std::string_view path) {
@@ -141,6 +147,13 @@ bool FileExists(std::string_view path) {
 
 bool FolderExists(std::string_view path) {
     return TypeAt(path) == fs::file_type::directory;
+}
+
+std::vector<std::string> NamesIn(const fs::path& folder) {
+    std::vector<std::string> names;
+    Ask(ToText(folder),
+        [&](Lookup& lookup, const std::string& text) { lookup.List(text).AppendNames(names); });
+    return names;
 }
 
 LookupScope::LookupScope() : isOuter_(!scopeLookup) {

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/file_layer.h"
 
@@ -14,15 +16,18 @@ namespace ornavo {
 /// drives, a path with a drive letter gives a place that cannot exist.
 std::filesystem::path OnDisk(std::string_view path);
 FileState StateOf(const std::filesystem::path& path);  // never fails
-/// The regular file that is meant by the path; empty if there is none. Never fails.
-std::filesystem::path FindFile(std::string_view path);
+/// The regular file that is meant by the path, as a text with native separators; "" if there is none. Never
+/// fails.
+std::string FindFile(std::string_view path);
 bool FileExists(std::string_view path);
 bool FolderExists(std::string_view path);
+/// The names in a folder, in no order; none if it can't be read.
+std::vector<std::string> NamesIn(const std::filesystem::path& folder);
 
-/// While one lives, a folder is listed at most once and no file is asked for twice, found or not. What the
-/// program itself makes and removes is entered; what other programs do is seen after it. So it lives for one
-/// operation, such as a composition or a save, in which nobody is asked. An inner one shares what the outer
-/// one knows.
+/// While one lives, a folder is listed at most once and no file is asked for twice, found or not; nothing in
+/// a listed folder is asked for whose type the listing tells. What the program itself makes and removes is
+/// entered; what other programs do is seen after it. So it lives for one operation, such as a composition or
+/// a save, in which nobody is asked. An inner one shares what the outer one knows.
 class LookupScope {
 public:
     LookupScope();

@@ -47,7 +47,7 @@ int Save(const Arguments& arguments) {
     }
     const bool keepExisting = arguments.Has("keep-existing");
     if (!arguments.Has("replace")) RefuseToReplace();
-    for (const std::string& loss : PlanSave(*objSkin, keepExisting).losses) Tell(loss);
+    for (const std::string& loss : LossesOfSave(*objSkin, keepExisting)) Tell(loss);
     if (IsDamaged())
         KeepRecovered(DataFolder(), objSkin->SkinName, TimeStamp(), ReadFile(objSkin->SkinFile()));
     const std::vector<std::string> uncopied = objSkin->SaveSkin(keepExisting);

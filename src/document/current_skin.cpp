@@ -37,7 +37,7 @@ std::vector<std::string> PicturePlaces(std::string_view name, const dbSkin& curr
 std::filesystem::path FindSkinPicture(std::string_view name) {
     if (TrimBlanks(name).empty()) return {};
     for (const std::string& place : PicturePlaces(name, *objSkin))
-        if (std::filesystem::path file = FindFile(place); !file.empty()) return file;
+        if (const std::string file = FindFile(place); !file.empty()) return NativePath(file);
     return {};
 }
 

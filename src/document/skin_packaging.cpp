@@ -2,8 +2,11 @@
 #include "document/skin_packaging.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 #include <system_error>
+#include <unordered_map>
+#include <utility>
 
 #include "base/failure.h"
 #include "base/file_layer.h"
@@ -12,6 +15,7 @@
 #include "base/lookup.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "base/text_map.h"
 #include "document/current_skin.h"
 #include "document/skin_lines.h"
 
@@ -38,22 +42,25 @@ std::string Substitute(std::string_view name, int number) {
     return plain;
 }
 
-bool SameBytes(const fs::path& one, const fs::path& two) {
+// The paths below are texts with native separators.
+
+bool SameBytes(const std::string& one, const std::string& two) {
+    const fs::path first = NativePath(one), second = NativePath(two);
     std::error_code error;
-    if (fs::file_size(one, error) != fs::file_size(two, error) || error) return false;
+    if (fs::file_size(first, error) != fs::file_size(second, error) || error) return false;
     bool same = false;
-    Attempt([&] { same = fileLayer().Read(one) == fileLayer().Read(two); });
+    Attempt([&] { same = fileLayer().Read(first) == fileLayer().Read(second); });
     return same;
 }
 
-/// Whether something has this path, even a broken link.
-bool IsTaken(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(fs::symlink_status(path, ignored));
+bool SameFile(const std::string& one, const std::string& two) {
+    return one == two || SameBytes(one, two);
 }
 
-bool SameFile(const fs::path& one, const fs::path& two) {
-    return one == two || SameBytes(one, two);
+/// Whether both paths lead to one file.
+bool IsOneFile(const std::string& one, const std::string& two) {
+    std::error_code ignored;
+    return one == two || fs::equivalent(NativePath(one), NativePath(two), ignored);
 }
 
 /// Plans the references in the order of the file, and knows which files the earlier steps will have made.
@@ -68,44 +75,53 @@ public:
     PictureStep Plan(const std::string& given);
     /// What a finished plan loses of this reference: the picture is not found, or another one replaces it. ""
     /// if nothing.
-    std::string Loss(const PictureStep& step) const;
+    std::string Loss(const PictureReference& picture) const;
 
 private:
     /// A file that an earlier step makes, and its source.
     struct Made {
-        fs::path target, source;
+        std::string target, source;
     };
-    const Made* MadeBefore(std::string_view path) const;
-    bool IsThere(const std::string& path) const { return FileExists(path) || MadeBefore(path); }
-    fs::path Place(const std::string& path) const;
-    std::string InOldFolder(std::string_view path) const;
-    fs::path FindSource(std::string_view path) const;
-    std::string StoredName(const std::string& name, const fs::path& source) const;
     /// The part of a step that is the same for equal references.
     struct Known {
-        PictureStep step;
-        bool isInPlace = false;
+        std::shared_ptr<const PictureReference> picture;
+        bool isInPlace = false, isCopied = false;
+        std::size_t madeBefore = 0;  // how many files were made when this was found out
     };
+    const Made* MadeBefore(std::string_view path) const;
+    std::string Find(const std::string& path) const;
+    std::string Place(const std::string& path) const;
+    std::string InOldFolder(std::string_view path) const;
+    std::string FindSource(std::string_view path) const;
+    std::string StoredName(const std::string& name, const std::string& source) const;
     Known Resolve(const std::string& given) const;
 
     dbSkin skin_;     // under the name by which it will be saved
     dbSkin current_;  // a bare name is a file of its folder
     bool keepExisting_;
     std::string folder_;
-    std::map<std::string, Known> known_;    // by the reference; many are equal
-    std::map<std::string, Made> made_;      // by name in lower case
-    std::map<fs::path, fs::path> winners_;  // the source of each file of the folder after the save
+    std::unordered_map<std::string, Known> known_;          // by the reference; many are equal
+    TextMap<std::string, Made> made_;                       // by name
+    std::unordered_map<std::string, std::string> winners_;  // the source of each file after the save
 };
 
 const Planner::Made* Planner::MadeBefore(std::string_view path) const {
-    if (!path.starts_with(folder_)) return nullptr;
-    const auto made = made_.find(LowerText(path.substr(folder_.size())));
+    if (made_.empty() || !path.starts_with(folder_)) return nullptr;
+    const auto made = made_.find(path.substr(folder_.size()));
     return made == made_.end() ? nullptr : &made->second;
 }
 
-fs::path Planner::Place(const std::string& path) const {
-    const Made* made = FileExists(path) ? nullptr : MadeBefore(path);
-    return made ? made->target : OnDisk(path);
+/// The file that the path leads to when the step is carried out; "" if there will be none.
+std::string Planner::Find(const std::string& path) const {
+    std::string file = FindFile(path);
+    if (!file.empty()) return file;
+    const Made* made = MadeBefore(path);
+    return made ? made->target : "";
+}
+
+std::string Planner::Place(const std::string& path) const {
+    std::string file = Find(path);
+    return file.empty() ? ToText(OnDisk(path)) : file;
 }
 
 /// "" for a skin that was never loaded.
@@ -116,72 +132,77 @@ std::string Planner::InOldFolder(std::string_view path) const {
 
 /// The file the path leads to; otherwise the file of that name in the saved skin's former folder, then in the
 /// folders of the current skin.
-fs::path Planner::FindSource(std::string_view path) const {
+std::string Planner::FindSource(std::string_view path) const {
     std::vector<std::string> places = PicturePlaces(path, current_);
     places.insert(places.begin() + 1, InOldFolder(path));
-    for (const std::string& place : places)
-        if (!place.empty() && IsThere(place)) return Place(place);
-    return {};
+    for (auto place = places.begin(); place != places.end(); ++place) {
+        if (place->empty() || std::find(places.begin(), place, *place) != place) continue;
+        if (std::string file = Find(*place); !file.empty()) return file;
+    }
+    return "";
 }
 
 /// The name under which the picture is stored: its own, or else a substitute that no other picture has. A
 /// name that the file would give back as a number is not used.
-std::string Planner::StoredName(const std::string& name, const fs::path& source) const {
+std::string Planner::StoredName(const std::string& name, const std::string& source) const {
     if (CanBeNamed(name) && ReadBack(name) == name) return name;
     for (int number = 1;; ++number) {
         std::string candidate = Substitute(name, number);
         if (ReadBack(candidate) != candidate) candidate.insert(0, "_");
-        const fs::path target = OnDisk(folder_ + candidate);
-        const Made* made = MadeBefore(folder_ + candidate);
-        const bool free =
-            made ? SameFile(made->source, source) : !IsTaken(target) || SameBytes(target, source);
+        const std::string target = folder_ + candidate;
+        const Made* made = MadeBefore(target);
+        const bool free = made ? SameFile(made->source, source)
+                               : NothingStandsAt(target) || SameBytes(ToText(OnDisk(target)), source);
         if (free) return candidate;
     }
 }
 
 /// Plans everything but whether the picture is copied.
 Planner::Known Planner::Resolve(const std::string& given) const {
-    Known known;
-    PictureStep& step = known.step;
-    step.given = given;
-    step.isBlank = TrimBlanks(given).empty();
-    if (!step.isBlank) step.source = FindSource(given);
-    if (step.source.empty()) return known;
-    step.stored = StoredName(GetFileName(given), step.source);
-    step.isRefused = EqualText(step.stored, SettingsFileName);
-    if (step.isRefused) return known;
-    step.target = Place(folder_ + step.stored);
-    std::error_code ignored;
-    known.isInPlace = step.source == step.target || fs::equivalent(step.source, step.target, ignored);
+    const auto picture = std::make_shared<PictureReference>();
+    Known known{.picture = picture, .madeBefore = made_.size()};
+    picture->given = given;
+    picture->isBlank = TrimBlanks(given).empty();
+    if (!picture->isBlank) picture->source = FindSource(given);
+    if (picture->source.empty()) return known;
+    picture->stored = StoredName(GetFileName(given), picture->source);
+    picture->isRefused = EqualText(picture->stored, SettingsFileName);
+    if (picture->isRefused) return known;
+    picture->target = Place(folder_ + picture->stored);
+    known.isInPlace = IsOneFile(picture->source, picture->target);
     return known;
 }
 
 PictureStep Planner::Plan(const std::string& given) {
-    auto known = known_.find(given);
-    if (known == known_.end()) known = known_.emplace(given, Resolve(given)).first;
-    PictureStep step = known->second.step;
-    if (step.source.empty()) known_.erase(known);  // a later step may make the file
-    if (step.target.empty()) return step;
-    step.isCopied = !known->second.isInPlace && !(keepExisting_ && IsThere(folder_ + step.stored));
-    step.isMade = !step.isCopied && MadeBefore(folder_ + step.stored);
+    Known& known = known_[given];
+    // A file that was not there may have been made by a step since.
+    if (!known.picture || (known.picture->source.empty() && known.madeBefore != made_.size()))
+        known = Resolve(given);
+    const PictureReference& picture = *known.picture;
+    PictureStep step{known.picture};
+    if (picture.target.empty()) return step;
+    const std::string path = folder_ + picture.stored;
+    step.isCopied = !known.isInPlace && !(keepExisting_ && !Find(path).empty());
+    step.isMade = !step.isCopied && MadeBefore(path);
     if (step.isCopied) {
-        made_.insert_or_assign(LowerText(step.stored), Made{step.target, step.source});
-        winners_.insert_or_assign(step.target, step.source);
+        step.isAgain = std::exchange(known.isCopied, true) && winners_.at(picture.target) == picture.source;
+        made_.insert_or_assign(picture.stored, Made{picture.target, picture.source});
+        winners_.insert_or_assign(picture.target, picture.source);
     } else {
-        winners_.try_emplace(step.target, step.target);
+        winners_.try_emplace(picture.target, picture.target);
     }
     return step;
 }
 
-std::string Planner::Loss(const PictureStep& step) const {
-    if (!step.isBlank && step.stored.empty()) return step.given + " is not there";
-    const auto winner = winners_.find(step.target);
-    if (step.target.empty() || winner == winners_.end()) return "";
+std::string Planner::Loss(const PictureReference& picture) const {
+    if (!picture.isBlank && picture.stored.empty()) return picture.given + " is not there";
+    const auto winner = winners_.find(picture.target);
+    if (picture.target.empty() || winner == winners_.end()) return "";
     // A bare name means the file in the folder that the skin was read from.
-    const std::string old = ContainsSeparator(step.given) ? "" : InOldFolder(step.given);
-    const fs::path meant = FileExists(old) ? OnDisk(old) : step.source;
-    if (!FileExists(ToText(meant)) || SameFile(meant, winner->second)) return "";
-    return ToText(meant) + " gives way to " + ToText(winner->second);
+    const std::string old = ContainsSeparator(picture.given) ? "" : FindFile(InOldFolder(picture.given));
+    const std::string& meant = old.empty() ? picture.source : old;
+    if (!FileExists(meant) || SameFile(meant, winner->second)) return "";
+    return meant + " gives way to " + winner->second;
 }
 
 /// Collects the losses, with one line for all places that lose the same picture.
@@ -213,13 +234,21 @@ private:
 };
 
 /// Copies the picture. Returns "", or the reason why it failed.
-std::string ReasonAgainst(const PictureStep& step) {
+std::string ReasonAgainst(const PictureReference& picture) {
     try {
-        CopyFileWhole(step.source, step.target);
+        CopyFileWhole(NativePath(picture.source), NativePath(picture.target));
         return "";
     } catch (const Failure& failure) {
         return failure.description();
     }
+}
+
+std::vector<PictureStep> Steps(Planner& planner, const dbSkin& skin) {
+    std::vector<PictureStep> steps;
+    VisitPictures(skin, [&](const std::string& given, const auto&, const auto&) {
+        steps.push_back(planner.Plan(given));
+    });
+    return steps;
 }
 
 }  // namespace
@@ -233,38 +262,40 @@ std::string StorableSkinName(const dbSkin& skin) {
     }
 }
 
-SavePlan PlanSave(const dbSkin& skin, bool keepExisting) {
+std::vector<PictureStep> PlanSave(const dbSkin& skin, bool keepExisting) {
     const LookupScope names;
-    SavePlan plan;
     Planner planner(skin, keepExisting);
-    std::vector<std::string> holders;
-    VisitPictures(skin, [&](const std::string& picture, const auto& holder, const auto&) {
-        plan.pictures.push_back(planner.Plan(picture));
-        holders.push_back(holder());
-    });
+    return Steps(planner, skin);
+}
+
+std::vector<std::string> LossesOfSave(const dbSkin& skin, bool keepExisting) {
+    const LookupScope names;
+    Planner planner(skin, keepExisting);
+    const std::vector<PictureStep> steps = Steps(planner, skin);
     LossList losses;
-    std::map<std::string, std::string> known;  // the loss of each reference
-    for (std::size_t i = 0; i < holders.size(); ++i) {
-        const PictureStep& step = plan.pictures[i];
-        const auto [loss, isNew] = known.try_emplace(step.given);
-        if (isNew) loss->second = planner.Loss(step);
-        if (!loss->second.empty()) losses.Add(loss->second, holders[i]);
-    }
-    plan.losses = losses.Lines();
-    return plan;
+    std::unordered_map<const PictureReference*, std::string> known;
+    auto step = steps.begin();
+    VisitPictures(skin, [&](const std::string&, const auto& holder, const auto&) {
+        const PictureReference& picture = *(step++)->picture;
+        const auto [loss, isNew] = known.try_emplace(&picture);
+        if (isNew) loss->second = planner.Loss(picture);
+        if (!loss->second.empty()) losses.Add(loss->second, holder());
+    });
+    return losses.Lines();
 }
 
 std::string CarryOut(const PictureStep& step, std::vector<std::string>& failures) {
+    const PictureReference& picture = *step.picture;
     std::string reason;
-    if (step.isRefused)
-        reason = "\"" + step.given + "\" is called like the skin's settings and can't be copied";
-    if (step.isCopied) reason = ReasonAgainst(step);
-    const bool isThere = !step.isMade || FileExists(ToText(step.target));
-    if (reason.empty()) return isThere ? step.stored : step.given;
+    if (picture.isRefused)
+        reason = "\"" + picture.given + "\" is called like the skin's settings and can't be copied";
+    if (step.isCopied) reason = ReasonAgainst(picture);
+    const bool isThere = !step.isMade || FileExists(picture.target);
+    if (reason.empty()) return isThere ? picture.stored : picture.given;
     if (!Contains(failures, reason)) failures.push_back(reason);
     // A bare name that was found in the skin's former folder would not be found any more.
-    const bool leads = ContainsSeparator(step.given) && OnDisk(step.given) == step.source;
-    return leads || step.isRefused ? step.given : ToText(step.source);
+    const bool leads = ContainsSeparator(picture.given) && ToText(OnDisk(picture.given)) == picture.source;
+    return leads || picture.isRefused ? picture.given : picture.source;
 }
 
 }  // namespace ornavo

@@ -3,8 +3,9 @@
 // out.
 #pragma once
 
-#include <filesystem>
+#include <algorithm>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,25 +42,29 @@ private:
 /// The skin's name, or, if the file cannot hold it, a substitute that no other skin in the same folder has.
 std::string StorableSkinName(const dbSkin& skin);
 
-/// What a save does with one reference to a picture.
-struct PictureStep {
-    std::string given;                     // the reference in the model
-    std::string stored;                    // the reference in the file; "" if blank or not found
-    std::filesystem::path source, target;  // empty if there is none
+/// What a reference to a picture means to a save. Paths are texts with native separators, and "" if there is
+/// none.
+struct PictureReference {
+    std::string given;   // the reference in the model
+    std::string stored;  // the reference in the file; "" if blank or not found
+    std::string source, target;
     bool isBlank = false;
-    bool isCopied = false;   // source to target; otherwise no file is written
-    bool isMade = false;     // only an earlier step of the plan makes the target
     bool isRefused = false;  // its name is that of the settings file
 };
 
-/// What a save will do.
-struct SavePlan {
-    std::vector<PictureStep> pictures;  // in the order of VisitPictures
-    std::vector<std::string> losses;    // what would be dropped or replaced by another picture, a line each
+/// What a save does at one place that refers to a picture.
+struct PictureStep {
+    std::shared_ptr<const PictureReference> picture;
+    bool isCopied = false;  // source to target; otherwise no file is written
+    bool isAgain = false;   // an earlier step with the same reference has copied it
+    bool isMade = false;    // only an earlier step of the plan makes the target
 };
-/// Plans a save. With keepExisting, a file of the skin's folder is not replaced by a picture of the same
-/// name.
-SavePlan PlanSave(const dbSkin& skin, bool keepExisting);
+
+/// What a save will do, a step for each reference in the order of VisitPictures. With keepExisting, a file of
+/// the skin's folder is not replaced by a picture of the same name.
+std::vector<PictureStep> PlanSave(const dbSkin& skin, bool keepExisting);
+/// What that save would drop or replace by another picture, a line each.
+std::vector<std::string> LossesOfSave(const dbSkin& skin, bool keepExisting);
 /// Copies the picture, whole or not at all, and returns the reference to store. If the picture cannot be
 /// copied, that is a path that leads to it, and the reason is appended to `failures` unless it is in there
 /// already.
@@ -70,12 +75,12 @@ std::string CarryOut(const PictureStep& step, std::vector<std::string>& failures
 template <class Collection>
 auto InOrder(const Collection& items) {
     using Ref = typename Collection::Ref;
-    std::vector<std::vector<Ref>> places(static_cast<std::size_t>(items.Count()));
-    for (const Ref& item : items)
-        if (item->Order >= 1 && item->Order <= items.Count())
-            places[static_cast<std::size_t>(item->Order - 1)].push_back(item);
     std::vector<Ref> ordered;
-    for (auto& place : places) ordered.insert(ordered.end(), place.begin(), place.end());
+    ordered.reserve(static_cast<std::size_t>(items.Count()));
+    for (const Ref& item : items)
+        if (item->Order >= 1 && item->Order <= items.Count()) ordered.push_back(item);
+    const auto order = [](const Ref& item) { return item->Order; };
+    if (!std::ranges::is_sorted(ordered, {}, order)) std::ranges::stable_sort(ordered, {}, order);
     return ordered;
 }
 

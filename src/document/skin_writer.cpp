@@ -2,6 +2,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "base/failure.h"
@@ -137,11 +138,15 @@ void AppendLayouts(std::string& file, const dbLayouts& layouts) {
 
 /// Copies the pictures. Returns those that could not be copied, each with its reason.
 std::vector<std::string> PackagePictures(const dbSkin& skin, bool keepExisting, Probation& probation) {
-    const SavePlan plan = PlanSave(skin, keepExisting);
+    const std::vector<PictureStep> steps = PlanSave(skin, keepExisting);
     std::vector<std::string> failures;
-    auto step = plan.pictures.begin();
+    std::unordered_map<const PictureReference*, std::string> stored;
+    auto step = steps.begin();
     VisitPictures(skin, [&](const std::string&, const auto&, const auto& store) {
-        store(probation, CarryOut(*step++, failures));
+        std::string& now = stored[step->picture.get()];
+        if (!step->isAgain) now = CarryOut(*step, failures);
+        ++step;
+        store(probation, now);
     });
     return failures;
 }

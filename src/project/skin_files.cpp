@@ -123,7 +123,7 @@ bool SkinFiles::MaySave(const dbSkin& skin, const fs::path& home, bool keepExist
                 "\nA save writes what could be read; the damaged file is put into \"Recovered\" first. Save "
                 "anyway?"))
         return false;
-    const std::vector<std::string> losses = PlanSave(skin, keepExisting).losses;
+    const std::vector<std::string> losses = LossesOfSave(skin, keepExisting);
     if (losses.empty() || acceptedLosses_.contains(losses)) return true;
     if (!Agreed("The skin would lose these pictures:\n\n" + Listed(losses) + "\nSave anyway?")) return false;
     acceptedLosses_.insert(losses);

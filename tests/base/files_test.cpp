@@ -125,7 +125,7 @@ TEST_F(Files, AreAskedForOnceInAnOperation) {
     folder.Write("over.png", "B");
     const StepLayer disk;
     const LookupScope scope;
-    const auto found = [&](const char* name) { return FindFile(root + "/" + name).filename().string(); };
+    const auto found = [&](const char* name) { return GetFileName(FindFile(root + "/" + name)); };
     const auto questions = [&] { return std::pair(disk.asked, disk.listed); };
     for (int times = 0; times < 2; ++times)
         EXPECT_EQ(found("Back.png") + found("over.png"), "Back.pngover.png");

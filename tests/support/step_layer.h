@@ -20,9 +20,10 @@ public:
     }
     ~StepLayer() override { UseFileLayer(nullptr); }
     int steps = 0;
+    int made = 0;               // files
     int asked = 0, listed = 0;  // questions, which are no steps
 
-    int Create(const std::filesystem::path& path) override { return Step(), FileLayer::Create(path); }
+    int Create(const std::filesystem::path& path) override { return ++made, Step(), FileLayer::Create(path); }
     void Write(int file, std::string_view bytes) override {
         // Half of it is there when the step goes wrong.
         FileLayer::Write(file, bytes.substr(0, bytes.size() / 2));
