@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // One step of the picture editor's slider, from the value to the painted result, with source and result of a
-// picture of 12 megapixels visible, compared with a copy of the picture's bytes.
-#include <benchmark/benchmark.h>
-
-#include <QCoreApplication>
+// picture of 12 megapixels visible, beside a copy of the picture's bytes on one thread.
+#include <QApplication>
 #include <QTemporaryDir>
 #include <cstring>
 
 #include "document/current_skin.h"
+#include "judge.h"
 #include "picture/frm_pictureeditor.h"
 #include "platform/settings.h"
+#include "platform/startup.h"
 
 namespace ornavo {
 namespace {
@@ -25,33 +25,46 @@ QImage Scene() {
     return scene;
 }
 
-void CopyBytes(benchmark::State& state) {
-    std::vector<char> from(Width * Height * 3, 'a'), to(from.size(), 'b');
-    for (auto _ : state) {
-        std::memcpy(to.data(), from.data(), from.size());
-        benchmark::ClobberMemory();
+/// The dialog with the scene, shown.
+class Editor {
+public:
+    Editor() {
+        UseSettingsFile(folder_.filePath("settings.ini"));
+        objSkin->SetBasePath(folder_.path().toStdString());
+        objSkin->SkinName = "Bench";
+        const QString file = folder_.filePath("scene.bmp");
+        if (!Scene().save(file)) qFatal("no picture");
+        form_.SetFinalName("scene");
+        form_.SetEditPicture(file.toStdString());
+        form_.Form_Load();
+        form_.resize(1300, 800);
+        form_.show();
+        QCoreApplication::processEvents();
     }
-}
+    void Step() { form_.hscHue->setValue((form_.hscHue->value() + 1) % 256); }
 
-void SliderStep(benchmark::State& state) {
-    QTemporaryDir folder;
-    UseSettingsFile(folder.filePath("settings.ini"));
-    objSkin->SetBasePath(folder.path().toStdString());
-    objSkin->SkinName = "Bench";
-    const QString file = folder.filePath("scene.bmp");
-    if (!Scene().save(file)) return state.SkipWithError("no picture");
-    frm_PictureEditor editor(nullptr);
-    editor.SetFinalName("scene");
-    editor.SetEditPicture(file.toStdString());
-    editor.Form_Load();
-    editor.resize(1300, 800);
-    editor.show();
-    QCoreApplication::processEvents();
-    for (auto _ : state) editor.hscHue->setValue((editor.hscHue->value() + 1) % 256);
-}
+private:
+    QTemporaryDir folder_;
+    frm_PictureEditor form_{nullptr};
+};
 
-BENCHMARK(CopyBytes)->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggregatesOnly();
-BENCHMARK(SliderStep)->Unit(benchmark::kMillisecond)->Repetitions(9)->ReportAggregatesOnly();
+int Run(int count, char** words) {
+    Editor editor;
+    std::vector<char> from(Width * Height * 3, 'a'), to(from.size(), 'b');
+    const auto copy = [&] { std::memcpy(to.data(), from.data(), from.size()); };
+    return bench::Judge({{"a step of the slider, 12 megapixels, painted, wall",
+                          [&] { return bench::Wall([&] { editor.Step(); }); }, "memcpy",
+                          [&] { return bench::Wall(copy); }, 3}},
+                        count, words);
+}
 
 }  // namespace
 }  // namespace ornavo
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    ornavo::PrepareProcess();
+    QApplication application(argc, argv);
+    ornavo::InitCommonControls(application);
+    return ornavo::Run(argc, argv);
+}

@@ -1,12 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "pixels/ccolourise.h"
 
+#include <algorithm>
+#include <thread>
+
 #include "base/failure.h"
+#include "pixels/bands.h"
 #include "pixels/mhlsrgb.h"
 
 namespace ornavo {
 
 namespace {
+
+constexpr std::int64_t PixelsPerWorker = 1 << 19;  // some 0.3 ms; to start a thread takes a tenth
+
+/// One for each processor, but fewer for a small picture.
+int WorkersFor(std::int64_t pixels) {
+    const std::int64_t processors = std::thread::hardware_concurrency();
+    return static_cast<int>(std::min(processors, pixels / PixelsPerWorker));
+}
 
 bool InRange(std::int32_t setting) {
     return setting >= 0 && setting <= 255;
@@ -29,10 +41,13 @@ void cColourise::Process(const cDIBSection& Source, cDIBSection& Dest) {
     const bool sameSize = Source.Width() == Dest.Width() && Source.Height() == Dest.Height();
     if (!sameSize || !InRange(Hue) || !InRange(Saturation)) return ProcessByRule(Source, Dest);
     table_.Make(Hue, Saturation);
-    const std::int64_t stride = Source.BytesPerScanLine(), height = Source.Height();
-    if (stride % 3 == 0)  // rows without padding that must stay as it is
-        return table_.Apply(Source.DIBSectionBitsPtr(), Dest.DIBSectionBitsPtr(), stride / 3 * height);
-    for (int y = 0; y < height; ++y) table_.Apply(Source.ScanLine(y), Dest.ScanLine(y), stride / 3);
+    const std::int64_t stride = Source.BytesPerScanLine();
+    const bool isPadded = stride % 3 != 0;  // with padding that must stay as it is
+    InBands(Source.Height(), WorkersFor(stride / 3 * Source.Height()), [&](int first, int end) {
+        const int step = isPadded ? 1 : std::max(end - first, 1);  // rows at once
+        for (int y = first; y < end; y += step)
+            table_.Apply(Source.ScanLine(y), Dest.ScanLine(y), stride / 3 * step);
+    });
 }
 
 void cColourise::ProcessByRule(const cDIBSection& Source, cDIBSection& Dest) const {

@@ -13,6 +13,9 @@ namespace ornavo {
 namespace {
 
 constexpr int Levels = 256;
+constexpr int Sums = 512;  // of two channels
+constexpr int Kinds = 4;
+constexpr std::uint32_t NoColour = ~0U;  // no pair has this key
 constexpr int BlockPixels = 64;
 constexpr int BlockBytes = BlockPixels * 3;
 
@@ -26,13 +29,6 @@ std::uint32_t Packed(float hue, float saturation, float lightness) {
     return colour;
 }
 
-/// The last colour of a sum of greatest and least channel. Pairs of the same sum have nearly always, but not
-/// always, the same lightness, so it is compared.
-struct Remembered {
-    float lightness = -1;
-    std::uint32_t colour = 0;
-};
-
 std::array<float, Levels> Shares() {
     std::array<float, Levels> shares;
     for (int level = 0; level < Levels; ++level)
@@ -40,14 +36,31 @@ std::array<float, Levels> Shares() {
     return shares;
 }
 
-/// The table index of the pixel that would begin at each byte of a block, though only every third is needed:
-/// GCC vectorises this loop, which is faster than taking the pixels apart. Reads two bytes beyond the block.
-void Indices(const std::uint8_t* from, std::uint16_t* indices) {
+/// Which of the pairs with the same sum it is, 0 to 3. The shares of 255 are rounded to floats, so that two
+/// pairs of a sum may differ in the last bit of the lightness. From 256 on, such a pair has both channels
+/// above 127; below, the leading bit of its least channel is half that of its greatest.
+constexpr std::uint8_t KindOf(std::uint8_t max, std::uint8_t min) {
+    const auto twice = static_cast<std::uint8_t>(min << 1);
+    const bool sameLeadingBit = (max ^ twice) < (max & twice);
+    return static_cast<std::uint8_t>((sameLeadingBit ? 1 : 0) | (min >> 6 & 2));
+}
+
+/// The place in the table: the sum of the greatest and the least channel and, if wanted, the kind.
+template <bool WithKind>
+constexpr std::uint16_t KeyOf(std::uint8_t max, std::uint8_t min) {
+    const int kind = WithKind ? KindOf(max, min) : 0;
+    return static_cast<std::uint16_t>(max + min + kind * Sums);
+}
+
+/// The key of the pixel that would begin at each byte of a block, though only every third is needed: GCC
+/// vectorises this loop, which is faster than taking the pixels apart. Reads two bytes beyond the block.
+template <bool WithKind>
+void FindKeys(const std::uint8_t* from, std::uint16_t* keys) {
     for (int i = 0; i < BlockBytes; ++i) {
         const std::uint8_t a = from[i], b = from[i + 1], c = from[i + 2];
         const std::uint8_t upper = a > b ? a : b, lower = a < b ? a : b;
         const std::uint8_t max = upper > c ? upper : c, min = lower < c ? lower : c;
-        indices[i] = static_cast<std::uint16_t>(max << 8 | min);
+        keys[i] = KeyOf<WithKind>(max, min);
     }
 }
 
@@ -71,43 +84,51 @@ float TargetSaturation(int saturation) {
 
 void ColourTable::Make(int hue, int saturation) {
     if (hue == hue_ && saturation == saturation_) return;
-    colours_.resize(Levels * Levels);
+    colours_.assign(Kinds * Sums, NoColour);
     const float targetHue = TargetHue(hue), targetSaturation = TargetSaturation(saturation);
     const std::array<float, Levels> shares = Shares();
-    std::array<Remembered, 2 * Levels> bySum;
     for (std::size_t max = 0; max < Levels; ++max) {
         for (std::size_t min = 0; min <= max; ++min) {
-            const float lightness = LightnessOf(shares[max], shares[min]);
-            Remembered& last = bySum[max + min];
-            if (last.lightness != lightness)
-                last = {lightness, Packed(targetHue, targetSaturation, lightness)};
-            colours_[max * Levels + min] = last.colour;
+            const auto key = KeyOf<true>(static_cast<std::uint8_t>(max), static_cast<std::uint8_t>(min));
+            if (colours_[key] == NoColour)
+                colours_[key] = Packed(targetHue, targetSaturation, LightnessOf(shares[max], shares[min]));
         }
     }
+    CompareKinds();
     hue_ = hue;
     saturation_ = saturation;
 }
 
-std::uint32_t ColourTable::ColourOf(const std::uint8_t* pixel) const {
-    const auto [min, max] = std::minmax({pixel[0], pixel[1], pixel[2]});
-    return colours_[std::size_t{max} * Levels + min];
+void ColourTable::CompareKinds() {
+    sumIsEnough_ = true;
+    for (std::size_t key = Sums; key < colours_.size(); ++key) {
+        if (colours_[key] == NoColour) continue;
+        std::uint32_t& colour = colours_[key % Sums];
+        if (colour == NoColour) colour = colours_[key];
+        if (colour != colours_[key]) sumIsEnough_ = false;
+    }
 }
 
 void ColourTable::Apply(const std::uint8_t* from, std::uint8_t* to, std::int64_t count) const {
+    sumIsEnough_ ? ApplyBy<false>(from, to, count) : ApplyBy<true>(from, to, count);
+}
+
+template <bool WithKind>
+void ColourTable::ApplyBy(const std::uint8_t* from, std::uint8_t* to, std::int64_t count) const {
     const std::uint32_t* const colours = colours_.data();
-    // The last block is left out because Indices reads beyond its block.
+    // The last block is left out because FindKeys reads beyond its block.
     for (; count > BlockPixels; count -= BlockPixels, from += BlockBytes, to += BlockBytes) {
-        std::array<std::uint16_t, BlockBytes> indices;
-        Indices(from, indices.data());
+        std::array<std::uint16_t, BlockBytes> keys;
+        FindKeys<WithKind>(from, keys.data());
         for (std::size_t i = 0; i < BlockBytes - 6; i += 6)
-            PutPair(to + i, colours[indices[i]], colours[indices[i + 3]]);
+            PutPair(to + i, colours[keys[i]], colours[keys[i + 3]]);
         // Write nothing beyond the block: with from == to, it has not been read yet.
-        std::memcpy(to + BlockBytes - 6, &colours[indices[BlockBytes - 6]], 4);
-        std::memcpy(to + BlockBytes - 3, &colours[indices[BlockBytes - 3]], 3);
+        std::memcpy(to + BlockBytes - 6, &colours[keys[BlockBytes - 6]], 4);
+        std::memcpy(to + BlockBytes - 3, &colours[keys[BlockBytes - 3]], 3);
     }
     for (; count > 0; --count, from += 3, to += 3) {
-        const std::uint32_t colour = ColourOf(from);
-        std::memcpy(to, &colour, 3);
+        const auto [min, max] = std::minmax({from[0], from[1], from[2]});
+        std::memcpy(to, &colours[KeyOf<WithKind>(max, min)], 3);
     }
 }
 
