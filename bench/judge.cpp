@@ -56,13 +56,14 @@ Figures MeasureOften(const Row& row) {
 }
 
 void Print(const Row& row, const Figures& figures) {
-    std::printf("| %s | %.2f ms |", row.work.c_str(), figures.here);
+    const char* const unit = row.unit.c_str();
+    std::printf("| %s | %.2f %s |", row.work.c_str(), figures.here, unit);
     if (row.peer)
-        std::printf(" %s %.2f ms | %.2f |", row.beside.c_str(), figures.peer, figures.Judged(row));
+        std::printf(" %s %.2f %s | %.2f |", row.beside.c_str(), figures.peer, unit, figures.Judged(row));
     else
         std::printf(" %s | |", row.beside.c_str());
     if (row.goal > 0)
-        std::printf(row.peer ? " %.4g | %s%s%s |\n" : " %.4g ms | %s%s%s |\n", row.goal,
+        std::printf(" %.4g%s | %s%s%s |\n", row.goal, row.peer ? "" : (" " + row.unit).c_str(),
                     Misses(row, figures, 1) ? "missed" : "met", row.limit.empty() ? "" : "; ",
                     row.limit.c_str());
     else

@@ -7,7 +7,7 @@
 
 namespace ornavo::bench {
 
-/// One round of some work. It gives the milliseconds of the part that counts.
+/// One round of some work. It gives the milliseconds of the part that counts, or another measure.
 using Round = std::function<double()>;
 
 /// A row of the table: our work beside a peer's in the same run.
@@ -18,6 +18,7 @@ struct Row {
     Round peer;              // without one, `goal` is in milliseconds
     double goal = 0;         // the ratio at most, or 0: it is only told
     std::string limit = "";  // why the goal wasn't reached, if a profile shows a limit: `goal` is that limit
+    std::string unit = "ms";
 };
 
 /// The milliseconds that the processor spent on the work, in all threads of this process.

@@ -1,48 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Loading a skin, from the text to the model and freed again, compared with an XML library's tree of the same
 // file: the library's call, and a whole process; and the tool's dump of the skin.
-#include <fcntl.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cstring>
 #include <pugixml.hpp>
 
 #include "base/files.h"
 #include "big_skin.h"
 #include "judge.h"
+#include "process.h"
 
 namespace ornavo::bench {
 namespace {
 
 const char* self = nullptr;
-
-double Milliseconds(const timeval& time) {
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
-}
-
-/// CPU time of a process from its start to its end, without its output.
-double CpuOfProcess(std::vector<std::string> words) {
-    std::vector<char*> pointers;
-    for (std::string& word : words) pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-    const pid_t child = vfork();
-    if (child == 0) {
-        const int nothing = open("/dev/null", O_WRONLY);
-        dup2(nothing, STDOUT_FILENO);
-        execv(pointers[0], pointers.data());
-        _exit(127);
-    }
-    int status = 0;
-    rusage usage = {};
-    wait4(child, &status, 0, &usage);
-    if (status != 0) {
-        std::fprintf(stderr, "%s failed\n", words[0].c_str());
-        std::exit(1);
-    }
-    return Milliseconds(usage.ru_utime) + Milliseconds(usage.ru_stime);
-}
 
 std::size_t LoadTree(const std::string& file) {
     pugi::xml_document tree;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Draws the picture of a layout by the code of canvas and preview, without a screen.
+#include <QFile>
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
@@ -8,6 +9,7 @@
 #include "cli/open_skin.h"
 #include "platform/clock.h"
 #include "platform/form.h"
+#include "platform/png_bytes.h"
 #include "platform/prompts.h"
 #include "platform/shown.h"
 #include "playback/info_show.h"
@@ -18,9 +20,6 @@
 
 namespace ornavo {
 namespace {
-
-// Qt's "quality", where 0 compresses most: half the time of its own choice, for 1.06 times the bytes.
-constexpr int PngQuality = 50;
 
 /// Prints messages on the error stream and cancels all questions.
 class ConsolePrompts : public Prompts {
@@ -139,7 +138,9 @@ int Render(const Arguments& arguments) {
     if (preview) InfoShow().Begin(target.host(), *objCurrentLayout);
     QImage picture = target.grab().toImage();
     if (preview) picture = Cut(picture, *objCurrentLayout, soft);
-    if (!picture.save(Shown(out), "PNG", PngQuality))
+    const std::string bytes = PngBytesOf(picture);
+    QFile file(Shown(out));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), std::ssize(bytes)) < 0 || !file.flush())
         throw Failure(Failure::PathError, "Render", out + " can't be written.");
     return 0;
 }

@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 #include <chrono>
 
+#include "platform/png_bytes.h"
 #include "platform/tile_movie.h"
 #include "support/small_gif.h"
 #include "support/temporary_folder.h"
@@ -66,6 +67,19 @@ TEST_F(Pictures, EveryFormatIsKnownByItsContent) {
     const PictureRef picture = Load(Encoded(clear, "png"));
     EXPECT_EQ(picture->image.format(), QImage::Format_ARGB32_Premultiplied);
     EXPECT_EQ(qAlpha(picture->image.pixel(0, 0)), 0x80);
+}
+
+TEST_F(Pictures, APngFileHoldsThePicture) {
+    for (const auto& [width, height] : {std::pair{1, 1}, {7, 5}, {64, 2}, {300, 200}})
+        for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32}) {
+            QImage image = Gradient(width, height).convertToFormat(format);
+            image.setPixel(width / 2, 0, 0xFF102030 ^ (format == QImage::Format_ARGB32 ? 0x80000000 : 0));
+            const std::string bytes = PngBytesOf(image);
+            const QImage read = QImage::fromData(reinterpret_cast<const uchar*>(bytes.data()),
+                                                 static_cast<int>(bytes.size()));
+            EXPECT_EQ(read.format(), format);
+            EXPECT_EQ(read, image) << width;
+        }
 }
 
 TEST_F(Pictures, WhatIsTooLargeOrNoneIsRefused) {
