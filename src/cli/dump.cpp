@@ -64,7 +64,7 @@ void WriteRect(JsonWriter& json, const std::string& key, const Rect& rect) {
 }  // namespace
 
 int Dump(const Arguments& arguments) {
-    OpenNamedSkin(arguments, !arguments.Has("raw"));
+    OpenNamedSkin(arguments.operands[0], !arguments.Has("raw"));
     JsonWriter json;
     json.BeginObject();
     WriteFields(json, *objSkin, {"SkinName", "SkinWidth", "SkinHeight"});
@@ -79,7 +79,7 @@ int Dump(const Arguments& arguments) {
 }
 
 int Place(const Arguments& arguments) {
-    OpenNamedSkin(arguments);
+    OpenNamedSkin(arguments.operands[0]);
     const dbLayoutRef layout = NamedLayout(arguments);
     const Size size = NamedSize(arguments);
     const Frame frame = {size.width, size.height, objSkin->SkinWidth, objSkin->SkinHeight};

@@ -1,93 +1,87 @@
 // SPDX-License-Identifier: MIT
 // ornavo-cli: the document and the renderer for scripts. Exit codes: 0 done, 1 failed, 2 wrong usage.
 #include <QApplication>
-#include <QCommandLineParser>
+#include <algorithm>
 #include <cstdio>
-#include <map>
 
 #include "base/failure.h"
 #include "cli/commands.h"
-#include "platform/shown.h"
 #include "platform/startup.h"
 
 namespace ornavo {
 namespace {
 
-constexpr const char* Usage =
-    "Usage: ornavo-cli COMMAND SKIN [OPTIONS]\n"
-    "SKIN is a skin's folder, the SkinSettings.xml in it, or the name of a skin in your folder \"Skins\".\n\n"
-    "  dump SKIN [--raw]                     the skin as JSON; --raw without the preferences that its file "
-    "lacks\n"
-    "  save SKIN [--as NAME] [--keep-existing] [--replace]\n"
-    "                                        write the skin, also under another name beside it, and tell its "
-    "file;\n"
-    "                                        --replace also over another skin or a damaged file\n"
-    "  place SKIN --layout KEY [--size WxH]  where elements and points stand, as JSON\n"
-    "  render SKIN --layout KEY --out FILE.png [--size WxH] [--view preview|canvas] [--edge soft|hard]\n"
-    "         [--time HH:MM:SS]              a picture of the layout, its clocks at that time\n"
-    "  recolour IN OUT --hue N --saturation N\n"
-    "                                        a picture in one hue and saturation, 0 to 255 each; OUT ends in "
-    ".bmp\n"
-    "                                        or .jpg, which is written in the best quality\n\n"
-    "  --help     show this text\n"
-    "  --version  show the version\n";
-
-/// A command and its options.
-struct Command {
-    const char* name;
-    QStringList options;  // each takes a value, unless its name ends in "!"
-    int (*run)(const Arguments&);
-    bool pictures = false;  // takes IN and OUT instead of a skin
-};
-
 const Command Commands[] = {
-    {"dump", {"raw!"}, Dump},
-    {"save", {"as", "keep-existing!", "replace!"}, Save},
-    {"place", {"layout", "size"}, Place},
-    {"render", {"layout", "out", "size", "view", "edge", "time"}, Render},
-    {"recolour", {"hue", "saturation"}, Recolour, true},
+    {.name = "dump",
+     .operands = {"SKIN"},
+     .options = {{"raw", ""}},
+     .help = "The skin as JSON; --raw without the preferences that its file lacks.",
+     .run = Dump},
+    {.name = "save",
+     .operands = {"SKIN"},
+     .options = {{"as", "NAME"}, {"keep-existing", ""}, {"replace", ""}},
+     .help =
+         "Write the skin, also under another name beside it, and tell its file; --keep-existing replaces no "
+         "picture of its folder, --replace also another skin or a damaged file.",
+     .run = Save},
+    {.name = "place",
+     .operands = {"SKIN"},
+     .options = {{"layout", "KEY", true}, {"size", "WxH"}},
+     .help = "Where elements and points stand, as JSON.",
+     .run = Place},
+    {.name = "render",
+     .operands = {"SKIN"},
+     .options = {{"layout", "KEY", true},
+                 {"out", "FILE.png", true},
+                 {"size", "WxH"},
+                 {"view", "preview|canvas"},
+                 {"edge", "soft|hard"},
+                 {"time", "HH:MM:SS"}},
+     .help = "A picture of the layout, its clocks at that time.",
+     .run = Render},
+    {.name = "recolour",
+     .operands = {"IN", "OUT"},
+     .options = {{"hue", "N", true}, {"saturation", "N", true}},
+     .help =
+         "A picture in one hue and saturation, 0 to 255 each; OUT ends in .bmp or .jpg, which is written in "
+         "the best quality.",
+     .run = Recolour},
 };
 
-int Misused(const QString& reason) {
-    std::fprintf(stderr, "ornavo-cli: %s\nTry 'ornavo-cli --help'.\n", qPrintable(reason));
+std::string Usage(std::span<const Command> commands) {
+    return "Usage: ornavo-cli COMMAND ...\n"
+           "SKIN is a skin's folder, the SkinSettings.xml in it, or the name of a skin in your folder "
+           "\"Skins\".\n\n" +
+           UsageOf(commands) +
+           "\n  --help     show this text, or that of one command\n  --version  show the version\n";
+}
+
+int Misused(const std::string& reason) {
+    std::fprintf(stderr, "ornavo-cli: %s\nTry 'ornavo-cli --help'.\n", reason.c_str());
     return 2;
 }
 
-void AddOptions(QCommandLineParser& parser, const Command& command) {
-    for (const QString& name : command.options) {
-        if (name.endsWith('!'))
-            parser.addOption(QCommandLineOption(name.chopped(1)));
-        else
-            parser.addOption(QCommandLineOption(name, {}, name));
-    }
-}
-
 int RunCommand(const Command& command, const QStringList& words) {
-    QCommandLineParser parser;
-    AddOptions(parser, command);
-    if (!parser.parse(words)) return Misused(parser.errorText());
-    const QStringList names = parser.positionalArguments();
-    if (names.size() != (command.pictures ? 2 : 1))
-        return Misused(command.pictures ? "name two pictures, IN and OUT" : "name one skin");
-    Arguments arguments;
-    arguments.skin = names.first().toStdString();
-    arguments.target = names.last().toStdString();
-    for (const QString& name : parser.optionNames())
-        arguments.options[name.toStdString()] = parser.value(name).toStdString();
     try {
-        return command.run(arguments);
+        return command.run(Parse(command, words));
     } catch (const UsageError& error) {
-        return Misused(Shown(error.description()));
+        return Misused(error.description());
+    } catch (const std::exception& failure) {
+        Tell(failure.what());
+        return command.failed;
     }
 }
 
 int Run(const QStringList& words) {
-    if (words.contains("--help")) return std::fputs(Usage, stdout) < 0;
+    const std::string name = words.size() < 2 ? "" : words[1].toStdString();
+    const auto command = std::ranges::find(Commands, name, &Command::name);
+    const bool isNamed = command != std::end(Commands);
+    if (words.contains("--help"))
+        return std::fputs(Usage(isNamed ? std::span(command, 1) : std::span(Commands)).c_str(), stdout) < 0;
     if (words.contains("--version")) return std::puts("ornavo-cli " ORNAVO_VERSION) < 0;
-    if (words.size() < 2) return Misused("no command");
-    for (const Command& command : Commands)
-        if (words[1] == command.name) return RunCommand(command, words.mid(1));
-    return Misused("unknown command '" + words[1] + "'");
+    if (name.empty()) return Misused("no command");
+    if (!isNamed) return Misused("unknown command '" + name + "'");
+    return RunCommand(*command, words.mid(1));
 }
 
 /// Keeps Qt's warnings about the environment off the error stream.

@@ -44,23 +44,12 @@ std::string FolderOf(const std::string& skin) {
 
 }  // namespace
 
-std::string Arguments::Get(const std::string& name, const std::string& standard) const {
-    const auto found = options.find(name);
-    return found == options.end() ? standard : found->second;
-}
-
 void Tell(const std::string& text) {
     std::fprintf(stderr, "ornavo-cli: %s\n", text.c_str());
 }
 
-std::string Arguments::Need(const std::string& name) const {
-    if (!Has(name)) throw UsageError("--" + name + " is missing");
-    return Get(name);
-}
-
-void OpenNamedSkin(const Arguments& arguments, bool upgraded) {
-    if (arguments.skin.empty()) throw UsageError("name one skin");
-    const std::string folder = FolderOf(arguments.skin);
+void OpenNamedSkin(const std::string& skin, bool upgraded) {
+    const std::string folder = FolderOf(skin);
     const std::string file = folder + std::string(SettingsFileName);
     const std::string bare = folder.substr(0, folder.size() - 1);
     objSkin = std::make_shared<dbSkin>();

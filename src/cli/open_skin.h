@@ -12,7 +12,7 @@ namespace ornavo {
 
 /// Opens the skin as the current one: by a path, or else by its name in the user's "Skins". Failure 53 if
 /// there is no settings file. `upgraded` adds the preferences that its file lacks.
-void OpenNamedSkin(const Arguments& arguments, bool upgraded = true);
+void OpenNamedSkin(const std::string& skin, bool upgraded = true);
 
 /// The layout of --layout. Failure 9 if the skin has no layout with this key.
 dbLayoutRef NamedLayout(const Arguments& arguments);

@@ -48,17 +48,18 @@ void SaveJpeg(const cDIBSection& picture, const std::string& name) {
 }  // namespace
 
 int Recolour(const Arguments& arguments) {
-    const std::string kind = GetExtensionName(arguments.target);
+    const std::string &in = arguments.operands[0], &out = arguments.operands[1];
+    const std::string kind = GetExtensionName(out);
     if (kind != "bmp" && kind != "jpg") throw UsageError("OUT ends in .bmp or .jpg");
     cColourise engine;
     engine.Hue = SettingOf(arguments, "hue");
     engine.Saturation = SettingOf(arguments, "saturation");
-    cDIBSection picture = SourceOf(arguments.skin);
+    cDIBSection picture = SourceOf(in);
     engine.Process(picture, picture);
     if (kind == "bmp")
-        picture.SavePicture(OnDisk(arguments.target));
+        picture.SavePicture(OnDisk(out));
     else
-        SaveJpeg(picture, arguments.target);
+        SaveJpeg(picture, out);
     return 0;
 }
 

@@ -128,7 +128,7 @@ int Render(const Arguments& arguments) {
     const bool preview = OneOf(arguments, "view", "preview", "canvas");
     const bool soft = OneOf(arguments, "edge", "soft", "hard");
     const GivenClock clock(arguments.Get("time", ""));
-    OpenNamedSkin(arguments);
+    OpenNamedSkin(arguments.operands[0]);
     objCurrentLayout = NamedLayout(arguments);
     const Size size = SizeToDraw(arguments);
     const ConsolePrompts answers;

@@ -39,7 +39,7 @@ void RefuseToReplace() {
 }  // namespace
 
 int Save(const Arguments& arguments) {
-    OpenNamedSkin(arguments);
+    OpenNamedSkin(arguments.operands[0]);
     if (arguments.Has("as")) {
         const std::string name = CleanFileName(arguments.Get("as"));
         if (!IsPlainName(name)) throw UsageError("--as takes the name of a folder");
