@@ -15,6 +15,8 @@ namespace ornavo {
 
 inline constexpr std::string_view SettingsFileName = "SkinSettings.xml";
 
+class LoadObserver;
+
 /// A skin, as it is edited, loaded and saved.
 class dbSkin {
 public:
@@ -43,6 +45,8 @@ public:
     /// nothing but OldSkinName and Damage changes. A line without meaning is skipped. SkinName is a plain
     /// folder name afterwards. Throws a Failure, and changes nothing, if the file cannot be read whole.
     bool LoadSkin();
+    /// Reads these bytes as the skin's file. The observer, unless it is null, is told of each line.
+    void LoadBytes(std::string_view bytes, LoadObserver* observer = nullptr);
     /// Copies the pictures into the skin's folder and writes the file, whole or not at all; a link in the
     /// file's place is itself replaced. Returns a line with the reason for each picture that could not be
     /// copied; such a picture keeps its full path. Throws a Failure, and leaves the model as it was, if the

@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 #include <utility>
-#include <variant>
 #include <vector>
 
 #include "base/failure.h"
@@ -16,6 +15,7 @@
 #include "base/text.h"
 #include "document/dbskin.h"
 #include "document/fields.h"
+#include "document/load_report.h"
 #include "document/skin_lines.h"
 
 namespace ornavo {
@@ -47,8 +47,7 @@ private:
 using PointsRef = std::shared_ptr<dbPoints>;
 using ElementsRef = std::shared_ptr<dbLayoutElements>;
 using LayoutsRef = std::shared_ptr<dbLayouts>;
-using Object = std::variant<std::monostate, dbSkin*, dbSkinPrefRef, FontRef, LayoutsRef, dbLayoutRef,
-                            PointsRef, dbPointRef, ElementsRef, dbLayoutElementRef>;
+using Object = LoadedObject;
 
 /// The open objects; the current one is on top.
 class LoadStack {
@@ -87,7 +86,8 @@ std::string NameOf(const Object& object) {
 /// Reads a settings file into a skin, line by line, and notes what could not be placed.
 class Loader {
 public:
-    explicit Loader(dbSkin& skin) : skin_(skin) {}
+    /// The observer may be null.
+    Loader(dbSkin& skin, LoadObserver* observer) : skin_(skin), observer_(observer) {}
     void Load(std::string_view bytes);
     /// What was lost of the file, in words; empty if it is whole.
     std::vector<std::string> Damage(std::string_view bytes) const;
@@ -102,10 +102,12 @@ private:
     static const std::array<Structure, 10> Structures;
 
     void ReadLine(std::string_view line);
-    void ReadStructure(std::string_view tag);
-    void AssignToCurrent(std::string_view tag, std::string_view bytes);
+    LineFate ReadTag(const TagLine& parts);
+    LineFate ReadStructure(std::string_view tag);
+    LineFate AssignToCurrent(std::string_view tag, std::string_view bytes);
     template <class T>
-    void Assign(FieldFinder<T>& finder, T& object, const TagLine& line);
+    LineFate Assign(FieldFinder<T>& finder, T& object, const TagLine& line);
+    void ReadObserved(std::string_view line, const TagLine& parts);
 
     void OpenSkin() {
         ++skins_;
@@ -144,6 +146,8 @@ private:
     void CloseFont();
 
     dbSkin& skin_;
+    LoadObserver* observer_;
+    int line_ = 0;  // its number, counted for the observer
     LoadStack stack_;
     int skins_ = 0;                    // how many <Skin> tags
     bool endsEarly_ = false;           // a tag was still open at the end
@@ -213,28 +217,50 @@ void Loader::Pop(bool kept) {
 void Loader::ReadLine(std::string_view line) {
     const std::optional<TagLine> plain = PlainLine(line);
     const TagLine parts = plain ? *plain : GetTag(TrimTag(line));
-    if (parts.tag.empty() || parts.tag[0] == ' ' || parts.tag[0] == '!' || parts.tag[0] == '?') return;
-    if (parts.value)
-        AssignToCurrent(parts.tag, *parts.value);
+    if (observer_)
+        ReadObserved(line, parts);
     else
-        ReadStructure(parts.tag);
+        ReadTag(parts);
 }
 
-void Loader::ReadStructure(std::string_view tag) {
+void Loader::ReadObserved(std::string_view line, const TagLine& parts) {
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    LineReport report{++line_, {}, line, parts.tag, parts.value.value_or(""), stack_.Current(), {}};
+    report.fate = ReadTag(parts);
+    if (report.fate == LineFate::Opened) {
+        report.object = stack_.Current();
+        report.parent = stack_.ParentObject();
+    }
+    observer_->Tell(report);
+}
+
+LineFate Loader::ReadTag(const TagLine& parts) {
+    if (parts.tag.empty() || parts.tag[0] == ' ' || parts.tag[0] == '!' || parts.tag[0] == '?')
+        return LineFate::Nothing;
+    return parts.value ? AssignToCurrent(parts.tag, *parts.value) : ReadStructure(parts.tag);
+}
+
+LineFate Loader::ReadStructure(std::string_view tag) {
     const bool closing = tag[0] == '/';
     if (closing) tag.remove_prefix(1);
-    for (const Structure& structure : Structures)
-        if (EqualText(structure.tag, tag)) return (this->*(closing ? structure.close : structure.open))();
+    for (const Structure& structure : Structures) {
+        if (!EqualText(structure.tag, tag)) continue;
+        (this->*(closing ? structure.close : structure.open))();
+        return closing ? LineFate::Closed : LineFate::Opened;
+    }
+    return LineFate::Unknown;
 }
 
 template <class T>
-void Loader::Assign(FieldFinder<T>& finder, T& object, const TagLine& line) {
+LineFate Loader::Assign(FieldFinder<T>& finder, T& object, const TagLine& line) {
     const Field<T>* field = finder.Find(line.tag);
-    if (!field || field->take(object, *line.value)) return;
-    Attempt([&] { field->set(object, ReadValue(*line.value)); });
+    if (!field) return LineFate::NoField;
+    const bool taken =
+        field->take(object, *line.value) || Attempt([&] { field->set(object, ReadValue(*line.value)); });
+    return taken ? LineFate::Assigned : LineFate::Refused;
 }
 
-void Loader::AssignToCurrent(std::string_view tag, std::string_view bytes) {
+LineFate Loader::AssignToCurrent(std::string_view tag, std::string_view bytes) {
     const TagLine line{tag, bytes};
     Object& current = stack_.Current();
     if (auto* element = std::get_if<dbLayoutElementRef>(&current))
@@ -244,10 +270,10 @@ void Loader::AssignToCurrent(std::string_view tag, std::string_view bytes) {
     if (auto* font = std::get_if<FontRef>(&current)) return Assign(fontFields_, **font, line);
     if (auto* layout = std::get_if<dbLayoutRef>(&current)) return Assign(layoutFields_, **layout, line);
     auto* skin = std::get_if<dbSkin*>(&current);
-    if (!skin) return;
+    if (!skin) return LineFate::NoField;
     // The file must not decide where the skin's folder is or whether the skin has been changed.
     const Field<dbSkin>* field = skinFields_.Find(tag);
-    if (field && field->saved) Assign(skinFields_, **skin, line);
+    return field && field->saved ? Assign(skinFields_, **skin, line) : LineFate::NoField;
 }
 
 // Without a layout to give a collection to, the current object is pushed once more, so that the closing tag
@@ -327,14 +353,17 @@ bool NamesFolder(const std::string& name, const std::string& folder) {
 bool dbSkin::LoadSkin() {
     const std::string file = SkinFile();
     const bool found = !NothingStandsAt(file);
-    const std::string bytes = found ? ReadFile(file) : "";
+    LoadBytes(found ? ReadFile(file) : "");
+    return found;
+}
+
+void dbSkin::LoadBytes(std::string_view bytes, LoadObserver* observer) {
     OldSkinName = SkinName;
-    Loader loader(*this);
+    Loader loader(*this, observer);
     loader.Load(bytes);
     Damage = loader.Damage(bytes);
     if (SkinName != OldSkinName) SkinName = CleanFileName(SkinName);
     if (!IsPlainName(SkinName) || NamesFolder(SkinName, OldSkinName)) SkinName = OldSkinName;
-    return found;
 }
 
 }  // namespace ornavo
