@@ -57,6 +57,12 @@ public:
         throw NotFound();
     }
 
+    /// Replaces each item by a copy of it, after which none is shared with another collection.
+    void CopyItems() {
+        for (Entry& entry : items_)
+            byKey_.find(entry.key)->second = entry.item = std::make_shared<T>(*entry.item);
+    }
+
 private:
     /// An item with its key.
     struct Entry {

@@ -10,6 +10,7 @@ namespace ornavo {
 void Tell(const std::string& text);
 
 /// Each returns the exit code, or throws a Failure if it cannot do its work.
+int Check(const Arguments&);
 int Dump(const Arguments&);
 int Save(const Arguments&);
 int Place(const Arguments&);

@@ -12,6 +12,14 @@ namespace ornavo {
 namespace {
 
 const Command Commands[] = {
+    {.name = "check",
+     .operands = {"SKIN"},
+     .options = {{"json", ""}, {"strict", ""}, {"ignore", "FILE"}},
+     .help =
+         "What is wrong with the skin. The exit code is 1 if there is an error, with --strict also if there "
+         "is a warning, and 3 if the skin can't be read; FILE has what is not to be told.",
+     .run = Check,
+     .failed = 3},
     {.name = "dump",
      .operands = {"SKIN"},
      .options = {{"raw", ""}},

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "check/finding.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/find_row.h"
+
+namespace ornavo {
+namespace {
+
+using enum Severity;
+
+// clang-format off
+constexpr FindingKind Kinds[] = {
+    // The lines of the file.
+    {"damaged-file", Error, "Mend the file with a text editor, or open it and save it: the damaged file is kept in \"Recovered\"."},
+    {"lost-object", Error, "Give it a place: its tags must stand in the list that they belong to, and its key must be its own."},
+    {"not-written", Error, "Number the orders from 1 without a gap, or move the element up and down once in the editor."},
+    {"other-name", Warning, "Give the folder the skin's name, or the skin the folder's."},
+    {"unknown-line", Warning, "Correct the tag's name, or remove the line."},
+    {"stray-text", Warning, "Remove the text, or put it into a comment."},
+    {"refused-value", Warning, "Write a value that the field can hold."},
+    {"overwritten-line", Warning, "Remove the line that doesn't count."},
+    {"changed-value", Warning, "Write the value in the form that the next save gives it."},
+    {"new-preferences", Hint, "Open and save the skin once."},
+};
+// clang-format on
+
+}  // namespace
+
+std::string_view NameOf(Severity severity) {
+    constexpr std::string_view Names[] = {"error", "warning", "hint"};
+    return Names[static_cast<int>(severity)];
+}
+
+std::span<const FindingKind> FindingKinds() {
+    return Kinds;
+}
+
+Finding MakeFinding(std::string_view code, FindingPlace place, int line, std::string text) {
+    return {std::ranges::find(Kinds, code, &FindingKind::code), std::move(place), line, std::move(text)};
+}
+
+void SortBySeverity(Findings& findings) {
+    std::ranges::stable_sort(findings, {}, [](const Finding& finding) { return finding.kind->severity; });
+}
+
+}  // namespace ornavo
