@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "check/check.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "base/files.h"
 #include "base/lookup.h"
 #include "check/file_lines.h"
+#include "check/pictures_check.h"
 
 namespace ornavo {
 
@@ -11,6 +15,7 @@ Findings CheckSkin(const dbSkin& skin) {
     const LookupScope names;
     const LoadedSkin loaded(skin, ReadFile(skin.SkinFile()));
     Findings findings = CheckLines(loaded);
+    std::ranges::move(CheckPictures(loaded), std::back_inserter(findings));
     SortBySeverity(findings);
     return findings;
 }

@@ -23,6 +23,21 @@ constexpr FindingKind Kinds[] = {
     {"refused-value", Warning, "Write a value that the field can hold."},
     {"overwritten-line", Warning, "Remove the line that doesn't count."},
     {"changed-value", Warning, "Write the value in the form that the next save gives it."},
+    // Pictures.
+    {"missing-picture", Error, "Put the picture into the skin's folder, or choose another."},
+    {"unreadable-picture", Error, "Save the picture anew with a picture program, as PNG, JPEG, BMP or GIF."},
+    {"refused-picture", Error, "Give the picture another name."},
+    {"outside-picture", Warning, "Save the skin."},
+    {"renamed-picture", Warning, "Save the skin, or give the picture a plain name."},
+    {"two-pictures-one-name", Warning, "Give one of the pictures another name."},
+    {"mixed-animation", Warning, "Use animated pictures for all states, or for none."},
+    {"clear-pixels", Warning, "Switch Use Transparency on, or use a picture without clear pixels."},
+    {"heavy-skin", Warning, "Use smaller pictures."},
+    {"picture-case", Hint, "Name it as the file is called."},
+    {"large-picture", Hint, "Make the picture smaller: it takes memory and time."},
+    {"unused-key-colour", Hint, "Choose a color of the picture, or switch Use Transparency off."},
+    {"unnamed-file", Hint, "Remove the file, or name it somewhere."},
+    // Use.
     {"new-preferences", Hint, "Open and save the skin once."},
 };
 // clang-format on
