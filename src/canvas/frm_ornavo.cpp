@@ -127,7 +127,10 @@ void frm_Ornavo::tmrResizer_Timer() {
     tmrResizer.stop();
     ShowGrid();
     if (!SkinIsOpen() || !IsActivated) return;
-    UpdateCurrentLayout();
+    // A window that is shown or moved may be resized to the size it has.
+    const bool isComposed =
+        TargetForm == this && TargetLayout == objCurrentLayout && TargetFrame == OwnFrame();
+    if (!isComposed) UpdateCurrentLayout();
     if (Control* selected = selection_.SelControl(); selected && FamilyOf(*selected))
         SelectWithAnchors(*selected);
 }
@@ -202,10 +205,12 @@ void frm_Ornavo::ShowWelcome() {
         welcome_.Show(SkinIsOpen() ? objSkin->SkinName : notFound_, SkinIsOpen() && objSkin->SkinWidth > 0);
 }
 
+Frame frm_Ornavo::OwnFrame() const {
+    return {ScaleWidth(), ScaleHeight(), objSkin->SkinWidth, objSkin->SkinHeight};
+}
+
 void frm_Ornavo::ShowGrid() {
-    surface_.ShowGrid({ScaleWidth(), ScaleHeight(), objSkin->SkinWidth, objSkin->SkinHeight},
-                      devicePixelRatioF());
-    update();
+    if (surface_.ShowGrid(OwnFrame(), devicePixelRatioF())) update();
 }
 
 void frm_Ornavo::paintEvent(QPaintEvent* event) {

@@ -70,6 +70,9 @@ protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseDoubleClickEvent(QMouseEvent*) override;
+    // Nothing on the canvas shows the focus, so nothing is painted when it comes or goes.
+    void focusInEvent(QFocusEvent*) override {}
+    void focusOutEvent(QFocusEvent*) override {}
     bool focusNextPrevChild(bool) override { return false; }  // Tab is a key of the canvas
 
 private:
@@ -78,6 +81,7 @@ private:
     void AddShortcut(QKeyCombination keys);
     void SaveSettings() const;
     void ShowWelcome();
+    Frame OwnFrame() const;
     void ApplicationStateChanged(Qt::ApplicationState state);
 
     Windows& windows_;

@@ -71,7 +71,7 @@ void ResetToOriginalSize(CanvasParts& parts) {
     const dbLayoutElementRef element = SelectedElement(parts);
     if (!element) return;
     if (const PictureRef picture = LoadSkinPicture(element->PicNormal))
-        PicRealSize = {picture->image.width(), picture->image.height()};
+        PicRealSize = {picture->image().width(), picture->image().height()};
     if (PicRealSize == Size{}) return;
     element->WidthX = PicRealSize.width;
     element->HeightY = PicRealSize.height;

@@ -155,8 +155,8 @@ void PicturesCheck::CheckFile(const Sheet& sheet) {
         return Add("unreadable-picture", sheet,
                    Quoted(sheet.reference->given) +
                        " can't be read as a picture, or is too large: nothing is shown.");
-    weights_[sheet.reference->source] = picture->image.sizeInBytes();
-    CheckPlaces(sheet, picture->image);
+    weights_[sheet.reference->source] = picture->image().sizeInBytes();
+    CheckPlaces(sheet, picture->image());
 }
 
 void PicturesCheck::CheckPlaces(const Sheet& sheet, const QImage& image) {

@@ -28,10 +28,10 @@ cDIBSection SourceOf(const std::string& name) {
     if (!FileExists(name)) throw Failure(Failure::FileNotFound, "Recolour", name + " not found!");
     const PictureRef picture = LoadPicture(OnDisk(name));
     if (!picture) throw Failure(Failure::InvalidCall, "Recolour", name + " is no picture that can be read.");
-    if (IsSeeThrough(picture->image))
+    if (IsSeeThrough(picture->image()))
         std::fprintf(stderr, "ornavo-cli: %s is transparent in places; they are put on white\n",
                      name.c_str());
-    const QImage flat = Flattened(picture->image, Qt::white);
+    const QImage flat = Flattened(picture->image(), Qt::white);
     cDIBSection source;
     if (flat.isNull() ||
         !source.CreateFromPicture(flat.constBits(), flat.width(), flat.height(), flat.bytesPerLine()))

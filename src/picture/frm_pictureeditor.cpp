@@ -131,18 +131,18 @@ void frm_PictureEditor::LoadSource() {
     const PictureRef picture = LoadSkinPicture(editPicture_);
     const dbLayoutElementRef element = objCurrentLayout->dbLayoutElements->Find(selKey_);
     const Ground ground = GroundOf(element);
-    const QImage flat = picture ? Flattened(picture->image, ground.colour) : QImage();
+    const QImage flat = picture ? Flattened(picture->image(), ground.colour) : QImage();
     const bool loaded = !flat.isNull() && source_.CreateFromPicture(flat.constBits(), flat.width(),
                                                                     flat.height(), flat.bytesPerLine());
     btn_Save->setEnabled(loaded);
     if (!loaded)
         loss_ = Quoted(GetFileName(editPicture_)) + " can't be opened as a picture.";
-    else if (IsAnimatedGIF(picture->path))
+    else if (IsAnimatedGIF(FindSkinPicture(editPicture_)))
         loss_ = "The picture is animated and the saved one can't be: it is the first frame. ";
     if (!loaded) return;
-    kept_ = element ? KeptClear(*element, picture->image, source_) : KeptClear();
+    kept_ = element ? KeptClear(*element, picture->image(), source_) : KeptClear();
     kept_.Paint(source_);
-    const bool seeThrough = IsSeeThrough(picture->image);
+    const bool seeThrough = IsSeeThrough(picture->image());
     if (const std::string kept = kept_.Told(); !kept.empty())
         loss_ +=
             kept + (seeThrough ? "; the rest is put on " + ground.name : "") + ". A JPEG can't keep that.";

@@ -66,8 +66,8 @@ int PictureBox::TextWidth(std::string_view text) const {
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), ScreenColour(BackColor()));
-    if (tile_) painter.fillRect(event->rect(), QBrush(tile_->image));
-    if (picture_) painter.drawImage(0, 0, picture_->image);
+    if (tile_) painter.fillRect(event->rect(), QBrush(tile_->image()));
+    if (picture_) painter.drawImage(0, 0, picture_->image());
     if (!layer_.isNull()) painter.drawPixmap(0, 0, layer_);
 }
 

@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pictures.h"
 
-#include <QFile>
-#include <QImageReader>
-#include <QtEndian>
 #include <algorithm>
-#include <array>
-#include <atomic>
 #include <list>
 #include <map>
 
 #include "base/lookup.h"
 #include "base/paths.h"
-#include "platform/shown.h"
+#include "platform/picture_file.h"
+#include "platform/picture_worker.h"
 
 namespace ornavo {
 namespace {
@@ -20,7 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::int64_t KeptBytes = std::int64_t{64} << 20;  // of pictures that are kept although unused
-constexpr int DecoderMegabytes = 256;                       // enough for PicturePixelLimit at 4 bytes
 
 std::int64_t bytesInUse = 0;
 
@@ -39,6 +34,7 @@ struct Shelf {
     std::map<fs::path::string_type, std::int64_t> seen;
     std::list<PictureRef> kept;  // the most recently used first
     std::int64_t keptBytes = 0;
+    PictureWorker* worker = nullptr;  // null unless some are decoded ahead
 };
 
 Shelf& shelf() {
@@ -61,24 +57,14 @@ void Remember(const fs::path& path) {
     shelf().seen.try_emplace(folder.native(), StateOf(folder).written);
 }
 
-QString FileName(const fs::path& path) {
-    return Shown(ToText(path));
-}
-
-std::int64_t PixelsOf(const QSize& size) {
-    return std::int64_t{size.width()} * size.height();
-}
-
-void PrepareReader(QImageReader& reader) {
-    QImageReader::setAllocationLimit(DecoderMegabytes);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(false);
+std::int64_t BytesOf(const Picture& picture) {
+    return 4 * PixelsOf(picture.size);
 }
 
 void DropUntil(std::int64_t most) {
     Shelf& all = shelf();
     while (all.keptBytes > most && !all.kept.empty()) {
-        all.keptBytes -= all.kept.back()->image.sizeInBytes();
+        all.keptBytes -= BytesOf(*all.kept.back());
         all.kept.pop_back();
     }
 }
@@ -91,61 +77,58 @@ void Keep(const PictureRef& picture) {
         return;
     }
     all.kept.push_front(picture);
-    all.keptBytes += picture->image.sizeInBytes();
+    all.keptBytes += BytesOf(*picture);
     DropUntil(KeptBytes);
 }
 
-bool Fits(const QSize& size) {
-    return size.width() <= PictureSideLimit && size.height() <= PictureSideLimit &&
-           PixelsOf(size) <= PicturePixelLimit;
+/// The picture that the worker has decoded, or that of the file. Null if it is none or exceeds a limit.
+QImage Read(const fs::path& path) {
+    if (shelf().worker)
+        if (std::optional<QImage> ready = shelf().worker->Take(path)) return std::move(*ready);
+    PictureFile file(path);
+    const QSize size = file.Size();
+    if (!FitsPicture(size)) return {};
+    const PictureMemory memory = PictureMemory::Take(size.isValid() ? PixelsOf(size) : PicturePixelLimit);
+    return memory ? file.Decoded() : QImage();
 }
 
-/// The canvas size in a GIF's header; invalid if the file is too short.
-QSize CanvasOfGif(const fs::path& path) {
-    QFile file(FileName(path));
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray head = file.read(10);
-    if (head.size() < 10) return {};
-    const auto at = [&](int byte) { return int{qFromLittleEndian<quint16>(head.constData() + byte)}; };
-    return {at(6), at(8)};
-}
-
-/// The size for which decoding takes memory; invalid if the header does not tell it. For a GIF, QImageReader
-/// tells the size of the first frame, but the frame is painted on the whole canvas.
-QSize SizeOf(QImageReader& reader, const fs::path& path) {
-    const QSize size = reader.size();
-    return reader.format() == "gif" ? size.expandedTo(CanvasOfGif(path)) : size;
-}
-
-QImage Decoded(QImageReader& reader) {
-    QImage image;
-    reader.read(&image);  // for a truncated file the image may have a part despite a failure
-    if (image.isNull() || !Fits(image.size())) return {};
-    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    image.setDevicePixelRatio(1);
-    return image;
-}
-
-PictureRef Decode(const fs::path& path) {
-    QImageReader reader(FileName(path));
-    PrepareReader(reader);
-    const QSize size = SizeOf(reader, path);
-    if (!Fits(size)) return nullptr;
-    const std::int64_t pixels = size.isValid() ? PixelsOf(size) : PicturePixelLimit;
-    PictureMemory memory = PictureMemory::Take(pixels);
-    if (!memory) return nullptr;
-    QImage image = Decoded(reader);
-    memory.Give();
-    if (image.isNull()) return nullptr;
-    memory = PictureMemory::Take(PixelsOf(image.size()));
-    if (!memory) return nullptr;
-    /// A picture with the memory reserved for it, so that both are freed together.
-    struct Counted {
+/// A picture with the memory reserved for it, so that both are freed together. Null if there is none left.
+PictureRef Counted(Picture picture) {
+    struct Both {
         Picture picture;
         PictureMemory memory;
     };
-    auto counted = std::make_shared<Counted>(Counted{{std::move(image), path}, std::move(memory)});
-    return PictureRef(counted, &counted->picture);
+    PictureMemory memory = PictureMemory::Take(PixelsOf(picture.size));
+    if (!memory) return nullptr;
+    auto both = std::make_shared<Both>(Both{std::move(picture), std::move(memory)});
+    return PictureRef(both, &both->picture);
+}
+
+PictureRef Decode(const fs::path& path) {
+    QImage image = Read(path);
+    return image.isNull() ? nullptr : Counted(Picture(std::move(image)));
+}
+
+/// Reads the header only, if that tells the size of the image.
+PictureRef DecodeLater(const fs::path& path) {
+    PictureFile file(path);
+    const QSize size = file.Size();
+    if (!size.isValid() || file.reader().format() == "gif") return Decode(path);
+    return Counted(Picture(size, [path, size] {
+        QImage image = PictureFile(path).Decoded();
+        return image.size() == size ? image : QImage();
+    }));
+}
+
+PictureRef Shared(const fs::path& path, PictureRef (*make)(const fs::path&)) {
+    Remember(path);
+    Stamp stamp;
+    if (!StampOf(path, stamp)) return nullptr;
+    std::weak_ptr<const Picture>& known = shelf().known[stamp];
+    PictureRef picture = known.lock();
+    if (!picture) known = picture = make(path);
+    if (picture) Keep(picture);
+    return picture;
 }
 
 }  // namespace
@@ -174,47 +157,59 @@ bool PicturesChanged() {
     return changed;
 }
 
+PicturesAhead::PicturesAhead(const std::vector<fs::path>& files) {
+    std::vector<fs::path> unknown;
+    for (const fs::path& file : files) {
+        Stamp stamp;
+        if (!StampOf(file, stamp)) continue;
+        const auto known = shelf().known.find(stamp);
+        if (known == shelf().known.end() || known->second.expired()) unknown.push_back(file);
+    }
+    if (unknown.size() < 2 || std::thread::hardware_concurrency() < 2) return;
+    worker_ = std::make_unique<PictureWorker>(unknown);
+    shelf().worker = worker_.get();
+}
+
+PicturesAhead::~PicturesAhead() {
+    shelf().worker = nullptr;
+}
+
 PictureRef LoadPicture(const fs::path& path) {
-    Remember(path);
-    Stamp stamp;
-    if (!StampOf(path, stamp)) return nullptr;
-    std::weak_ptr<const Picture>& known = shelf().known[stamp];
-    PictureRef picture = known.lock();
-    if (!picture) known = picture = Decode(path);
-    if (picture) Keep(picture);
-    return picture;
+    PictureRef picture = Shared(path, Decode);
+    return picture && picture->image().isNull() ? nullptr : picture;
+}
+
+PictureRef LoadPictureForLater(const fs::path& path) {
+    return Shared(path, DecodeLater);
 }
 
 QImage LoadThumbnail(const fs::path& path, const QSize& most) {
     Stamp stamp;
     if (!StampOf(path, stamp)) return {};
-    QImageReader reader(FileName(path));
-    PrepareReader(reader);
-    const QSize size = SizeOf(reader, path);
-    if (!size.isValid() || !Fits(size) || PixelsOf(size) > ThumbnailPixelLimit) return {};
+    PictureFile file(path);
+    const QSize size = file.Size();
+    if (!size.isValid() || !FitsPicture(size) || PixelsOf(size) > ThumbnailPixelLimit) return {};
     const PictureMemory memory = PictureMemory::Take(PixelsOf(size));
     if (!memory) return {};
     if (size.width() > most.width() || size.height() > most.height())
-        reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    return Decoded(reader);
+        file.reader().setScaledSize(size.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    return file.Decoded();
 }
 
 namespace {
 
 bool HasFrames(const fs::path& path) {
-    QImageReader reader(FileName(path));
-    PrepareReader(reader);
-    if (reader.format() != "gif" || !reader.supportsAnimation()) return false;
-    const QSize size = SizeOf(reader, path);
-    return size.isValid() && Fits(size) && reader.imageCount() > 1;
+    PictureFile file(path);
+    if (file.reader().format() != "gif" || !file.reader().supportsAnimation()) return false;
+    const QSize size = file.Size();
+    return size.isValid() && FitsPicture(size) && file.reader().imageCount() > 1;
 }
 
 }  // namespace
 
 std::int64_t PixelsOfGif(const fs::path& path) {
-    QImageReader reader(FileName(path), "gif");
-    const QSize size = SizeOf(reader, path);
-    return size.isValid() && Fits(size) ? PixelsOf(size) : 0;
+    const QSize size = PictureFile(path, "gif").Size();
+    return size.isValid() && FitsPicture(size) ? PixelsOf(size) : 0;
 }
 
 bool IsAnimatedGIF(const fs::path& path) {

@@ -5,22 +5,35 @@
 #include <QImage>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <utility>
+#include <vector>
+
+#include "platform/picture_limits.h"
 
 namespace ornavo {
 
-inline constexpr std::int64_t PicturePixelLimit = 64'000'000;              // pixels of one picture
-inline constexpr int PictureSideLimit = 16'384;                            // width and height in pixels
-inline constexpr std::int64_t PictureByteLimit = std::int64_t{512} << 20;  // all pictures in use together
-inline constexpr std::int64_t ThumbnailPixelLimit = 16'000'000;            // pixels of one picture
-
-/// A decoded picture. LoadPicture returns the same object again as long as the file's path, size and time are
+/// A picture. LoadPicture returns the same object again as long as the file's path, size and time are
 /// unchanged and the object is in use or in the cache.
-struct Picture {
-    QImage image;                // as decoded, never null
-    std::filesystem::path path;  // the file it was read from
-    QImage fine = {};  // with twice the pixels each way, for high-dpi screens; null if there is none
+class Picture {
+public:
+    /// `finer` has twice the pixels each way, for high-dpi screens; null if there is none.
+    explicit Picture(QImage image, QImage finer = {})
+        : size(image.size()), fine(std::move(finer)), image_(std::move(image)) {}
+    /// A picture that is decoded at its first use.
+    Picture(const QSize& pixels, std::function<QImage()> decode) : size(pixels), decode_(std::move(decode)) {}
+    /// As decoded; null only if it was to be decoded later and could not be.
+    const QImage& image() const {
+        if (decode_) image_ = std::exchange(decode_, nullptr)();
+        return image_;
+    }
+    QSize size;
+    QImage fine;
+
+private:
+    mutable std::function<QImage()> decode_;
+    mutable QImage image_;
 };
 using PictureRef = std::shared_ptr<const Picture>;
 
@@ -44,8 +57,26 @@ private:
     std::int64_t bytes_ = 0;
 };
 
+class PictureWorker;
+
+/// While one lives, a second core decodes these files, the last first, for a caller of LoadPicture who begins
+/// with the first. What LoadPicture gives is the same as without it.
+class PicturesAhead {
+public:
+    explicit PicturesAhead(const std::vector<std::filesystem::path>& files);
+    ~PicturesAhead();
+    PicturesAhead(const PicturesAhead&) = delete;
+    PicturesAhead& operator=(const PicturesAhead&) = delete;
+
+private:
+    std::unique_ptr<PictureWorker> worker_;
+};
+
 /// Null for a file that is not a picture, is too large (refused before memory is taken) or cannot be read.
 PictureRef LoadPicture(const std::filesystem::path& path);
+/// The same for a picture that may never be shown: its header is read and its memory reserved, but it is
+/// decoded at its first use.
+PictureRef LoadPictureForLater(const std::filesystem::path& path);
 /// The first frame of a picture file, shrunk to fit into `most` (pixels) but never enlarged. Null as for
 /// LoadPicture, and for more than ThumbnailPixelLimit pixels, which would take too long.
 QImage LoadThumbnail(const std::filesystem::path& path, const QSize& most);

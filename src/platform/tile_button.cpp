@@ -12,6 +12,7 @@ namespace ornavo {
 namespace {
 
 constexpr int FirstRepeat = 300, NextRepeat = 100;  // milliseconds
+constexpr int LargePart = 4;  // a control is large from this part of its parent's area on
 enum Kind { Normal, Over, Down };
 
 }  // namespace
@@ -22,7 +23,7 @@ struct TileButton::Look {
     struct Source {
         PictureRef picture;
         std::string animated;
-        bool IsEmpty() const { return !picture && animated.empty(); }
+        bool IsEmpty() const { return animated.empty() && (!picture || picture->image().isNull()); }
         bool operator==(const Source&) const = default;
     };
     TileState state;
@@ -44,7 +45,7 @@ struct TileButton::Look {
     const QImage* ShownImage() const {
         if (movie) return &movie->Frame();
         const Source& shown = Shown();
-        return shown.picture ? &shown.picture->image : nullptr;
+        return shown.picture ? &shown.picture->image() : nullptr;
     }
 };
 
@@ -69,7 +70,7 @@ Colour TileButton::TransparentColor() const {
     const Look::Source& normal = look_->sources[Normal];
     if (look_->movie && look_->movie->Path() == normal.animated)
         return KeyColourOf(look_->state, look_->movie->Frame());
-    return KeyColourOf(look_->state, normal.picture ? normal.picture->image : QImage());
+    return KeyColourOf(look_->state, normal.picture ? normal.picture->image() : QImage());
 }
 
 void TileButton::Refresh() {
@@ -104,6 +105,18 @@ void TileButton::ShowSource() {
             });
     }
     if (look_->movie) look_->movie->Run(isVisible());
+    TellOpaque();
+}
+
+/// Tells Qt whether what is behind needn't be painted. It keeps account of the places of such controls, which
+/// is worth it only for a large one.
+void TileButton::TellOpaque() {
+    const QSize room = parentWidget() ? parentWidget()->size() : QSize();
+    const bool isLarge =
+        LargePart * std::int64_t{width()} * height() >= std::int64_t{room.width()} * room.height();
+    const PictureRef& picture = look_->Shown().picture;
+    setAttribute(Qt::WA_OpaquePaintEvent,
+                 isLarge && IsOpaque(look_->state, picture ? picture->image() : QImage()));
 }
 
 /// Takes over the state of the mouse and shows the picture for it.
@@ -200,6 +213,7 @@ void TileButton::hideEvent(QHideEvent*) {
 }
 
 void TileButton::resizeEvent(QResizeEvent*) {
+    TellOpaque();
     update();
 }
 

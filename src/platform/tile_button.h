@@ -53,6 +53,7 @@ protected:
 private:
     struct Look;
     void ShowSource();
+    void TellOpaque();
     void FollowMouse(bool over, bool pressed, bool inside);
 
     std::unique_ptr<Look> look_;  // as last drawn, with the state of mouse and animation

@@ -53,12 +53,12 @@ std::shared_ptr<const QImage> FinishedTile(const PictureRef& picture, const Tile
                                            int scale) {
     if (!picture) return nullptr;
     Cache& all = cache();
-    const Key key = KeyOf(picture->image, state, size, scale);
+    const Key key = KeyOf(picture->image(), state, size, scale);
     if (const auto found = all.byKey.find(key); found != all.byKey.end()) {
         all.kept.splice(all.kept.begin(), all.kept, found->second);
         return found->second->image;
     }
-    auto made = std::make_shared<const QImage>(FinishedPicture(picture->image, state, size, scale));
+    auto made = std::make_shared<const QImage>(FinishedPicture(picture->image(), state, size, scale));
     if (made->isNull()) return nullptr;
     all.kept.push_front({key, made});
     all.byKey[key] = all.kept.begin();

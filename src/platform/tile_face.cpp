@@ -20,14 +20,35 @@ Colour ColourOfPixel(QRgb pixel) {
     return Rgb(qRed(pixel), qGreen(pixel), qBlue(pixel));
 }
 
+/// What makes a pixel of the picture comparable with an opaque colour: 32-bit pixels without alpha have any.
+QRgb OpaqueBits(const QImage& picture) {
+    return picture.hasAlphaChannel() ? 0 : qRgb(0, 0, 0);
+}
+
+QRgb PixelOf(Colour colour) {
+    return qRgb(RedOf(colour), GreenOf(colour), BlueOf(colour));
+}
+
+bool Holds(const QImage& picture, Colour key) {
+    if (key == NoColour) return false;
+    const QRgb hidden = PixelOf(key), opaque = OpaqueBits(picture);
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        const auto isHidden = [=](QRgb pixel) { return (pixel | opaque) == hidden; };
+        if (std::any_of(line, line + picture.width(), isHidden)) return true;
+    }
+    return false;
+}
+
 QImage Keyed(const QImage& picture, const TileState& state) {
     const Colour key = HiddenColourOf(state, picture);
     if (key == NoColour) return picture;
-    const QRgb hidden = qRgb(RedOf(key), GreenOf(key), BlueOf(key));
-    QImage keyed = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QRgb hidden = PixelOf(key), opaque = OpaqueBits(picture);
+    QImage keyed(picture.size(), QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < keyed.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(keyed.scanLine(y));
-        std::replace(line, line + keyed.width(), hidden, QRgb{0});
+        const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        std::transform(from, from + keyed.width(), reinterpret_cast<QRgb*>(keyed.scanLine(y)),
+                       [=](QRgb pixel) { return (pixel | opaque) == hidden ? QRgb{0} : pixel | opaque; });
     }
     return keyed;
 }
@@ -205,7 +226,7 @@ void PaintLayer(QPainter& painter, const TileState& state, const TileLayer& laye
         PaintText(painter, state, layer, size);
     } else if (layer.Picture) {
         const int top = WholePixels(std::round(layer.Top));
-        const QImage& plain = layer.Picture->image;
+        const QImage& plain = layer.Picture->image();
         const bool isFine = painter.device()->devicePixelRatio() > 1 && !layer.Picture->fine.isNull();
         const QRect area(PictureLeft(layer, size, plain.width()), top, plain.width(), plain.height());
         painter.drawImage(area, isFine ? layer.Picture->fine : plain);
@@ -244,12 +265,25 @@ Colour HiddenColourOf(const TileState& state, const QImage& picture) {
     return TranslateColor(KeyColourOf(state, picture));
 }
 
+bool IsOpaque(const TileState& state, const QImage& picture) {
+    if (state.BackStyle != 0) return true;
+    return !picture.isNull() && !picture.hasAlphaChannel() && QuarterTurns(state) == 0 &&
+           !Holds(picture, HiddenColourOf(state, picture));
+}
+
 QImage FinishedPicture(const QImage& picture, const TileState& state, Size size, int scale) {
     const std::int64_t pixels = std::int64_t{size.width} * size.height * scale * scale;
     if (picture.isNull() || size.width < 1 || size.height < 1 || pixels > FinishedPixelLimit) return {};
     const QSize target(size.width, size.height);
-    QImage image = Keyed(picture, state);
     const double turns = QuarterTurns(state);
+    const bool isAsItIs =
+        turns == 0 && picture.size() == target * scale && !Holds(picture, HiddenColourOf(state, picture));
+    if (isAsItIs) {
+        QImage same = picture;
+        same.setDevicePixelRatio(scale);
+        return same;
+    }
+    QImage image = Keyed(picture, state);
     if (state.ShowSmooth) {
         if (image.size() != target * scale)
             image = image.scaled(target * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

@@ -77,6 +77,9 @@ Colour KeyColourOf(const TileState& state, const QImage& picture);
 inline constexpr Colour NoColour = -1;
 Colour HiddenColourOf(const TileState& state, const QImage& picture);
 
+/// Whether a button of this state covers what is behind it when it shows the picture.
+bool IsOpaque(const TileState& state, const QImage& picture);
+
 /// The picture with its key colour removed, then stretched to the size (pixels of the skin), then rotated.
 /// The picture and the result are RGB32 or premultiplied ARGB32. `scale` is the number of screen pixels to a
 /// pixel of the skin; without smoothness each of these is a square of one colour. Null beyond

@@ -36,9 +36,9 @@ constexpr Sample Samples[] = {
 
 void DrawPart(PictureBox& box, const PictureRef& picture, int width, int height) {
     box.Draw([&](QPainter& painter) {
-        const QRect part = QRect(0, 0, width, height) & picture->image.rect();
+        const QRect part = QRect(0, 0, width, height) & picture->image().rect();
         painter.fillRect(part, ScreenColour(box.BackColor()));  // the picture may be transparent in places
-        painter.drawImage(part, picture->image, part);
+        painter.drawImage(part, picture->image(), part);
     });
 }
 

@@ -13,6 +13,7 @@
 #include "render/kiosk_panel.h"
 #include "render/layout_host.h"
 #include "render/shape.h"
+#include "render/skin_picture.h"
 #include "render/standard_elements.h"
 #include "render/view_switches.h"
 
@@ -96,9 +97,11 @@ void RenderElements(View view) {
         const LookupScope names;
         MeasureTarget();
         TargetForm->host().ClearElements();
-        if (TargetLayout && (view == View::Preview || viewSwitches.ShowElements))
+        if (TargetLayout && (view == View::Preview || viewSwitches.ShowElements)) {
+            const PicturesAhead pictures(PicturesOf(*TargetLayout));
             for (const dbLayoutElementRef& element : *TargetLayout->dbLayoutElements)
                 report.Try([&] { ComposeElement(*element, view); });
+        }
     }
     report.Show(TargetLayout);
 }

@@ -50,8 +50,8 @@ void SetupElementRotation(TileButton& button, const dbLayoutElement& element) {
 
 void SetupElementButton(TileButton& button, dbLayoutElement& element, View view) {
     SetTilePicture(button.Picture, button.AniPicture, element.PicNormal);
-    SetTilePicture(button.PictureDown, button.AniPictureDown, element.PicDown);
-    SetTilePicture(button.PictureOver, button.AniPictureOver, element.PicOver);
+    SetSeldomPicture(button.PictureDown, button.AniPictureDown, element.PicDown);
+    SetSeldomPicture(button.PictureOver, button.AniPictureOver, element.PicOver);
     SetupElementCaption(button, element);
     SetupElementGround(button, element);
     SetupElementRotation(button, element);

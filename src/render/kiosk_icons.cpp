@@ -33,8 +33,8 @@ QImage Resource(const std::string& name) {
 }
 
 PictureRef Read(const std::string& name, const char* extension) {
-    Picture picture{Resource(name + extension), {}, Resource(name + "@2x" + extension)};
-    if (picture.image.isNull()) throw Failure(Failure::FileNotFound, "img_Kiosk");
+    Picture picture(Resource(name + extension), Resource(name + "@2x" + extension));
+    if (picture.image().isNull()) throw Failure(Failure::FileNotFound, "img_Kiosk");
     return std::make_shared<Picture>(std::move(picture));
 }
 

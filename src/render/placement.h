@@ -13,6 +13,7 @@ namespace ornavo {
 struct Frame {
     int TargetWidth = 0, TargetHeight = 0;
     int DesignWidth = 0, DesignHeight = 0;
+    bool operator==(const Frame&) const = default;
 };
 
 /// The element's rectangle in the window. Failure 11 if the skin's size is 0 where it divides, 6 if a result

@@ -13,9 +13,9 @@ constexpr int Far = 4096;   // pixels from the window at which a region may be c
 
 /// The polygon with a frame around the window inserted after its first corner, so that an odd-even filling
 /// covers the outside.
-QPolygon Inverted(const QPolygon& shape, const Frame& frame) {
+QPolygon Inverted(const QPolygon& shape, const QSize& window) {
     if (shape.isEmpty()) return shape;
-    const int right = frame.TargetWidth + Beyond, bottom = frame.TargetHeight + Beyond;
+    const int right = window.width() + Beyond, bottom = window.height() + Beyond;
     QPolygon all;
     all << shape.first() << QPoint(-Beyond, -Beyond) << QPoint(-Beyond, bottom) << QPoint(right, bottom)
         << QPoint(right, -Beyond) << QPoint(-Beyond, -Beyond);
@@ -77,13 +77,12 @@ void ShapeForm() {
     TargetForm->SetShape(ShapeRegion(*TargetLayout, TargetFrame));
 }
 
-void DrawShapeOverlay(QPainter& painter, const dbLayout& layout, const Frame& frame, bool inverted) {
-    const QPolygon shape = ShapePolygon(layout, frame, CornerOf::Shape);
+void DrawShapeOverlay(QPainter& painter, const QPolygon& shape, const QSize& window, bool inverted) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Dim);
-    painter.drawPolygon(inverted ? Inverted(shape, frame) : shape, Qt::OddEvenFill);
+    painter.drawPolygon(inverted ? Inverted(shape, window) : shape, Qt::OddEvenFill);
     painter.setBrush(Qt::NoBrush);
     painter.translate(0.5, 0.5);
     painter.setPen(QPen(LineDark, 3, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));

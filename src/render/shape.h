@@ -22,8 +22,8 @@ QRegion ShapeRegion(const dbLayout& layout, const Frame& frame);
 /// Measures the composed target and cuts it to the target layout's shape.
 void ShapeForm();
 
-/// Dims the inside of the shape, or with `inverted` the outside, and draws its outline so that it is visible
-/// on black and on white.
-void DrawShapeOverlay(QPainter& painter, const dbLayout& layout, const Frame& frame, bool inverted);
+/// Dims the inside of the shape in a window of this size, or with `inverted` the outside, and draws its
+/// outline so that it is visible on black and on white.
+void DrawShapeOverlay(QPainter& painter, const QPolygon& shape, const QSize& window, bool inverted);
 
 }  // namespace ornavo

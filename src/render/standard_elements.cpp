@@ -20,7 +20,7 @@ void DrawMainBackground(LayoutHost& host, bool stretch) {
     panel.SetBackColor(0);
     panel.Draw([&](QPainter& painter) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(panel.rect(), picture->image);
+        painter.drawImage(panel.rect(), picture->image());
     });
 }
 
@@ -64,8 +64,8 @@ void SetupScrollBar(TileButton& bar, dbLayoutElement& element) {
     state.ShadowColor = element.ShadowColor;
     state.ShadowDistance = element.ShadowDistance;
     SetTilePicture(bar.Picture, bar.AniPicture, element.PicOn);
-    SetTilePicture(bar.PictureOver, bar.AniPictureOver, element.PicOver);
-    SetTilePicture(bar.PictureDown, bar.AniPictureDown, element.PicDown);
+    SetSeldomPicture(bar.PictureOver, bar.AniPictureOver, element.PicOver);
+    SetSeldomPicture(bar.PictureDown, bar.AniPictureDown, element.PicDown);
     SetupElementRotation(bar, element);
     bar.Elements.Clear();
     TileLayer& layer = bar.Elements.Add("Caption");

@@ -101,12 +101,12 @@ void Rotation(const Styling& s) {
 
 void TakePictures(const Styling& s, const std::string& prefix) {
     TileButton& button = s.button;
-    const auto take = [&](PictureRef& plain, std::string& animated, const char* name) {
-        Attempt([&] { SetTilePicture(plain, animated, PrefText(prefix + name)); });
+    const auto take = [&](auto set, PictureRef& plain, std::string& animated, const char* name) {
+        Attempt([&] { set(plain, animated, PrefText(prefix + name)); });
     };
-    take(button.Picture, button.AniPicture, "_Picture");
-    take(button.PictureDown, button.AniPictureDown, "_PictureDown");
-    take(button.PictureOver, button.AniPictureOver, "_PictureOver");
+    take(SetTilePicture, button.Picture, button.AniPicture, "_Picture");
+    take(SetSeldomPicture, button.PictureDown, button.AniPictureDown, "_PictureDown");
+    take(SetSeldomPicture, button.PictureOver, button.AniPictureOver, "_PictureOver");
 }
 
 void Pictures(const Styling& s) {

@@ -58,27 +58,38 @@ void DrawGrid(QPainter& painter, int width, int height, int gridX, int gridY) {
     DrawLine(painter, 0, ToLong(height / 2.0), width, 1, dots);
 }
 
-void Surface::ShowGrid(const Frame& frame, double devicePixelRatio) {
+bool Surface::ShowGrid(const Frame& frame, double devicePixelRatio) {
+    Look next = {{frame.TargetWidth, frame.TargetHeight}, devicePixelRatio};
+    PictureRef background;
+    if (!Attempt([&] { background = BackgroundPicture(); })) return false;
+    if (background) next.background = background->image().cacheKey();
     Attempt([&] {
-        const PictureRef background = BackgroundPicture();
-        QPixmap next(QSize(frame.TargetWidth, frame.TargetHeight) * devicePixelRatio);
-        next.setDevicePixelRatio(devicePixelRatio);
-        next.fill(ScreenColour(CanvasColour));
-        QPainter painter(&next);
-        if (background) painter.drawImage(0, 0, background->image);
-        Attempt([&] {
-            if (viewSwitches.ShowShape)
-                DrawShapeOverlay(painter, *objCurrentLayout, frame, viewSwitches.ShapeInverted);
-            if (viewSwitches.ShowGrid)
-                DrawGrid(painter, frame.TargetWidth, frame.TargetHeight, viewSwitches.GridX,
-                         viewSwitches.GridY);
-        });
-        painter.end();
-        drawn_ = next;
+        if (viewSwitches.ShowShape) next.shape = ShapePolygon(*objCurrentLayout, frame, CornerOf::Shape);
+        next.isInverted = viewSwitches.ShapeInverted;
+        if (viewSwitches.ShowGrid) next.grid = QPoint(viewSwitches.GridX, viewSwitches.GridY);
     });
+    if (next == wanted_) return false;
+    wanted_ = std::move(next);
+    background_ = std::move(background);
+    isDrawn_ = false;
+    return true;
 }
 
-void Surface::Paint(QPainter& painter, const QRect& area) const {
+void Surface::Draw() {
+    isDrawn_ = true;
+    const PictureRef background = std::move(background_);
+    drawn_ = QPixmap(wanted_.size * wanted_.devicePixelRatio);
+    drawn_.setDevicePixelRatio(wanted_.devicePixelRatio);
+    drawn_.fill(ScreenColour(CanvasColour));
+    QPainter painter(&drawn_);
+    if (background) painter.drawImage(0, 0, background->image());
+    DrawShapeOverlay(painter, wanted_.shape, wanted_.size, wanted_.isInverted);
+    if (wanted_.grid)
+        DrawGrid(painter, wanted_.size.width(), wanted_.size.height(), wanted_.grid->x(), wanted_.grid->y());
+}
+
+void Surface::Paint(QPainter& painter, const QRect& area) {
+    if (!isDrawn_) Draw();
     const QSize covered = drawn_.deviceIndependentSize().toSize();
     if (!QRect(QPoint(0, 0), covered).contains(area)) painter.fillRect(area, ScreenColour(CanvasColour));
     painter.drawPixmap(0, 0, drawn_);  // the painter clips it to the area

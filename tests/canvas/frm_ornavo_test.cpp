@@ -88,6 +88,8 @@ TEST_F(EditingTest, ARunOfResizesIsOneRebuildAfterTheLast) {
     }
     Fire(form_->tmrResizer);
     EXPECT_EQ(host().Element[1].Bounds().width, 150);
+    form_->parts().composed = [] { ADD_FAILURE() << "it has this size already"; };
+    form_->tmrResizer_Timer();
 }
 
 TEST_F(EditingTest, APictureOfAnotherProgramIsShownWhenTheEditorIsActiveAgain) {

@@ -58,15 +58,15 @@ TEST_F(Pictures, EveryFormatIsKnownByItsContent) {
     for (const char* format : {"png", "bmp", "ppm"}) {
         const PictureRef picture = Load(Encoded(image, format));
         ASSERT_TRUE(picture) << format;
-        EXPECT_EQ(picture->image, image) << format;
-        EXPECT_EQ(picture->image.format(), QImage::Format_RGB32);
+        EXPECT_EQ(picture->image(), image) << format;
+        EXPECT_EQ(picture->image().format(), QImage::Format_RGB32);
     }
     EXPECT_TRUE(LoadPicture(folder.Write("a.bmp", Encoded(image, "jpg"))) && Load(SmallGif(1)));
     QImage clear(2, 1, QImage::Format_ARGB32);
     clear.fill(0x80FF0000);
     const PictureRef picture = Load(Encoded(clear, "png"));
-    EXPECT_EQ(picture->image.format(), QImage::Format_ARGB32_Premultiplied);
-    EXPECT_EQ(qAlpha(picture->image.pixel(0, 0)), 0x80);
+    EXPECT_EQ(picture->image().format(), QImage::Format_ARGB32_Premultiplied);
+    EXPECT_EQ(qAlpha(picture->image().pixel(0, 0)), 0x80);
 }
 
 TEST_F(Pictures, APngFileHoldsThePicture) {
@@ -126,7 +126,7 @@ TEST_F(Pictures, AreDecodedOnceUntilAnotherProgramChangesThem) {
     EXPECT_FALSE(PicturesChanged());
     EXPECT_EQ(LoadPicture(write(4, 0)), first);
     const std::filesystem::path path = write(5, 0);
-    EXPECT_EQ(LoadPicture(path)->image.width(), 5) << "another size at the same time";
+    EXPECT_EQ(LoadPicture(path)->image().width(), 5) << "another size at the same time";
     write(5, 2);
     EXPECT_TRUE(PicturesChanged());
     EXPECT_FALSE(PicturesChanged()) << "told once";
@@ -139,6 +139,20 @@ TEST_F(Pictures, AreDecodedOnceUntilAnotherProgramChangesThem) {
     EXPECT_FALSE(PicturesChanged());
     folder.Write("gone.png", Encoded(Gradient(4, 4), "png"));
     EXPECT_TRUE(PicturesChanged()) << "what was missed is there now";
+}
+
+TEST_F(Pictures, DecodedLaterOrAheadTheyAreTheSame) {
+    const PictureRef later = LoadPictureForLater(File(Encoded(Gradient(16, 16), "png")));
+    EXPECT_EQ(later ? later->image() : QImage(), Gradient(16, 16));
+    EXPECT_FALSE(LoadPictureForLater(File("no picture")));
+    std::vector<std::filesystem::path> paths;
+    for (int width = 1; width <= 40; ++width)
+        paths.push_back(File(width % 9 == 0 ? "no picture" : Encoded(Gradient(width, 3), "png")));
+    const PicturesAhead ahead(paths);
+    for (int width = 1; width <= 40; ++width) {
+        const PictureRef picture = LoadPicture(paths[static_cast<std::size_t>(width) - 1]);
+        EXPECT_EQ(picture ? picture->image() : QImage(), width % 9 == 0 ? QImage() : Gradient(width, 3));
+    }
 }
 
 TEST_F(Pictures, AllTogetherStayWithinTheirLimit) {

@@ -94,7 +94,7 @@ TEST(PictureBox, GroundPictureLayer) {
     box.SetBackColor(Rgb(255, 0, 0));
     QImage image(2, 1, QImage::Format_RGB32);
     image.fill(Qt::green);
-    box.SetPicture(std::make_shared<Picture>(Picture{image, {}}));
+    box.SetPicture(std::make_shared<Picture>(image));
     box.Draw([](QPainter& painter) { painter.fillRect(1, 0, 1, 2, Qt::blue); });
     const auto seen = [&] {
         std::string colours;

@@ -83,6 +83,18 @@ TEST(Face, TheKeyColourGoesBeforeStretching) {
     for (int x = 0; x < 16; ++x) EXPECT_EQ(qBlue(wide.pixel(x, 4)), 0) << "no rim of the key colour at " << x;
 }
 
+TEST(Face, CoversWhatIsBehindIfNoPixelIsClear) {
+    const QImage picture = Drawn({"rg"}).convertToFormat(QImage::Format_RGB32);
+    TileState state = Seen();
+    EXPECT_TRUE(IsOpaque(state, picture) && !IsOpaque(state, QImage()) && !IsOpaque(state, Drawn({"rg"})));
+    EXPECT_FALSE(IsOpaque(Seen(90), picture));
+    state.UseTransparency = true;
+    state.TransparentColor = Rgb(0, 0, 255);
+    EXPECT_TRUE(IsOpaque(state, picture));
+    state.TransparentColor = Rgb(0, 255, 0);
+    EXPECT_FALSE(IsOpaque(state, picture));
+}
+
 TEST(Face, QuarterTurnsAreExactAndOthersKeepTheMiddle) {
     const QImage square = Drawn({"rgb", "kwy", "..."}), wide = Drawn({"rggb", "kwwy"});
     const std::pair<double, Art> rows[] = {{90, {".kr", ".wg", ".yb"}},  {180, {"...", "ywk", "bgr"}},
@@ -121,7 +133,7 @@ TEST(Face, PictureLayersStandFromTheEndThatAlignmentNames) {
     TileLayers layers;
     TileLayer& layer = layers.Add("one");
     layer.IsText = false;
-    layer.Picture = std::make_shared<Picture>(Picture{Drawn({"rg"}), {}});
+    layer.Picture = std::make_shared<Picture>(Drawn({"rg"}));
     layer.Top = 1;
     for (const auto& [alignment, left, row] :
          {std::tuple{0, 3.0F, "...rg..."}, {1, 2.0F, "....rg.."}, {2, 2.0F, ".....rg."}}) {

@@ -17,7 +17,7 @@ namespace {
 PictureRef Plain(const QColor& colour) {
     QImage image(4, 4, QImage::Format_RGB32);
     image.fill(colour);
-    return std::make_shared<Picture>(Picture{image, {}});
+    return std::make_shared<Picture>(image);
 }
 
 /// What a control tells: "down" or "up", its name, button, keys and place.

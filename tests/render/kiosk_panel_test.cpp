@@ -215,7 +215,7 @@ TEST_F(KioskPanelTest, TheSampleOfASelectedLetterIsT) {
         letters += layer.Text;
         EXPECT_EQ(layer.ForeColor, row == 20 ? 2 : 1);
         EXPECT_EQ(layer.Font.Size, 10);
-        EXPECT_EQ(sample_.lbl_SL[row].Picture->image.pixelColor(0, 0),
+        EXPECT_EQ(sample_.lbl_SL[row].Picture->image().pixelColor(0, 0),
                   QColor(row == 20 ? Qt::green : Qt::red));
     }
     EXPECT_EQ(letters, " A  B  C  D  E  F  G  H  I  J  K  L  M  N  O  P  Q  R  S  T  U  V  W  X  Y  Z ");

@@ -36,6 +36,7 @@ TEST_F(SurfaceTest, GridDotsAndGuideLinesWhichSmallSpacingsLeaveAlone) {
     viewSwitches.GridX = 4;
     viewSwitches.GridY = 6;
     const QImage image = Shown();
+    EXPECT_FALSE(surface_.ShowGrid({101, 61, 100, 100}, 1)) << "nothing to draw again";
     // Lines every five spacings, dots at each, also on the lines; the guide lines, 61/2 goes to 30; the rest.
     for (const QPoint at : {QPoint(0, 1), QPoint(20, 7), QPoint(7, 0)})
         EXPECT_EQ(image.pixelColor(at), Lines);
