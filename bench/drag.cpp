@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 // One step of a drag on a layout of 60 elements, from the event to the painted picture, compared with a bare
 // repaint of the area that such a step changes.
-#include <benchmark/benchmark.h>
-
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QMouseEvent>
 #include <QTemporaryDir>
@@ -12,11 +10,13 @@
 #include "canvas/gesture_math.h"
 #include "document/codes.h"
 #include "document/current_skin.h"
+#include "judge.h"
 #include "platform/settings.h"
+#include "platform/startup.h"
 #include "render/target.h"
 #include "support/recorded_windows.h"
 
-namespace ornavo {
+namespace ornavo::bench {
 namespace {
 
 constexpr int Width = 1024, Height = 768, TileWidth = 100, TileHeight = 80, Elements = 60;
@@ -75,32 +75,36 @@ void Send(Control& control, QEvent::Type type, QPoint at) {
     QCoreApplication::sendEvent(&control, &event);
 }
 
-void DragOneStep(benchmark::State& state) {
-    Stage stage;
-    Control& control = stage.Dragged();
-    Send(control, QEvent::MouseButtonPress, Press);
-    int way = Step;
-    for (auto _ : state) {
-        Send(control, QEvent::MouseMove, Press + QPoint(way, way));
-        QCoreApplication::processEvents();
-        way = -way;
-    }
-    if (!stage.form().parts().drag.MouseIsDown()) state.SkipWithError("the drag has ended");
-    Send(control, QEvent::MouseButtonRelease, Press);
-}
-
-void RepaintTheSameArea(benchmark::State& state) {
-    Stage stage;
-    const QRect area = QRect(Start.left, Start.top, Start.width + Step, Start.height + Step)
-                           .adjusted(-HandleSize, -HandleSize, HandleSize, HandleSize);
-    for (auto _ : state) {
-        stage.form().update(area);
-        QCoreApplication::processEvents();
-    }
-}
-
-BENCHMARK(DragOneStep)->Unit(benchmark::kMillisecond);
-BENCHMARK(RepaintTheSameArea)->Unit(benchmark::kMillisecond);
-
 }  // namespace
-}  // namespace ornavo
+}  // namespace ornavo::bench
+
+int main(int count, char** words) {
+    using namespace ornavo::bench;
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    ornavo::PrepareProcess();
+    QApplication application(count, words);
+    ornavo::InitCommonControls(application);
+    Stage stage;
+    Send(stage.Dragged(), QEvent::MouseButtonPress, Press);
+    int way = -Step;  // forth and back
+    const Round drag = [&] {
+        way = -way;
+        return Cpu([&] {
+            Send(stage.Dragged(), QEvent::MouseMove, Press + QPoint(way, way));
+            QCoreApplication::processEvents();
+        });
+    };
+    const Round repaint = [&] {
+        const QRect area =
+            QRect(Start.left, Start.top, Start.width + Step, Start.height + Step)
+                .adjusted(-ornavo::HandleSize, -ornavo::HandleSize, ornavo::HandleSize, ornavo::HandleSize);
+        return Cpu([&] {
+            stage.form().update(area);
+            QCoreApplication::processEvents();
+        });
+    };
+    const int code = Judge(
+        {{"step of a drag among 60 elements", drag, "a repaint of the same area", repaint, 2}}, count, words);
+    if (!stage.form().parts().drag.MouseIsDown()) return 1;  // it was no drag
+    return code;
+}

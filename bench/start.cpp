@@ -1,70 +1,93 @@
 // SPDX-License-Identifier: MIT
-// Time to the first painted window, and peak memory, of the editor and of an empty Qt window. Starts the two
-// processes alternately; prints medians and their ratio to the empty window.
+// Starts of the editor beside starts of an empty Qt window: time to the first painting, processor time, peak
+// memory.
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "judge.h"
+#include "screen.h"
+
 namespace {
 
-constexpr int Rounds = 15;
+using namespace ornavo::bench;
 
-struct Case {
-    const char* name;
-    std::vector<std::string> words;
-    std::vector<double> milliseconds;
-    std::vector<double> megabytes;
+constexpr double MostCpu = 100;  // milliseconds
+
+/// What one start has cost.
+struct Start {
+    double painted = 0, cpu = 0;  // milliseconds
+    double megabytes = 0;         // at most
 };
 
-void Run(Case& one, bool quiet) {
-    const auto begin = std::chrono::steady_clock::now();
-    const pid_t child = fork();
-    if (child == 0) {
-        if (quiet && !std::freopen("/dev/null", "w", stderr)) _exit(126);
-        std::vector<char*> words;
-        for (std::string& word : one.words) words.push_back(word.data());
-        words.push_back(nullptr);
-        execv(words[0], words.data());
-        _exit(127);
-    }
+double Milliseconds(const timeval& time) {
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+}
+
+[[noreturn]] void Become(std::vector<std::string> words, int output) {
+    if (dup2(output, STDOUT_FILENO) < 0 || !std::freopen("/dev/null", "w", stderr)) _exit(126);
+    std::vector<char*> given;
+    for (std::string& word : words) given.push_back(word.data());
+    given.push_back(nullptr);
+    execv(given[0], given.data());
+    _exit(127);
+}
+
+/// Starts the window with these words. It writes a byte when it has painted.
+Start Run(std::vector<std::string> words) {
+    words.insert(words.begin(), START_WINDOW);
+    int ends[2] = {};
+    if (pipe(ends) != 0) std::exit(1);
+    Start start;
+    pid_t child = 0;
+    char byte = 0;
+    start.painted = Wall([&] {
+        child = fork();
+        if (child == 0) Become(words, ends[1]);
+        close(ends[1]);
+        if (read(ends[0], &byte, 1) != 1) byte = 0;
+    });
+    close(ends[0]);
     int status = 0;
     rusage usage = {};
     wait4(child, &status, 0, &usage);
-    if (status != 0) {
-        std::fprintf(stderr, "%s failed\n", one.name);
+    if (status != 0 || byte == 0) {
+        std::fprintf(stderr, "start: the window has failed\n");
         std::exit(1);
     }
-    one.milliseconds.push_back(
-        std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count());
-    one.megabytes.push_back(static_cast<double>(usage.ru_maxrss) / 1024);
+    start.cpu = Milliseconds(usage.ru_utime) + Milliseconds(usage.ru_stime);
+    start.megabytes = static_cast<double>(usage.ru_maxrss) / 1024;
+    return start;
 }
 
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
+Round Painted(const std::vector<std::string>& words) {
+    return [words] { return Run(words).painted; };
 }
 
 }  // namespace
 
-int main() {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    Case cases[] = {{"empty Qt window", {START_WINDOW}, {}, {}},
-                    {"editor, no skin", {START_WINDOW, "--editor"}, {}, {}},
-                    {"editor, rich skin", {START_WINDOW, "--editor", RICH_SKIN}, {}, {}}};
-    for (int round = 0; round < Rounds; ++round)
-        for (Case& one : cases) Run(one, true);
-    const double time = Median(cases[0].milliseconds), memory = Median(cases[0].megabytes);
-    for (const Case& one : cases)
-        std::printf("%-18s  %7.1f ms  x%.2f  %6.1f MB  x%.2f\n", one.name, Median(one.milliseconds),
-                    Median(one.milliseconds) / time, Median(one.megabytes), Median(one.megabytes) / memory);
-    std::printf("what the rich skin's start is spent on, in ms:\n");
-    std::fflush(stdout);
-    Run(cases[2], false);
+int main(int count, char** words) {
+    const Screen screen;
+    const std::vector<std::string> empty, plain = {"--editor"}, rich = {"--editor", RICH_SKIN},
+                                          second = {"--editor", RICH_SKIN, "--stay"};
+    const int code = Judge({{"start without a skin, to the first painting", Painted(plain),
+                             "an empty Qt window", Painted(empty), 1.5},
+                            {"start with the rich sample, to the first painting", Painted(rich),
+                             "an empty Qt window", Painted(empty), 2.5},
+                            {"processor time of that start and a second more",
+                             [=] { return Run(second).cpu; },
+                             "",
+                             {},
+                             MostCpu}},
+                           count, words);
+    if (count == 1)
+        std::printf("\nPeak memory: empty window %.1f MB, no skin %.1f MB, rich sample %.1f MB\n",
+                    Run(empty).megabytes, Run(plain).megabytes, Run(rich).megabytes);
+    return code;
 }
