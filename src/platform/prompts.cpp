@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/prompts.h"
 
+#include <utility>
+
 #include "base/failure.h"
 
 namespace ornavo {
@@ -15,8 +17,8 @@ Prompts& prompts() {
     return *answering;
 }
 
-void UsePrompts(Prompts* answers) {
-    answering = answers;
+Prompts* UsePrompts(Prompts* answers) {
+    return std::exchange(answering, answers);
 }
 
 }  // namespace ornavo

@@ -43,7 +43,7 @@ public:
     /// faces to list in addition to the installed ones.
     virtual std::optional<Font> FontOf(const Font& start, const std::vector<std::string>& offered) = 0;
 };
-Prompts& prompts();  // Failure if UsePrompts has not been called
-void UsePrompts(Prompts* answers);
+Prompts& prompts();                     // Failure if UsePrompts has not been called
+Prompts* UsePrompts(Prompts* answers);  // returns the ones used before; null: nobody
 
 }  // namespace ornavo

@@ -7,22 +7,18 @@
 #include "platform/prompts.h"
 
 namespace ornavo {
-namespace {
 
-/// A layout and its failures.
-struct Told {
-    std::weak_ptr<dbLayout> layout;
-    std::vector<std::string> descriptions;
-};
-Told told;  // of the last composition
-
-}  // namespace
+ToldReport& toldReport() {
+    static ToldReport told;
+    return told;
+}
 
 void ComposeReport::Keep(const std::string& description) {
     if (!Contains(descriptions_, description)) descriptions_.push_back(description);
 }
 
 void ComposeReport::Show(const dbLayoutRef& layout) const {
+    ToldReport& told = toldReport();
     const bool sameLayout = told.layout.lock() == layout;
     const bool known = sameLayout && told.descriptions == descriptions_;
     told = {layout, descriptions_};

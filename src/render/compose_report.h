@@ -10,6 +10,13 @@
 
 namespace ornavo {
 
+/// What the last composition has told: a layout and its failures. A composition on the side puts it back.
+struct ToldReport {
+    std::weak_ptr<dbLayout> layout;
+    std::vector<std::string> descriptions;
+};
+ToldReport& toldReport();
+
 /// The failures of one composition.
 class ComposeReport {
 public:
