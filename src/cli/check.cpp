@@ -100,8 +100,7 @@ int Check(const Arguments& arguments) {
         PrintJson(findings);
     else
         std::ranges::for_each(findings, Print);
-    if (std::fflush(stdout) != 0)
-        throw Failure(Failure::PathError, "Check", "The findings can't be written.");
+    FlushOutput();
     const Severity most = arguments.Has("strict") ? Severity::Warning : Severity::Error;
     return !findings.empty() && findings.front().kind->severity <= most ? 1 : 0;
 }

@@ -20,6 +20,16 @@ const Command Commands[] = {
          "is a warning, and 3 if the skin can't be read; FILE has what is not to be told.",
      .run = Check,
      .failed = 3},
+    {.name = "compare",
+     .operands = {"SKIN", "SKIN"},
+     .options = {{"json", ""}, {"size", "WxH"}, {"tolerance", "N"}, {"out", "FOLDER"}},
+     .help =
+         "What the second skin has other than the first, and how many pixels of their layouts. A pixel "
+         "counts whose channels differ by more than N; before, after and difference of each changed layout "
+         "are written into FOLDER. The exit code is 0 if they are equal, 1 if they differ and 3 if one "
+         "can't be read.",
+     .run = CompareTwo,
+     .failed = 3},
     {.name = "dump",
      .operands = {"SKIN"},
      .options = {{"raw", ""}},

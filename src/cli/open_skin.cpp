@@ -48,6 +48,11 @@ void Tell(const std::string& text) {
     std::fprintf(stderr, "ornavo-cli: %s\n", text.c_str());
 }
 
+void FlushOutput() {
+    if (std::fflush(stdout) != 0 || std::ferror(stdout))
+        throw Failure(Failure::PathError, "Output", "The output can't be written.");
+}
+
 void OpenNamedSkin(const std::string& skin, bool upgraded) {
     const std::string folder = FolderOf(skin);
     const std::string file = folder + std::string(SettingsFileName);

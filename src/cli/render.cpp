@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Draws the picture of a layout by the code of canvas and preview, without a screen.
-#include <QFile>
 #include <QImage>
 
 #include "cli/open_skin.h"
+#include "cli/picture_file.h"
 #include "platform/clock.h"
-#include "platform/form.h"
-#include "platform/png_bytes.h"
 #include "platform/shown.h"
 #include "playback/info_show.h"
 #include "render/layout_picture.h"
@@ -37,20 +35,6 @@ bool OneOf(const Arguments& arguments, const std::string& name, const std::strin
     return value == first;
 }
 
-std::string Words(const Size& size) {
-    return std::to_string(size.width) + " x " + std::to_string(size.height);
-}
-
-/// The size to draw in pixels. A skin larger than a window can be is reduced to that size, with a message.
-Size SizeToDraw(const Arguments& arguments) {
-    const Size whole = NamedSize(arguments, MostWindowPixels);
-    if (whole.width < 1 || whole.height < 1)
-        throw Failure(Failure::InvalidCall, "Render", "The skin has no size; give one with --size.");
-    const Size size = {std::min(whole.width, MostWindowPixels), std::min(whole.height, MostWindowPixels)};
-    if (size != whole) Tell("the skin is " + Words(whole) + " pixels; it is composed at " + Words(size));
-    return size;
-}
-
 }  // namespace
 
 int Render(const Arguments& arguments) {
@@ -64,10 +48,7 @@ int Render(const Arguments& arguments) {
     if (preview) InfoShow().Begin(composed.host(), composed.layout());
     for (const std::string& failure : composed.failures()) Tell(failure);
     const QImage picture = preview ? composed.Shaped(soft) : composed.Whole();
-    const std::string bytes = PngBytesOf(picture);
-    QFile file(Shown(out));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), std::ssize(bytes)) < 0 || !file.flush())
-        throw Failure(Failure::PathError, "Render", out + " can't be written.");
+    WritePng(picture, out);
     return 0;
 }
 
