@@ -144,6 +144,27 @@ TEST_F(ToolTest, SaveTellsWhatIsLost) {
     EXPECT_EQ(recovered.begin()->second, torn.toStdString());
 }
 
+TEST_F(ToolTest, CheckAndCompareTellWhatTheyFind) {
+    EXPECT_EQ(Run("check Blue"), 0) << out_.constData();
+    EXPECT_EQ(Run("check Blue --strict"), 1);
+    Write(QByteArray(SkinText).replace("<Visible>", "<PicDown>gone.png</PicDown>\n<Visible>"));
+    EXPECT_EQ(Run("check Blue --json"), 1);
+    const QJsonValue first = QJsonDocument::fromJson(out_)["findings"][0];
+    EXPECT_EQ(first["code"], "missing-picture");
+    EXPECT_EQ(first["item"].toString() + first["field"].toString(), "boxPicDown");
+    EXPECT_EQ(first["line"], Settings().left(Settings().indexOf("gone")).count('\n') + 1);
+    folder_.Write("ignore", "# its reason\nmissing-picture\t*\tbox\n");
+    EXPECT_EQ(Run("check Blue --ignore ignore"), 0) << out_.constData();
+    folder_.Write("Red/SkinSettings.xml", QByteArray(SkinText).replace(">65280<", ">255<").toStdString());
+    Write(SkinText);
+    EXPECT_EQ(Run("compare Blue Red --out out --json"), 1);
+    const QJsonDocument told = QJsonDocument::fromJson(out_);
+    EXPECT_EQ(told["differences"].toArray().size(), 1);
+    EXPECT_EQ(told["differences"][0]["after"], 255);
+    EXPECT_NEAR(told["pixels"][0]["share"].toDouble(), 200.0 / 8000, 0.001);
+    EXPECT_EQ(QImage(Path("out/Standard-difference.png")).size(), QSize(100, 80));
+}
+
 TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
     const QImage preview = Rendered(" --edge hard");
     EXPECT_EQ(preview.size(), QSize(100, 80));
@@ -187,12 +208,14 @@ TEST_F(ToolTest, ExitCodes) {
         {2,
          {"", "paint Blue", "dump", "dump Blue --nonsense", "dump Blue Blue", "place Blue",
           "place Blue --layout Standard --size 0x5", render + "x.png --view both",
-          render + "x.png --size 8193x80", in + "--hue 256 --saturation 1", in + "--hue=-1 --saturation 1",
-          in + "--hue 1 --saturation 1.5", in + "--hue 1", "recolour in.png out.png" + one}},
+          render + "x.png --size 8193x80", "check", "compare Blue", "compare Blue Blue --tolerance 256",
+          in + "--hue 256 --saturation 1", in + "--hue=-1 --saturation 1", in + "--hue 1 --saturation 1.5",
+          in + "--hue 1", "recolour in.png out.png" + one}},
         {1,
          {"dump None", "place Blue --layout None", render + "no/folder.png",
           "recolour text.png out.bmp" + one, "recolour in.png no/out.bmp" + one}},
-        {0, {"--version"}}};
+        {3, {"check None", "compare Blue None", "check Blue --ignore none"}},
+        {0, {"--version", "check --help", "compare Blue Blue"}}};
     for (const auto& [code, lines] : codes)
         for (const QString& words : lines) {
             EXPECT_EQ(Run(words), code) << words.toStdString();
