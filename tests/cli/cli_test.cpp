@@ -145,9 +145,11 @@ TEST_F(ToolTest, SaveTellsWhatIsLost) {
 }
 
 TEST_F(ToolTest, CheckAndCompareTellWhatTheyFind) {
+    const QByteArray inside = QByteArray(SkinText).replace("<TopY>5<", "<TopY>60<");
+    Write(QByteArray(inside).replace("<Visible>", "<Foo>1</Foo>\n<Visible>"));
     EXPECT_EQ(Run("check Blue"), 0) << out_.constData();
     EXPECT_EQ(Run("check Blue --strict"), 1);
-    Write(QByteArray(SkinText).replace("<Visible>", "<PicDown>gone.png</PicDown>\n<Visible>"));
+    Write(QByteArray(inside).replace("<Visible>", "<PicDown>gone.png</PicDown>\n<Visible>"));
     EXPECT_EQ(Run("check Blue --json"), 1);
     const QJsonValue first = QJsonDocument::fromJson(out_)["findings"][0];
     EXPECT_EQ(first["code"], "missing-picture");
@@ -155,8 +157,8 @@ TEST_F(ToolTest, CheckAndCompareTellWhatTheyFind) {
     EXPECT_EQ(first["line"], Settings().left(Settings().indexOf("gone")).count('\n') + 1);
     folder_.Write("ignore", "# its reason\nmissing-picture\t*\tbox\n");
     EXPECT_EQ(Run("check Blue --ignore ignore"), 0) << out_.constData();
-    folder_.Write("Red/SkinSettings.xml", QByteArray(SkinText).replace(">65280<", ">255<").toStdString());
-    Write(SkinText);
+    folder_.Write("Red/SkinSettings.xml", QByteArray(inside).replace(">65280<", ">255<").toStdString());
+    Write(inside);
     EXPECT_EQ(Run("compare Blue Red --out out --json"), 1);
     const QJsonDocument told = QJsonDocument::fromJson(out_);
     EXPECT_EQ(told["differences"].toArray().size(), 1);
