@@ -48,9 +48,13 @@ private:
 /// more than to look its name up.
 class Lookup : public FileListener {
 public:
-    std::string Find(const std::string& path);
+    /// A path as it is on the disk, and what is there.
+    struct Found {
+        std::string path;
+        fs::file_type type;
+    };
+    Found Find(const std::string& path);
     FileState State(const std::string& path);
-    fs::file_type Type(const std::string& path);
     /// The listing of a folder, by its exact path; made now unless it is known.
     Listing& List(const std::string& folder) { return listings_.try_emplace(folder, folder).first->second; }
     void Made(const fs::path& path) override { Change(ToText(path), true); }
@@ -62,43 +66,40 @@ private:
         return known == listings_.end() ? nullptr : &known->second;
     }
     void Change(const std::string& path, bool isMade);
+    /// The disk's answer, also if it was given before.
+    const FileState& Asked(const std::string& path) {
+        const auto [state, isNew] = states_.try_emplace(path);
+        if (isNew) state->second = fileLayer().State(NativePath(path));
+        return state->second;
+    }
 
     std::unordered_map<std::string, FileState> states_;
     std::unordered_map<std::string, Listing> listings_;
 };
 
-std::string Lookup::Find(const std::string& path) {
+/// Asks the disk only where the listing does not tell.
+Lookup::Found Lookup::Find(const std::string& path) {
     auto [folder, name] = SplitPath(path);
-    if (name.empty()) return path;
+    if (name.empty()) return {path, State(path).type};
     const Listing* listing = ListingOf(folder);
     if (!listing) {
-        if (Exists(State(path).type)) return path;
-        if (!folder.empty()) folder = Find(folder);
+        const fs::file_type type = Asked(path).type;
+        if (Exists(type)) return {path, type};
+        if (!folder.empty()) folder = Find(folder).path;
         listing = &List(folder);
     }
     const auto* entry = listing->Find(name);
-    return JoinPath(folder, entry ? entry->first : name);
+    Found found{JoinPath(folder, entry ? entry->first : name), fs::file_type::not_found};
+    if (entry) found.type = entry->second == fs::file_type::unknown ? Asked(found.path).type : entry->second;
+    return found;
 }
 
 FileState Lookup::State(const std::string& path) {
-    const auto [state, isNew] = states_.try_emplace(path);
-    if (!isNew) return state->second;
     const auto [folder, name] = SplitPath(path);
     const Listing* listing = ListingOf(folder);
     const auto* entry = listing ? listing->Find(name) : nullptr;
-    if (!listing || (entry && entry->first == name)) state->second = fileLayer().State(NativePath(path));
-    return state->second;
-}
-
-/// Asks the disk only where the listing does not tell.
-fs::file_type Lookup::Type(const std::string& path) {
-    const auto [folder, name] = SplitPath(path);
-    if (const Listing* listing = ListingOf(folder)) {
-        const auto* entry = listing->Find(name);
-        if (!entry || entry->first != name) return fs::file_type::not_found;
-        if (entry->second != fs::file_type::unknown) return entry->second;
-    }
-    return State(path).type;
+    const bool isGone = listing && !(entry && entry->first == name);
+    return isGone ? FileState() : Asked(path);
 }
 
 void Lookup::Change(const std::string& path, bool isMade) {
@@ -121,13 +122,14 @@ auto Ask(std::string_view path, Question question) {
 }
 
 fs::file_type TypeAt(std::string_view path) {
-    return Ask(path, [](Lookup& lookup, const std::string& text) { return lookup.Type(lookup.Find(text)); });
+    return Ask(path, [](Lookup& lookup, const std::string& text) { return lookup.Find(text).type; });
 }
 
 }  // namespace
 
 fs::path OnDisk(std::string_view path) {
-    return NativePath(Ask(path, [](Lookup& lookup, const std::string& text) { return lookup.Find(text); }));
+    return NativePath(
+        Ask(path, [](Lookup& lookup, const std::string& text) { return lookup.Find(text).path; }));
 }
 
 FileState StateOf(const fs::path& path) {
@@ -136,8 +138,8 @@ FileState StateOf(const fs::path& path) {
 
 std::string FindFile(std::string_view path) {
     return Ask(path, [](Lookup& lookup, const std::string& text) {
-        std::string found = lookup.Find(text);
-        return lookup.Type(found) == fs::file_type::regular ? found : "";
+        Lookup::Found found = lookup.Find(text);
+        return found.type == fs::file_type::regular ? std::move(found.path) : std::string();
     });
 }
 

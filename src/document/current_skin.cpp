@@ -36,6 +36,7 @@ std::vector<std::string> PicturePlaces(std::string_view name, const dbSkin& curr
 
 std::filesystem::path FindSkinPicture(std::string_view name) {
     if (TrimBlanks(name).empty()) return {};
+    if (const std::string file = FindFile(PathIn(*objSkin, name)); !file.empty()) return NativePath(file);
     for (const std::string& place : PicturePlaces(name, *objSkin))
         if (const std::string file = FindFile(place); !file.empty()) return NativePath(file);
     return {};

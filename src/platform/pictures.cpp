@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <list>
 #include <map>
+#include <unordered_map>
 
 #include "base/lookup.h"
 #include "base/paths.h"
@@ -33,6 +34,7 @@ struct Shelf {
     // Files and folders with the times they had when they were first asked for.
     std::map<fs::path::string_type, std::int64_t> seen;
     std::list<PictureRef> kept;  // the most recently used first
+    std::unordered_map<const Picture*, std::list<PictureRef>::iterator> places;  // in `kept`
     std::int64_t keptBytes = 0;
     PictureWorker* worker = nullptr;  // null unless some are decoded ahead
 };
@@ -65,18 +67,17 @@ void DropUntil(std::int64_t most) {
     Shelf& all = shelf();
     while (all.keptBytes > most && !all.kept.empty()) {
         all.keptBytes -= BytesOf(*all.kept.back());
+        all.places.erase(all.kept.back().get());
         all.kept.pop_back();
     }
 }
 
 void Keep(const PictureRef& picture) {
     Shelf& all = shelf();
-    const auto there = std::ranges::find(all.kept, picture);
-    if (there != all.kept.end()) {
-        all.kept.splice(all.kept.begin(), all.kept, there);
-        return;
-    }
+    const auto [place, isNew] = all.places.try_emplace(picture.get());
+    if (!isNew) return all.kept.splice(all.kept.begin(), all.kept, place->second);
     all.kept.push_front(picture);
+    place->second = all.kept.begin();
     all.keptBytes += BytesOf(*picture);
     DropUntil(KeptBytes);
 }

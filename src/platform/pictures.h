@@ -28,6 +28,7 @@ public:
         if (decode_) image_ = std::exchange(decode_, nullptr)();
         return image_;
     }
+    bool IsDecoded() const { return !decode_; }
     QSize size;
     QImage fine;
 

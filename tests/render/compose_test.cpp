@@ -54,17 +54,18 @@ TEST_F(ComposeTest, EveryTypeHasItsControlAndItsPlace) {
     EXPECT_EQ(host_.Element[1].cursor().shape(), Qt::SizeAllCursor);
 }
 
-TEST_F(ComposeTest, TheDiskIsAskedOnceForEachPicture) {
-    Picture("red.bmp", Qt::red);
-    Picture("blue.bmp", Qt::blue);
+TEST_F(ComposeTest, TheDiskIsAskedOnceForEachPictureAndWhatIsShownIsDecoded) {
+    for (const char* name : {"red.bmp", "blue.bmp", "over.bmp"}) Picture(name, Qt::red);
     for (int i = 0; i < 9; ++i) {
         dbLayoutElement& e = Add(std::to_string(i).c_str(), TypeButton, {0, 0, 10, 10});
         e.PicNormal = i % 2 == 0 ? "RED.bmp" : "blue.bmp";
-        e.PicOver = e.PicDown = "gone.bmp";
+        e.PicOver = "over.bmp", e.PicDown = "gone.bmp";
     }
     const StepLayer disk;
     Compose(target_);
-    EXPECT_LE(disk.asked, 4);  // also for the folder's time
+    EXPECT_TRUE(host_.Element[1].Picture->IsDecoded());
+    EXPECT_FALSE(host_.Element[1].PictureOver->IsDecoded());
+    EXPECT_LE(disk.asked, 5);  // also for the folder's time
     EXPECT_EQ(disk.listed, 1);
 }
 
