@@ -36,7 +36,7 @@ struct Shelf {
     std::list<PictureRef> kept;  // the most recently used first
     std::unordered_map<const Picture*, std::list<PictureRef>::iterator> places;  // in `kept`
     std::int64_t keptBytes = 0;
-    PictureWorker* worker = nullptr;  // null unless some are decoded ahead
+    PicturesAhead* ahead = nullptr;  // null unless some are decoded ahead
 };
 
 Shelf& shelf() {
@@ -84,8 +84,8 @@ void Keep(const PictureRef& picture) {
 
 /// The picture that the worker has decoded, or that of the file. Null if it is none or exceeds a limit.
 QImage Read(const fs::path& path) {
-    if (shelf().worker)
-        if (std::optional<QImage> ready = shelf().worker->Take(path)) return std::move(*ready);
+    if (shelf().ahead)
+        if (std::optional<QImage> ready = shelf().ahead->Take(path)) return std::move(*ready);
     PictureFile file(path);
     const QSize size = file.Size();
     if (!FitsPicture(size)) return {};
@@ -158,21 +158,28 @@ bool PicturesChanged() {
     return changed;
 }
 
-PicturesAhead::PicturesAhead(const std::vector<fs::path>& files) {
+PicturesAhead::PicturesAhead(Files files) : files_(std::move(files)) {
+    if (std::thread::hardware_concurrency() >= 2) shelf().ahead = this;
+}
+
+PicturesAhead::~PicturesAhead() {
+    shelf().ahead = nullptr;
+}
+
+void PicturesAhead::Begin() {
     std::vector<fs::path> unknown;
-    for (const fs::path& file : files) {
+    for (const fs::path& file : std::exchange(files_, nullptr)()) {
         Stamp stamp;
         if (!StampOf(file, stamp)) continue;
         const auto known = shelf().known.find(stamp);
         if (known == shelf().known.end() || known->second.expired()) unknown.push_back(file);
     }
-    if (unknown.size() < 2 || std::thread::hardware_concurrency() < 2) return;
-    worker_ = std::make_unique<PictureWorker>(unknown);
-    shelf().worker = worker_.get();
+    if (unknown.size() >= 2) worker_ = std::make_unique<PictureWorker>(unknown);
 }
 
-PicturesAhead::~PicturesAhead() {
-    shelf().worker = nullptr;
+std::optional<QImage> PicturesAhead::Take(const fs::path& file) {
+    if (files_) Begin();
+    return worker_ ? worker_->Take(file) : std::nullopt;
 }
 
 PictureRef LoadPicture(const fs::path& path) {

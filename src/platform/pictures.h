@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -60,16 +61,22 @@ private:
 
 class PictureWorker;
 
-/// While one lives, a second core decodes these files, the last first, for a caller of LoadPicture who begins
-/// with the first. What LoadPicture gives is the same as without it.
+/// While one lives, a second core decodes files, the last first, for a caller of LoadPicture who begins with
+/// the first. What LoadPicture gives is the same as without it.
 class PicturesAhead {
 public:
-    explicit PicturesAhead(const std::vector<std::filesystem::path>& files);
+    using Files = std::function<std::vector<std::filesystem::path>()>;
+    /// `files` is called at most once, when the first picture must be decoded.
+    explicit PicturesAhead(Files files);
     ~PicturesAhead();
     PicturesAhead(const PicturesAhead&) = delete;
     PicturesAhead& operator=(const PicturesAhead&) = delete;
+    /// The picture of the file, if it is decoded already.
+    std::optional<QImage> Take(const std::filesystem::path& file);
 
 private:
+    void Begin();
+    Files files_;  // empty once they are begun
     std::unique_ptr<PictureWorker> worker_;
 };
 

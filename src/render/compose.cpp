@@ -98,7 +98,7 @@ void RenderElements(View view) {
         MeasureTarget();
         TargetForm->host().ClearElements();
         if (TargetLayout && (view == View::Preview || viewSwitches.ShowElements)) {
-            const PicturesAhead pictures(PicturesOf(*TargetLayout));
+            PicturesAhead pictures([] { return PicturesOf(*TargetLayout); });
             for (const dbLayoutElementRef& element : *TargetLayout->dbLayoutElements)
                 report.Try([&] { ComposeElement(*element, view); });
         }

@@ -148,7 +148,7 @@ TEST_F(Pictures, DecodedLaterOrAheadTheyAreTheSame) {
     std::vector<std::filesystem::path> paths;
     for (int width = 1; width <= 40; ++width)
         paths.push_back(File(width % 9 == 0 ? "no picture" : Encoded(Gradient(width, 3), "png")));
-    const PicturesAhead ahead(paths);
+    const PicturesAhead ahead([&] { return paths; });
     for (int width = 1; width <= 40; ++width) {
         const PictureRef picture = LoadPicture(paths[static_cast<std::size_t>(width) - 1]);
         EXPECT_EQ(picture ? picture->image() : QImage(), width % 9 == 0 ? QImage() : Gradient(width, 3));
