@@ -8,6 +8,7 @@
 #include "base/lookup.h"
 #include "check/file_lines.h"
 #include "check/pictures_check.h"
+#include "check/sizes_check.h"
 
 namespace ornavo {
 
@@ -15,7 +16,8 @@ Findings CheckSkin(const dbSkin& skin) {
     const LookupScope names;
     const LoadedSkin loaded(skin, ReadFile(skin.SkinFile()));
     Findings findings = CheckLines(loaded);
-    std::ranges::move(CheckPictures(loaded), std::back_inserter(findings));
+    for (const auto check : {CheckPictures, CheckSizes})
+        std::ranges::move(check(loaded), std::back_inserter(findings));
     SortBySeverity(findings);
     return findings;
 }

@@ -37,6 +37,12 @@ constexpr FindingKind Kinds[] = {
     {"large-picture", Hint, "Make the picture smaller: it takes memory and time."},
     {"unused-key-colour", Hint, "Choose a color of the picture, or switch Use Transparency off."},
     {"unnamed-file", Hint, "Remove the file, or name it somewhere."},
+    // Window sizes.
+    {"covered-element", Warning, "Lock or stretch both alike, or leave more room. Windows from 600 x 600 to 3840 x 2160 are checked."},
+    {"outside-window", Warning, "Lock it to the side that it is near, or stretch it. Windows from 600 x 600 to 3840 x 2160 are checked."},
+    {"no-size", Warning, "Make it larger, or lock it to one side only. Windows from 600 x 600 to 3840 x 2160 are checked."},
+    {"outside-shape", Warning, "Lock it and the shape's corners near it to the same sides."},
+    {"cut-by-shape", Hint, "Lock it and the shape's corners near it to the same sides."},
     // Use.
     {"new-preferences", Hint, "Open and save the skin once."},
 };
