@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -74,11 +75,22 @@ public:
     /// Iterates over the items' references, in order.
     class ConstIterator {
     public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = Ref;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const Ref*;
+        using reference = const Ref&;
+        ConstIterator() = default;
         explicit ConstIterator(typename std::vector<Entry>::const_iterator at) : at_(at) {}
         const Ref& operator*() const { return at_->item; }
         ConstIterator& operator++() {
             ++at_;
             return *this;
+        }
+        ConstIterator operator++(int) {
+            const ConstIterator before = *this;
+            ++at_;
+            return before;
         }
         bool operator==(const ConstIterator&) const = default;
 

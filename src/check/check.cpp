@@ -9,6 +9,7 @@
 #include "check/file_lines.h"
 #include "check/pictures_check.h"
 #include "check/sizes_check.h"
+#include "check/use_check.h"
 
 namespace ornavo {
 
@@ -16,8 +17,8 @@ Findings CheckSkin(const dbSkin& skin) {
     const LookupScope names;
     const LoadedSkin loaded(skin, ReadFile(skin.SkinFile()));
     Findings findings = CheckLines(loaded);
-    for (const auto check : {CheckPictures, CheckSizes})
-        std::ranges::move(check(loaded), std::back_inserter(findings));
+    for (const auto part : {CheckPictures, CheckUse, CheckSizes})
+        std::ranges::move(part(loaded), std::back_inserter(findings));
     SortBySeverity(findings);
     return findings;
 }

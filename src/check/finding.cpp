@@ -23,6 +23,7 @@ constexpr FindingKind Kinds[] = {
     {"refused-value", Warning, "Write a value that the field can hold."},
     {"overwritten-line", Warning, "Remove the line that doesn't count."},
     {"changed-value", Warning, "Write the value in the form that the next save gives it."},
+    {"new-preferences", Hint, "Open and save the skin once."},
     // Pictures.
     {"missing-picture", Error, "Put the picture into the skin's folder, or choose another."},
     {"unreadable-picture", Error, "Save the picture anew with a picture program, as PNG, JPEG, BMP or GIF."},
@@ -44,7 +45,14 @@ constexpr FindingKind Kinds[] = {
     {"outside-shape", Warning, "Lock it and the shape's corners near it to the same sides."},
     {"cut-by-shape", Hint, "Lock it and the shape's corners near it to the same sides."},
     // Use.
-    {"new-preferences", Hint, "Open and save the skin once."},
+    {"few-corners", Warning, "Give the shape three corners, or the four of its rectangle."},
+    {"unusual-font", Warning, "Choose a font that every Windows has."},
+    {"idle-button", Hint, "Give the button an action, or make it a picture."},
+    {"no-close", Hint, "Add a button that closes the jukebox."},
+    {"no-move", Hint, "Let an element drag the window."},
+    {"no-resize", Hint, "Let an element resize the window."},
+    {"no-standard", Hint, "Call one layout \"Standard\"."},
+    {"no-preview", Hint, "Put a picture called \"preview\" into the skin's folder, or name one in the preferences."},
 };
 // clang-format on
 

@@ -97,9 +97,7 @@ void Comparison::CompareLists(const std::string& layout, const std::vector<Ref>&
 
 template <class Collection>
 auto Listed(const Collection& items) {
-    std::vector<typename Collection::Ref> list;
-    for (const auto& item : items) list.push_back(item);
-    return list;
+    return std::vector<typename Collection::Ref>(items.begin(), items.end());
 }
 
 template <class Collection>
