@@ -16,6 +16,7 @@ int Check(const Arguments&);
 int CompareTwo(const Arguments&);
 int Dump(const Arguments&);
 int Save(const Arguments&);
+int Sheet(const Arguments&);
 int Place(const Arguments&);
 int Render(const Arguments&);
 int Recolour(const Arguments&);

@@ -57,6 +57,16 @@ const Command Commands[] = {
                  {"time", "HH:MM:SS"}},
      .help = "A picture of the layout, its clocks at that time.",
      .run = Render},
+    {.name = "sheet",
+     .operands = {"SKIN"},
+     .options = {{"out", "FILE.png|FILE.html", true},
+                 {"layouts", "KEY", false, true},
+                 {"sizes", "WxH", false, true},
+                 {"states", ""}},
+     .help =
+         "The layouts at the usual sizes of windows on one picture, or on one page with what check tells; "
+         "--states adds the states of each button.",
+     .run = Sheet},
     {.name = "recolour",
      .operands = {"IN", "OUT"},
      .options = {{"hue", "N", true}, {"saturation", "N", true}},

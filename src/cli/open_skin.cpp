@@ -67,7 +67,10 @@ void OpenNamedSkin(const std::string& skin, bool upgraded) {
 }
 
 dbLayoutRef NamedLayout(const Arguments& arguments) {
-    const std::string key = arguments.Need("layout");
+    return LayoutOf(arguments.Need("layout"));
+}
+
+dbLayoutRef LayoutOf(const std::string& key) {
     const dbLayoutRef layout = objSkin->dbLayouts->Find(key);
     if (!layout) throw Failure(Failure::NotFound, "Skin", "The skin has no layout '" + key + "'.");
     return layout;
@@ -75,12 +78,15 @@ dbLayoutRef NamedLayout(const Arguments& arguments) {
 
 Size NamedSize(const Arguments& arguments, int most) {
     if (!arguments.Has("size")) return {objSkin->SkinWidth, objSkin->SkinHeight};
-    const std::string text = arguments.Get("size");
+    return SizeOf(arguments.Get("size"), most);
+}
+
+Size SizeOf(std::string_view text, int most) {
     const std::size_t times = text.find('x');
     Size size;
-    if (times == std::string::npos || !ReadWhole(std::string_view(text).substr(0, times), most, size.width) ||
-        !ReadWhole(std::string_view(text).substr(times + 1), most, size.height))
-        throw UsageError("--size takes WIDTHxHEIGHT, 1 to " + std::to_string(most) + " pixels each");
+    if (times == std::string_view::npos || !ReadWhole(text.substr(0, times), most, size.width) ||
+        !ReadWhole(text.substr(times + 1), most, size.height))
+        throw UsageError("a size is WIDTHxHEIGHT, 1 to " + std::to_string(most) + " pixels each");
     return size;
 }
 

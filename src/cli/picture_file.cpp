@@ -28,10 +28,13 @@ Size SizeToDraw(const Arguments& arguments) {
 }
 
 void WritePng(const QImage& picture, const std::string& name) {
-    const std::string bytes = PngBytesOf(picture);
+    WriteText(PngBytesOf(picture), name);
+}
+
+void WriteText(const std::string& text, const std::string& name) {
     QFile file(Shown(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), std::ssize(bytes)) < 0 || !file.flush())
-        throw Failure(Failure::PathError, "Render", name + " can't be written.");
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.data(), std::ssize(text)) < 0 || !file.flush())
+        throw Failure(Failure::PathError, "Output", name + " can't be written.");
 }
 
 }  // namespace ornavo

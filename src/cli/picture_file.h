@@ -14,7 +14,8 @@ namespace ornavo {
 /// to that size, with a message. Failure 5 if the skin has no size.
 Size SizeToDraw(const Arguments& arguments);
 
-/// Failure 75 if the file can't be written.
+/// Both throw Failure 75 if the file can't be written.
 void WritePng(const QImage& picture, const std::string& file);
+void WriteText(const std::string& text, const std::string& file);
 
 }  // namespace ornavo

@@ -167,6 +167,15 @@ TEST_F(ToolTest, CheckAndCompareTellWhatTheyFind) {
     EXPECT_EQ(QImage(Path("out/Standard-difference.png")).size(), QSize(100, 80));
 }
 
+TEST_F(ToolTest, ASheetHasTheLayoutsAtAllSizes) {
+    EXPECT_EQ(Run("sheet Blue --out x.html --sizes 90x80 --sizes 200x100 --states"), 0) << err_.constData();
+    const QByteArray page = Read("x.html");
+    EXPECT_EQ(page.count("src=\"data:image/png;base64,"), 2);
+    EXPECT_TRUE(page.contains("200 x 100") && page.contains("no preview picture"));
+    EXPECT_EQ(Run("sheet Blue --out x.png --layouts standard"), 0) << err_.constData();
+    EXPECT_GT(QImage(Path("x.png")).width(), 1000);
+}
+
 TEST_F(ToolTest, RenderCutsThePreviewAndDrawsTheCanvas) {
     const QImage preview = Rendered(" --edge hard");
     EXPECT_EQ(preview.size(), QSize(100, 80));
@@ -211,8 +220,9 @@ TEST_F(ToolTest, ExitCodes) {
          {"", "paint Blue", "dump", "dump Blue --nonsense", "dump Blue Blue", "place Blue",
           "place Blue --layout Standard --size 0x5", render + "x.png --view both",
           render + "x.png --size 8193x80", "check", "compare Blue", "compare Blue Blue --tolerance 256",
-          in + "--hue 256 --saturation 1", in + "--hue=-1 --saturation 1", in + "--hue 1 --saturation 1.5",
-          in + "--hue 1", "recolour in.png out.png" + one}},
+          "sheet Blue --out x.bmp", "sheet Blue --out x.png --sizes 1", in + "--hue 256 --saturation 1",
+          in + "--hue=-1 --saturation 1", in + "--hue 1 --saturation 1.5", in + "--hue 1",
+          "recolour in.png out.png" + one}},
         {1,
          {"dump None", "place Blue --layout None", render + "no/folder.png",
           "recolour text.png out.bmp" + one, "recolour in.png no/out.bmp" + one}},
