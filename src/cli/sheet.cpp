@@ -13,6 +13,7 @@
 #include "document/codes.h"
 #include "document/skin_copy.h"
 #include "platform/form.h"
+#include "playback/info_show.h"
 #include "render/layout_picture.h"
 
 namespace ornavo {
@@ -51,6 +52,7 @@ std::vector<dbLayoutRef> LayoutsOf(const Arguments& arguments) {
 
 QImage Drawn(const dbSkin& skin, const std::string& layout, Size size) {
     LayoutPicture composed(skin, layout, size, View::Preview);
+    InfoShow().Begin(composed.host(), composed.layout());
     for (const std::string& failure : composed.failures()) Tell(failure);
     return composed.Shaped(true);
 }
