@@ -17,7 +17,8 @@ Findings CheckSkin(const dbSkin& skin) {
     const LookupScope names;
     const LoadedSkin loaded(skin, ReadFile(skin.SkinFile()));
     Findings findings = CheckLines(loaded);
-    for (const auto part : {CheckPictures, CheckUse, CheckSizes})
+    std::ranges::move(CheckPictures(loaded), std::back_inserter(findings));
+    for (const auto part : {CheckUse, CheckSizes})
         std::ranges::move(part(loaded), std::back_inserter(findings));
     SortBySeverity(findings);
     return findings;

@@ -29,7 +29,6 @@ constexpr FindingKind Kinds[] = {
     {"unreadable-picture", Error, "Save the picture anew with a picture program, as PNG, JPEG, BMP or GIF."},
     {"refused-picture", Error, "Give the picture another name."},
     {"outside-picture", Warning, "Save the skin."},
-    {"renamed-picture", Warning, "Save the skin, or give the picture a plain name."},
     {"two-pictures-one-name", Warning, "Give one of the pictures another name."},
     {"mixed-animation", Warning, "Use animated pictures for all states, or for none."},
     {"clear-pixels", Warning, "Switch Use Transparency on, or use a picture without clear pixels."},

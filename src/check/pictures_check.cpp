@@ -21,7 +21,6 @@ namespace {
 
 constexpr Size LargestScreen = {1920, 1080}, LeastWindow = {600, 600};
 constexpr std::int64_t WasteFactor = 4;  // a picture has so many times the pixels of its place
-constexpr std::int64_t Heavy = PictureByteLimit / 2;
 
 std::string Quoted(const std::string& text) {
     return "\"" + text + "\"";
@@ -79,8 +78,12 @@ struct Sheet {
 
 class PicturesCheck {
 public:
-    explicit PicturesCheck(const LoadedSkin& loaded)
-        : loaded_(loaded), skin_(loaded.skin()), uses_(PictureUses(skin_)), steps_(PlanSave(skin_, false)) {}
+    PicturesCheck(const LoadedSkin& loaded, std::int64_t most)
+        : loaded_(loaded),
+          most_(most),
+          skin_(loaded.skin()),
+          uses_(PictureUses(skin_)),
+          steps_(PlanSave(skin_, false)) {}
     Findings Run();
 
 private:
@@ -104,6 +107,7 @@ private:
     void CheckWeight();
 
     const LoadedSkin& loaded_;
+    const std::int64_t most_;
     const dbSkin& skin_;
     const std::vector<PictureUse> uses_;
     const std::vector<PictureStep> steps_;
@@ -129,7 +133,6 @@ void PicturesCheck::CheckReference(const std::string& given, const Sheet& sheet)
     if (reference.source.empty())
         return Add("missing-picture", sheet,
                    Quoted(given) + " is not there: nothing is shown, and the next save drops the name.");
-    const std::string name = GetFileName(given);
     if (reference.isRefused)
         Add("refused-picture", sheet,
             Quoted(given) +
@@ -138,14 +141,10 @@ void PicturesCheck::CheckReference(const std::string& given, const Sheet& sheet)
     else if (reference.source != reference.target)
         Add("outside-picture", sheet,
             Quoted(given) + " is outside of the skin's folder: the next save copies it there.");
-    else if (GetFileName(reference.source) != name)
+    else if (GetFileName(reference.source) != GetFileName(given))
         Add("picture-case", sheet,
             "The file of " + Quoted(given) + " is called " + Quoted(GetFileName(reference.source)) +
                 ": a jukebox on a disk that regards case doesn't find it.");
-    if (!reference.isRefused && reference.stored != name)
-        Add("renamed-picture", sheet,
-            "The file can't hold the name " + Quoted(name) + ": the next save calls it " +
-                Quoted(reference.stored) + ".");
     CheckFile(sheet);
 }
 
@@ -242,7 +241,7 @@ void PicturesCheck::CheckUnnamed() {
 void PicturesCheck::CheckWeight() {
     std::int64_t bytes = 0;
     for (const auto& [file, weight] : weights_) bytes += weight;
-    if (bytes > Heavy)
+    if (bytes > most_)
         findings_.push_back(
             MakeFinding("heavy-skin", {}, 0,
                         "The pictures take " + std::to_string(bytes >> 20) +
@@ -251,8 +250,8 @@ void PicturesCheck::CheckWeight() {
 
 }  // namespace
 
-Findings CheckPictures(const LoadedSkin& loaded) {
-    return PicturesCheck(loaded).Run();
+Findings CheckPictures(const LoadedSkin& loaded, std::int64_t most) {
+    return PicturesCheck(loaded, most).Run();
 }
 
 }  // namespace ornavo
