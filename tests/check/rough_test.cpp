@@ -23,16 +23,28 @@ public:
     Rough() {
         skin.SetBasePath(folder.place().string());
         skin.SkinName = "Rough";
-        skin.SkinWidth = skin.SkinHeight = 600;
-        skin.AddNewLayout("Standard")->AddDummyPoints();
-        skin.AddNewLayout("Two")->AddDummyPoints();
-        for (const char* layout : {"Standard", "Two"})
-            for (int i = 0; i < 3; ++i) {
-                dbLayoutElement& element = Add("Able" + std::to_string(i), TypeButton, layout);
-                element.ActionType = ActionClose;
-                element.Dragger = i == 1, element.Resizer = i == 2;
-            }
+        skin.SkinWidth = 700, skin.SkinHeight = 600;
+        for (const char* key : {"Standard", "Two"}) AddLayout(key);
         Picture("preview.png", 1);
+    }
+    /// A layout that can be closed, moved and sized, with a tiny panel.
+    dbLayout& AddLayout(const std::string& key) {
+        dbLayout& layout = *skin.AddNewLayout(key);
+        layout.AddDummyPoints();
+        for (const dbLayoutElementRef& element : *layout.dbLayoutElements) {
+            element->Visible = element->LockRight = element->LockBottom = false, element->LockLeft = true;
+            element->LeftX = 0, element->TopY = 590, element->WidthX = element->HeightY = 9;
+        }
+        for (int i = 0; i < 3; ++i) {
+            dbLayoutElement& able = Add("Able" + std::to_string(i), TypeButton, key.c_str());
+            able.Dragger = i == 1, able.Resizer = i == 2;
+        }
+        return layout;
+    }
+    /// A layout whose shape ends where the skin ends, in wider windows too.
+    void FixShape(const std::string& key) {
+        const dbPoints& points = *AddLayout(key).dbPoints;
+        for (const int i : {3, 4}) points.Item(i)->HAlign = AlignStart, points.Item(i)->X = 700;
     }
     /// The names of elements are those of the codes that they have.
     dbLayoutElement& Add(const std::string& key, int type = TypePicture, const char* layout = "Standard") {
@@ -145,6 +157,34 @@ const Fault Faults[] = {
          e.PicNormal = r.Picture("keyed.png", 5), e.UseTransparency = true, e.TransparentColor = Rgb(1, 2, 3);
      }},
     {"unnamed-file", [](Rough& r, auto&) { r.Picture("nobody.png", 5); }},
+    {"covered-element",
+     [](Rough& r, auto& code) {
+         dbLayoutElement &still = r.Add(code, TypeButton), &moving = r.Add(code + "2", TypeButton);
+         still.LeftX = 300, moving.LeftX = 600, still.TopY = moving.TopY = 500;
+         moving.LockLeft = false, moving.LockRight = true;
+     }},
+    {"outside-window",
+     [](Rough& r, auto& code) {
+         dbLayoutElement& e = r.Add(code, TypeButton);
+         e.LeftX = 640, e.TopY = 400;
+     }},
+    {"no-size",
+     [](Rough& r, auto& code) {
+         dbLayoutElement& e = r.Add(code, TypeButton);
+         e.TopY = 540, e.LockRight = true;
+     }},
+    {"outside-shape",
+     [](Rough& r, auto& code) {
+         r.FixShape(code);
+         dbLayoutElement& e = r.Add(code, TypeButton, code.c_str());
+         e.LeftX = 60, e.TopY = 300, e.LockLeft = false, e.LockRight = true;
+     }},
+    {"cut-by-shape",
+     [](Rough& r, auto& code) {
+         r.FixShape(code);
+         dbLayoutElement& e = r.Add(code, TypeButton, code.c_str());
+         e.LeftX = 100, e.WidthX = 500, e.TopY = 300, e.LockRight = true;
+     }},
     {"few-corners",
      [](Rough& r, auto&) {
          for (int i = 4; i > 2; --i) r.skin.dbLayouts->Item("Two")->dbPoints->Remove(i);
