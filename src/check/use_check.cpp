@@ -5,6 +5,7 @@
 #include <map>
 
 #include "base/lookup.h"
+#include "base/numbers.h"
 #include "base/text.h"
 #include "document/codes.h"
 #include "document/skin_preview.h"
@@ -127,7 +128,9 @@ void UseCheck::CheckFonts() {
     for (const dbSkinPrefRef& pref : *skin_.dbSkinPrefs) NoteFace(pref->Font, {"", pref->Key, "Font"});
     for (const dbLayoutRef& layout : *skin_.dbLayouts)
         for (const dbLayoutElementRef& element : *layout->dbLayoutElements)
-            NoteFace(element->Font, {layout->Key, element->Key, "Font"});
+            // The font that an info field gets when it has none is called like the field's value.
+            if (element->Font && element->Font->Name != NumberText(element->Value))
+                NoteFace(element->Font, {layout->Key, element->Key, "Font"});
     for (const auto& [name, face] : faces_)
         Add("unusual-font", face.place, face.line,
             "A fresh Windows hasn't the font " + Quoted(name) + ", and another takes its place" +

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 
 #include "canvas/new_elements.h"
+#include "check/check.h"
 #include "editor/settings_keys.h"
 #include "support/canvas_fixture.h"
 
@@ -121,6 +122,20 @@ TEST_F(ToolboxTest, ItComesBackWhereItWas) {
     EXPECT_EQ(toolbox.pos(), QPoint(200, 120));
     EXPECT_EQ(toolbox.tbx_GridX->text(), "33");
     EXPECT_TRUE(toolbox.chk_SnapGrid->isChecked());
+}
+
+/// A skin that has just been created, and each of the toolbox's adders.
+TEST_F(ToolboxTest, WhatTheProgramMakesIsRight) {
+    objSkin->dbLayouts = std::make_shared<dbLayouts>();
+    for (const char* key : {"Admin-Mode", "Kiosk-Mode"}) {
+        objCurrentLayout = objSkin->AddNewLayout(key);
+        objCurrentLayout->AddDummyPoints();
+        for (const ElementTypeCode type : {TypeButton, TypePicture, TypeVolume, TypeInfo})
+            AddElement(form_->parts(), type);
+    }
+    objSkin->SaveSkin(false);
+    for (const Finding& finding : CheckSkin(*objSkin))
+        EXPECT_EQ(NameOf(finding.kind->severity), "hint") << finding.text;
 }
 
 }  // namespace

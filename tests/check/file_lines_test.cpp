@@ -183,7 +183,7 @@ protected:
     /// More of them by the environment.
     static int Count() {
         const char* const wanted = std::getenv("ORNAVO_WALK_EVENTS");
-        return wanted ? std::atoi(wanted) : 200;
+        return wanted ? std::atoi(wanted) : 80;
     }
     const TemporaryFolder folder_;
 };

@@ -88,7 +88,7 @@ TEST(SizesCheck, HoldsAtRandomSizes) {
         for (const char letter : {'L', 'T', 'R', 'B', 'W', 'H'}) anchors.append(below(2), letter);
         return Make(TypeInfo, {below(1000), below(800), 1 + below(300), 1 + below(300)}, anchors);
     };
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 80; ++i) {
         dbLayout layout;
         for (int n = 1; n < 5; ++n) Put(layout, {below(1000), below(800), below(4), below(4), n});
         const ShapeSizes shape(layout, Skin);
