@@ -58,6 +58,8 @@ Screen::Screen() {
     for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
         setenv(name, home_.c_str(), 1);
     setenv("QT_QPA_PLATFORM", "xcb", 1);
+    // A desktop has a bus. Where there is none, a program that wants it would first start one.
+    setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + (home_ / "none").string()).c_str(), 1);
     server_ =
         Start({"Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24", "-noreset", "-nolisten", "tcp"},
               home_ / "display");
