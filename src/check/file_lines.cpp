@@ -64,10 +64,6 @@ bool IsPicture(const LoadedObject& object, std::string_view field) {
            EqualText(field.substr(0, 3), "Pic");
 }
 
-std::string Quoted(std::string_view text) {
-    return std::string("\"").append(text).append("\"");
-}
-
 std::string QuotedBytes(std::string_view bytes) {
     return Quoted(FromFileBytes(bytes));
 }

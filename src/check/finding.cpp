@@ -70,6 +70,10 @@ Finding MakeFinding(std::string_view code, FindingPlace place, int line, std::st
     return {std::ranges::find(Kinds, code, &FindingKind::code), std::move(place), line, std::move(text)};
 }
 
+std::string Quoted(std::string_view text) {
+    return std::string("\"").append(text).append("\"");
+}
+
 void SortBySeverity(Findings& findings) {
     std::ranges::stable_sort(findings, {}, [](const Finding& finding) { return finding.kind->severity; });
 }

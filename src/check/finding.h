@@ -39,6 +39,9 @@ using Findings = std::vector<Finding>;
 /// `code` is one of FindingKinds.
 Finding MakeFinding(std::string_view code, FindingPlace place, int line, std::string text);
 
+/// The text between quotation marks, for sentences.
+std::string Quoted(std::string_view text);
+
 /// The errors first, then the warnings; in each, the order is kept.
 void SortBySeverity(Findings& findings);
 

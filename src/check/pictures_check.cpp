@@ -13,6 +13,7 @@
 #include "base/text.h"
 #include "check/picture_uses.h"
 #include "document/skin_packaging.h"
+#include "platform/picture_bytes.h"
 #include "platform/pictures.h"
 #include "render/placement.h"
 
@@ -21,10 +22,6 @@ namespace {
 
 constexpr Size LargestScreen = {1920, 1080}, LeastWindow = {600, 600};
 constexpr std::int64_t WasteFactor = 4;  // a picture has so many times the pixels of its place
-
-std::string Quoted(const std::string& text) {
-    return "\"" + text + "\"";
-}
 
 std::string Words(const QSize& size) {
     return std::to_string(size.width()) + " x " + std::to_string(size.height());
@@ -43,16 +40,6 @@ QSize LargestPlace(const dbLayoutElement& element, const dbSkin& skin) {
         largest = largest.expandedTo({place.width, place.height});
     }
     return largest;
-}
-
-bool IsClearSomewhere(const QImage& image) {
-    if (!image.hasAlphaChannel()) return false;
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        if (std::any_of(row, row + image.width(), [](QRgb pixel) { return qAlpha(pixel) < 255; }))
-            return true;
-    }
-    return false;
 }
 
 bool HasColour(const QImage& image, QRgb colour) {
@@ -167,7 +154,7 @@ void PicturesCheck::CheckPlaces(const Sheet& sheet, const QImage& image) {
         const dbLayoutElement& element = *use->element;
         hasPlace = true;
         largest = largest.expandedTo(LargestPlace(element, skin_));
-        const bool isClear = IsClearSomewhere(image);
+        const bool isClear = IsSeeThrough(image);
         if (!element.UseTransparency && isClear) unclear = use;
         if (element.UseTransparency && !element.UseTopLeftTransparency && !isClear &&
             !HasColour(image, KeyColour(element)))

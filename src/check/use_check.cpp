@@ -31,10 +31,6 @@ constexpr std::string_view UsualFaces[] = {
 constexpr std::string_view StandardLayout = "Standard", KioskLayout = "Kiosk-Mode";
 constexpr int LeastCorners = 3;
 
-std::string Quoted(const std::string& text) {
-    return "\"" + text + "\"";
-}
-
 bool IsPressed(const dbLayoutElement& element) {
     return element.ActionType != 0 || element.Dragger || element.Resizer;
 }

@@ -66,7 +66,7 @@ void Print(const Finding& finding) {
     std::fputs(text.c_str(), stdout);
 }
 
-void PrintJson(const Findings& findings) {
+void PrintFindings(const Findings& findings) {
     JsonWriter json;
     json.BeginObject();
     json.BeginArray("findings");
@@ -97,7 +97,7 @@ int Check(const Arguments& arguments) {
         return std::ranges::any_of(ignored, [&](const Ignored& one) { return one.Matches(finding); });
     });
     if (arguments.Has("json"))
-        PrintJson(findings);
+        PrintFindings(findings);
     else
         std::ranges::for_each(findings, Print);
     FlushOutput();

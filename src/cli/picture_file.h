@@ -15,7 +15,7 @@ namespace ornavo {
 Size SizeToDraw(const Arguments& arguments);
 
 /// Both throw Failure 75 if the file can't be written.
-void WritePng(const QImage& picture, const std::string& file);
-void WriteText(const std::string& text, const std::string& file);
+void WritePng(const QImage& picture, const std::string& name);
+void WriteText(const std::string& text, const std::string& name);
 
 }  // namespace ornavo

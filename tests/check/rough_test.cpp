@@ -65,7 +65,7 @@ public:
     }
     /// Puts lines behind that of this key.
     void Insert(const std::string& key, const std::string& lines) {
-        edits.push_back([=](std::string& text) {
+        edits.emplace_back([=](std::string& text) {
             text.insert(text.find('\n', text.find("<Key>" + key + "<")) + 1, lines + "\n");
         });
     }
