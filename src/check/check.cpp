@@ -9,6 +9,8 @@
 #include "check/file_lines.h"
 #include "check/pictures_check.h"
 #include "check/sizes_check.h"
+#include "check/targets_check.h"
+#include "check/texts_check.h"
 #include "check/use_check.h"
 
 namespace ornavo {
@@ -18,7 +20,7 @@ Findings CheckSkin(const dbSkin& skin) {
     const LoadedSkin loaded(skin, ReadFile(skin.SkinFile()));
     Findings findings = CheckLines(loaded);
     std::ranges::move(CheckPictures(loaded), std::back_inserter(findings));
-    for (const auto part : {CheckUse, CheckSizes})
+    for (const auto part : {CheckUse, CheckSizes, CheckTargets, CheckTexts})
         std::ranges::move(part(loaded), std::back_inserter(findings));
     SortBySeverity(findings);
     return findings;

@@ -43,6 +43,11 @@ constexpr FindingKind Kinds[] = {
     {"no-size", Warning, "Make it larger, or lock it to one side only. Windows from 600 x 600 to 3840 x 2160 are checked."},
     {"outside-shape", Warning, "Lock it and the shape's corners near it to the same sides."},
     {"cut-by-shape", Hint, "Lock it and the shape's corners near it to the same sides."},
+    // Fingers and eyes.
+    {"small-target", Warning, "Make it at least 34 x 34 pixels."},
+    {"low-contrast", Warning, "Choose a lighter or darker text color, or a calmer ground."},
+    {"close-targets", Hint, "Leave at least 8 pixels between them."},
+    {"cut-text", Hint, "Make the element larger or the text smaller."},
     // Use.
     {"few-corners", Warning, "Give the shape three corners, or the four of its rectangle."},
     {"unusual-font", Warning, "Choose a font that every Windows has."},

@@ -12,6 +12,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "check/picture_uses.h"
+#include "check/size_ranges.h"
 #include "document/skin_packaging.h"
 #include "platform/picture_bytes.h"
 #include "platform/pictures.h"
@@ -20,7 +21,7 @@
 namespace ornavo {
 namespace {
 
-constexpr Size LargestScreen = {1920, 1080}, LeastWindow = {600, 600};
+constexpr Size LargestScreen = {1920, 1080};
 constexpr std::int64_t WasteFactor = 4;  // a picture has so many times the pixels of its place
 
 std::string Words(const QSize& size) {

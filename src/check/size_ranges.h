@@ -21,6 +21,7 @@ struct Interval {
 using Ranges = std::vector<Interval>;
 
 inline constexpr Interval CheckedWidths = {600, 3840}, CheckedHeights = {600, 2160};  // of windows, pixels
+inline constexpr Size LeastWindow = {CheckedWidths.first, CheckedHeights.first};
 inline constexpr int LeastGap = 8;  // between ranges; fewer sizes in between belong to the range
 
 /// Adds a number that is larger than all others.

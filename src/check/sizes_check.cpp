@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "base/failure.h"
+#include "check/element_name.h"
 #include "check/shape_sizes.h"
 #include "check/size_words.h"
 #include "document/codes.h"
@@ -37,8 +38,7 @@ bool IsSeen(const dbLayoutElement& element) {
 }
 
 std::string NameOf(const Shown& shown) {
-    const dbLayoutElement& element = shown.element;
-    return "\"" + (element.ElementName.empty() ? element.Key : element.ElementName) + "\"";
+    return QuotedName(shown.element);
 }
 
 /// One, two or three names, or two and how many more.

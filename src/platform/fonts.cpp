@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <algorithm>
 #include <array>
 #include <map>
@@ -117,6 +118,11 @@ QString ShownText(const Font& font, std::string_view text) {
     const QString plain = Shown(text);
     const std::string face = FaceOf(font.Name);
     return IsSymbolFont(face) ? SymbolText(face, plain) : plain;
+}
+
+std::string StandInFor(const Font& font) {
+    const std::string used = QFontInfo(ScreenFont(font)).family().toStdString();
+    return EqualText(used, FaceOf(font.Name)) ? "" : used;
 }
 
 void InstallFontSubstitutes() {

@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QString>
+#include <string>
 #include <string_view>
 
 #include "base/font.h"
@@ -15,6 +16,8 @@ namespace ornavo {
 QFont ScreenFont(const Font& font);
 /// The text as this font draws it: with a symbol font each character becomes its symbol.
 QString ShownText(const Font& font, std::string_view text);
+/// The installed face that is drawn instead of the font's; "" if it is the font's own.
+std::string StandInFor(const Font& font);
 /// Registers the stand-ins for the jukebox's usual faces. Call once, after QApplication and before the first
 /// window.
 void InstallFontSubstitutes();

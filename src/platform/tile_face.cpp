@@ -202,16 +202,11 @@ void PaintText(QPainter& painter, const TileState& state, const TileLayer& layer
     painter.save();
     painter.setFont(ScreenFont(layer.Font));
     const QString text = ShownText(layer.Font, layer.Text);
-    const QFontMetrics font = painter.fontMetrics();
-    const int width = font.horizontalAdvance(text);
-    const double end = size.width - static_cast<double>(layer.RightTrim);
-    const int room = std::max(0, WholePixels(end - static_cast<double>(layer.Left)));
-    const int left = WholePixels(std::trunc(layer.Left));
-    const int top = WholePixels(std::round(layer.Top));
-    const QPoint at(AlignedLeft(layer, size, width), top + font.ascent());
-    const auto draw = [&](int offset, Colour colour) {
-        if (width > room)  // clip a long text to its area
-            painter.setClipRect(QRect(left + offset, 0, room, size.height));
+    const auto [line, area] = PlaceOfText(layer, size);
+    const QPoint at(line.left, line.top + painter.fontMetrics().ascent());
+    const auto draw = [&, &line = line, &area = area](int offset, Colour colour) {
+        if (line.width > area.width)
+            painter.setClipRect(QRect(area.left + offset, 0, area.width, area.height));
         painter.setPen(ScreenColour(colour));
         painter.drawText(at + QPoint(offset, offset), text);
     };
@@ -294,6 +289,15 @@ QImage FinishedPicture(const QImage& picture, const TileState& state, Size size,
     }
     image.setDevicePixelRatio(scale);
     return image;
+}
+
+TextPlace PlaceOfText(const TileLayer& layer, Size size) {
+    const QFontMetrics font(ScreenFont(layer.Font));
+    const int width = font.horizontalAdvance(ShownText(layer.Font, layer.Text));
+    const double end = size.width - static_cast<double>(layer.RightTrim);
+    const int room = std::max(0, WholePixels(end - static_cast<double>(layer.Left)));
+    return {{AlignedLeft(layer, size, width), WholePixels(std::round(layer.Top)), width, font.height()},
+            {WholePixels(std::trunc(layer.Left)), 0, room, size.height}};
 }
 
 void PaintTile(QPainter& painter, const TileState& state, const TileLayers& layers, Size size,

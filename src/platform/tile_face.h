@@ -86,6 +86,13 @@ bool IsOpaque(const TileState& state, const QImage& picture);
 /// FinishedPixelLimit.
 QImage FinishedPicture(const QImage& picture, const TileState& state, Size size, int scale = 1);
 
+/// A text layer's line, as high as its font, and its area, in pixels of the button. A line that is wider than
+/// the area is clipped to it.
+struct TextPlace {
+    Rect line, area;
+};
+TextPlace PlaceOfText(const TileLayer& layer, Size size);
+
 /// Paints the whole button. `picture` is the one to show and may be null. `finished`, if not null, is used
 /// instead of calling FinishedPicture. An opaque button without a picture gets a plain raised face.
 void PaintTile(QPainter& painter, const TileState& state, const TileLayers& layers, Size size,

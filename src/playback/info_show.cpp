@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "base/failure.h"
+#include "base/find_row.h"
 #include "base/numbers.h"
 #include "document/codes.h"
 #include "platform/clock.h"
@@ -66,6 +67,13 @@ void ShowInfoVolume(PictureBox& box, int volume, const dbLayoutElement& element)
     box.Cls();
     const int height = ToLong(bounds.height - static_cast<double>(bounds.height) * volume / VolumeTop);
     DrawPart(box, off, bounds.width, height);
+}
+
+std::string FirstText(const dbLayoutElement& element) {
+    if (element.InfoType == InfoSystemTime) return TimeOfDay();
+    if (const Sample* sample = FindRow(Samples, &Sample::infoType, element.InfoType)) return sample->text;
+    if (element.Seeker) return element.Caption;
+    return element.InfoType == InfoUserLabel ? element.InfoField : "";
 }
 
 void InfoShow::Begin(LayoutHost& host, const dbLayout& layout) {

@@ -49,6 +49,9 @@ private:
     std::vector<TileButton*> dials_;
 };
 
+/// The text of an info element when the playback begins; "" for none.
+std::string FirstText(const dbLayoutElement& element);
+
 /// Draws how far the element's volume picture is filled. Does nothing if the picture is missing. `volume` is
 /// 0 to VolumeTop.
 void ShowInfoVolume(PictureBox& box, int volume, const dbLayoutElement& element);

@@ -80,12 +80,14 @@ public:
     int ScaleHeight() const override { return height(); }
     LayoutHost& host() override { return host_; }
     void ShowGrid() override { surface_.ShowGrid(TargetFrame, 1); }
+    bool HasSurface = true;
 
 protected:
     void paintEvent(QPaintEvent* event) override {
+        event->accept();
+        if (!HasSurface) return;
         QPainter painter(this);
         surface_.Paint(painter, rect());
-        event->accept();
     }
 
 private:
@@ -115,6 +117,17 @@ const std::vector<std::string>& LayoutPicture::failures() const {
 
 QImage LayoutPicture::Whole() {
     return window_->grab().toImage();
+}
+
+QImage LayoutPicture::Controls(const QRegion& part) {
+    QImage picture(window_->size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    const QRegion shape = ShapeRegion(layout(), TargetFrame);
+    const QRegion shown = part & (shape.isEmpty() ? window_->rect() : shape);
+    if (shown.isEmpty()) return picture;
+    const Exchanged<bool> bare(window_->HasSurface, false);
+    window_->render(&picture, shown.boundingRect().topLeft(), shown, QWidget::DrawChildren);
+    return picture;
 }
 
 QImage LayoutPicture::Shaped(bool isSoft) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <QRegion>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,6 +31,8 @@ public:
     /// What failed in the composition, in words.
     const std::vector<std::string>& failures() const;
     QImage Whole();
+    /// Only the controls in a part of the window, cut hard to the shape; clear where there is none.
+    QImage Controls(const QRegion& part);
     /// With everything outside of the layout's shape transparent. Soft edges are anti-aliased along the
     /// polygon, hard ones follow the window's region.
     QImage Shaped(bool isSoft);

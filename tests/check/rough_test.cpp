@@ -185,6 +185,18 @@ const Fault Faults[] = {
          dbLayoutElement& e = r.Add(code, TypeButton, code.c_str());
          e.LeftX = 100, e.WidthX = 500, e.TopY = 300, e.LockRight = true;
      }},
+    {"small-target", [](Rough& r, auto& code) { r.Add(code, TypeButton).WidthX = 33; }},
+    {"close-targets",
+     [](Rough& r, auto& code) {
+         dbLayoutElement &one = r.Add(code), &other = r.Add(code + "2");
+         other.LeftX = one.LeftX + 55, other.TopY = one.TopY;
+     }},
+    {"low-contrast",
+     [](Rough& r, auto& code) {
+         dbLayoutElement& e = r.Add(code, TypeButton);
+         e.Caption = "A", e.TextColor = ButtonFace;
+     }},
+    {"cut-text", [](Rough& r, auto& code) { r.Add(code, TypeButton).Caption = "A long text"; }},
     {"few-corners",
      [](Rough& r, auto&) {
          for (int i = 4; i > 2; --i) r.skin.dbLayouts->Item("Two")->dbPoints->Remove(i);
