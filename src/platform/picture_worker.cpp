@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/picture_worker.h"
 
-#include <ranges>
-
 #include "platform/picture_file.h"
 
 namespace ornavo {
@@ -22,7 +20,8 @@ PictureWorker::PictureWorker(const std::vector<std::filesystem::path>& files) {
 
 void PictureWorker::Work(const std::stop_token& stop) {
     std::int64_t left = AheadPixels;
-    for (Job& job : jobs_ | std::views::reverse) {
+    for (auto at = jobs_.rbegin(); at != jobs_.rend(); ++at) {
+        Job& job = *at;
         State waiting = Waiting;
         if (stop.stop_requested() || left < 0) return;
         if (!job.state.compare_exchange_strong(waiting, Begun)) continue;

@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace ornavo {
@@ -25,8 +26,9 @@ private:
     enum State { Waiting, Begun, Ready, Taken };
     /// A file, and its picture when that is ready.
     struct Job {
+        explicit Job(std::filesystem::path path) : file(std::move(path)) {}
         std::filesystem::path file;
-        QImage picture = {};
+        QImage picture;
         std::atomic<State> state = Waiting;
     };
     void Work(const std::stop_token& stop);

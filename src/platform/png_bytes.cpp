@@ -14,13 +14,20 @@
 namespace ornavo {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
+using ByteList = std::vector<std::uint8_t>;
 
 constexpr std::string_view Signature = "\x89PNG\r\n\x1a\n";
 constexpr int BlockBytes = 64;
 
 /// What the fields of the format hold.
-enum : std::uint8_t { BitsOfChannel = 8, Rgb = 2, Rgba = 6, Deflated = 0, AnyFilter = 0, NotInterlaced = 0 };
+enum : std::uint8_t {
+    BitsOfChannel = 8,
+    PngRgb = 2,
+    PngRgba = 6,
+    Deflated = 0,
+    AnyFilter = 0,
+    NotInterlaced = 0
+};
 enum : std::uint8_t { NearestNeighbour = 4 };  // the filter of a row
 enum : std::uint8_t { PerMetre = 1 };
 
@@ -47,7 +54,7 @@ public:
     RunStream(const RunStream&) = delete;
     RunStream& operator=(const RunStream&) = delete;
     ~RunStream() { deflateEnd(&stream_); }
-    void Add(Bytes& bytes, std::size_t count, int flush = Z_NO_FLUSH) {
+    void Add(ByteList& bytes, std::size_t count, int flush = Z_NO_FLUSH) {
         stream_.next_in = bytes.data();
         stream_.avail_in = static_cast<uInt>(count);
         do {
@@ -58,7 +65,7 @@ public:
         } while (stream_.avail_out == 0);
     }
     const std::string& End() {
-        Bytes nothing;
+        ByteList nothing;
         Add(nothing, 0, Z_FINISH);
         return done_;
     }
@@ -94,7 +101,7 @@ std::string Compressed(const QImage& pixels) {
     const std::size_t rowBytes = pixelBytes * static_cast<std::size_t>(pixels.width());
     const std::size_t blocks = (rowBytes + BlockBytes - 1) / BlockBytes;
     // A pixel of zeros stands before each row.
-    Bytes row(pixelBytes + blocks * BlockBytes), above(row.size()), filtered(1 + blocks * BlockBytes);
+    ByteList row(pixelBytes + blocks * BlockBytes), above(row.size()), filtered(1 + blocks * BlockBytes);
     filtered[0] = NearestNeighbour;
     RunStream stream;
     for (int y = 0; y < pixels.height(); ++y) {
@@ -120,7 +127,8 @@ std::string PngBytesOf(const QImage& picture) {
     std::string header, scale;
     for (const int side : {pixels.width(), pixels.height()})
         AddNumber(header, static_cast<std::uint32_t>(side));
-    for (const std::uint8_t field : {BitsOfChannel, clear ? Rgba : Rgb, Deflated, AnyFilter, NotInterlaced})
+    for (const std::uint8_t field :
+         {BitsOfChannel, clear ? PngRgba : PngRgb, Deflated, AnyFilter, NotInterlaced})
         header += static_cast<char>(field);
     for (const int dots : {picture.dotsPerMeterX(), picture.dotsPerMeterY()})
         AddNumber(scale, static_cast<std::uint32_t>(dots));
