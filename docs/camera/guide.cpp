@@ -13,7 +13,7 @@ constexpr QPoint SheetPlace = {1290, 40};
 constexpr int PencilFromRight = 26;  // pixels
 // Places on the canvas at the skin's own size.
 constexpr QPoint PlayButton = {512, 705}, Panel = {400, 560}, Dial = {949, 108};
-constexpr QPoint Elements[] = {Dial, {400, 107}, {900, 695}, Panel, {820, 226}, {988, 400}, {331, 22}};
+constexpr QPoint Elements[] = {Dial, {400, 107}, {950, 681}, Panel, {820, 226}, {988, 400}, {331, 22}};
 constexpr QPoint Sample[] = {{273, 289}, {273, 338}, {41, 424},  {825, 379},
                              {672, 295}, {920, 483}, {151, 609}, {167, 451}};
 

@@ -20,6 +20,8 @@ ALBUMS, ARTISTS, SONGS, SPECIAL, PLAYLIST, TOP, DELETE, MAGIC, UP, DOWN, KEYBOAR
 GENERATOR, AUTOPLAY, AUTOPLAY_STOP, AUTOPLAY_LISTS, LOAD, SAVE = range(32, 38)
 AUTO_CUE, AUTO_MODE, TEMPO = 53, 54, 55
 
+WIDE = 1700  # pixels that a text or the seek bar takes in a window of 1920, and some more
+
 (LABEL, FULL_TITLE, SONG, ARTIST_NAME, ALBUM, LOUDNESS, ALBUM_PICTURE, ARTIST_PICTURE, ELAPSED, REMAINING, DURATION,
  SONG_INFO, REPEATING, SHUFFLING, STATUS, CREDITS, FOUND, TIME, LIST_NAME, LIST_DURATION, PROPERTY) = range(21)
 
@@ -33,7 +35,7 @@ class Page(Layout):
         skin.layouts.append(self)
 
     def picture(self, key, rect, locks="", stretch="", **fields):
-        self.add(key, PICTURE, rect, locks, stretch, UseTransparency=True, ShowSmooth=True, **fields)
+        self.add(key, PICTURE, rect, locks, stretch, **{"UseTransparency": True, "ShowSmooth": True, **fields})
 
     def button(self, key, rect, action, pictures, locks="", stretch="", caption="", font=TAB, **fields):
         if caption:
@@ -52,8 +54,8 @@ class Page(Layout):
         name = self.folder.png(art.plate(rect[2], rect[3], radius), "plate_%dx%d" % rect[2:])
         self.picture(key, rect, locks, PicNormal=name)
 
-    def ground(self, height, top, part, width=1700):
-        """The picture behind a text on a plate of that height."""
+    def ground(self, height, top, part, width=150):
+        """The picture behind a text on a plate of that height; WIDE for a text that grows with the window."""
         return self.folder.png(art.plate_slice(height, top, part, width), "text_%d_%d_%d" % (height, top, part))
 
 
@@ -91,9 +93,9 @@ def window_buttons(page, y, right=1008):
 
 
 def brand(page, y):
-    page.picture("Wordmark", (56, y, 168, 36), "LT", PicNormal=page.folder.png(art.wordmark(168, 36), "wordmark"),
+    page.picture("Wordmark", (52, y + 4, 124, 27), "LT", PicNormal=page.folder.png(art.wordmark(124, 27), "wordmark"),
                  Dragger=True)
-    page.picture("Seal", (18, y - 1, 38, 38), "LT", PicNormal=page.folder.png(art.sticker(38), "seal"), Rotation=8,
+    page.picture("Seal", (14, y - 1, 38, 38), "LT", PicNormal=page.folder.png(art.sticker(38), "seal"), Rotation=8,
                  name="Seal, turned by 8 degrees")
 
 
@@ -126,32 +128,36 @@ def scroller(page, x, y, height, width=36):
              Font=SMALL, BackgroundColor=skin_colour(DEEP), name="Scrollbar")
 
 
-def transport(page, y, locks="B", big=80, small=54):
+def transport(page, y, big=80, small=54, gap=4):
     """Five round buttons around the middle of the window."""
     row = (("Previous", PREVIOUS, "previous", -2), ("Stop", STOP, "stop", -1), ("Play", PLAY, "play", 0),
            ("Pause", PAUSE, "pause", 1), ("Next", NEXT, "next", 2))
     for key, action, symbol, place in row:
         size = small if place else big
-        middle = 512 + place * (small + 6) + (0 if not place else (10 if place > 0 else -10))
+        side = (place > 0) - (place < 0)
+        middle = 512 + place * (small + gap) + side * (big - small) // 2
         pictures = three_states(page.folder, "transport_%s" % symbol, round_button(size, symbol, TEAL if place else GREEN))
-        page.button(key, (middle - size // 2, y - size // 2, size, size), action, pictures, locks)
+        page.button(key, (middle - size // 2, y - size // 2, size, size), action, pictures, "B")
 
 
-def small_buttons(page, x, y, entries, locks, gap=6, size=46):
+def small_buttons(page, x, y, entries, locks, width=51, gap=4):
+    """Two in a row: in a corner they leave the middle of a narrow window to others."""
+    height = 36
     for i, (key, action, symbol, accent) in enumerate(entries):
-        pictures = three_states(page.folder, "small_" + symbol, pane_button(size, 42, symbol, 10, accent))
-        page.button(key, (x + i * (size + gap), y, size, 42), action, pictures, locks)
+        pictures = three_states(page.folder, "small_" + symbol, pane_button(width, height, symbol, 10, accent))
+        at = (x + i % 2 * (width + gap), y + i // 2 * (height + gap), width, height)
+        page.button(key, at, action, pictures, locks)
 
 
 def volume_group(page, x, y):
-    """Softer, the bar that fills, louder."""
-    for key, action, symbol, at in (("Softer", SOFTER, "volume_down", x), ("Louder", LOUDER, "volume_up", x + 162)):
-        pictures = three_states(page.folder, "small_" + symbol, pane_button(42, 42, symbol, 10))
-        page.button(key, (at, y, 42, 42), action, pictures, "RB", Value=10.5)
-    page.plate("VolumePlate", (x + 46, y, 112, 42), "RB")
-    page.info("VolumeBar", (x + 52, y + 5, 100, 32), LOUDNESS, page.folder.bmp(art.volume_bar(100, 32, False), "volume_0", NIGHT),
+    """The bar that fills, and under it softer and louder, beside the grip."""
+    page.plate("VolumePlate", (x, y, 112, 42), "RB")
+    page.info("VolumeBar", (x + 6, y + 5, 100, 32), LOUDNESS, page.folder.bmp(art.volume_bar(100, 32, False), "volume_0", NIGHT),
               SMALL, ICE, "RB", PicOn=page.folder.bmp(art.volume_bar(100, 32, True), "volume_100", NIGHT),
               VolumeChangeable=True)
+    small_buttons(page, x, y + 46, (("Softer", SOFTER, "volume_down", TEAL), ("Louder", LOUDER, "volume_up", TEAL)), "RB", 44)
+    for element in page.elements[-2:]:
+        element["Value"] = 10.5
 
 
 def tabs(page, entries, rect, count, accent=TEAL):
@@ -166,39 +172,38 @@ def tabs(page, entries, rect, count, accent=TEAL):
 
 def seek_bar(page, rect, plate_height, plate_top, locks):
     x, y, width, height = rect
-    image, pen = style.surface(1700, height)
-    style.paste(pen, art.plate_slice(plate_height, plate_top, height))
-    pen.rectangle(0, 2, 1700, height - 4)
+    image, pen = style.surface(WIDE, height)
+    style.paste(pen, art.plate_slice(plate_height, plate_top, height, WIDE))
+    pen.rectangle(0, 2, WIDE, height - 4)
     style.fill(pen, style.vertical(2, height - 2, (0, style.BLACK, 0.9), (1, "27407a", 0.9)))
     page.info("Seeker", rect, LABEL, page.folder.png(image, "seek_ground"), SMALL, ICE, locks, Seeker=True,
               SeekerColor=skin_colour(TEAL), SeekTopOffset=3, SeekBottomOffset=3, SeekLeftOffset=1, SeekRightOffset=1,
               name="Seek bar")
 
 
-def display(page, rect):
-    """Record, sleeve, what is playing, the seek bar, an equaliser and the dial."""
+def display(page, rect, peep=40):
+    """Record, sleeve, what is playing, the seek bar, an equaliser and the dial; `peep` pixels of the record are seen."""
     x, y, width, height = rect
     art.slices(page.folder, page, page.key.split("-")[0] + "Display", art.plate(width, height, 14), rect,
                (24, width - 24), (), "T")
     frames = [art.record(96, 360 * i / 12) for i in range(12)]
-    page.picture("Record", (x + 66, y + 9, 96, 96), "LT", UseTopLeftTransparency=True,
+    page.picture("Record", (x + 12 + peep, y + 9, 96, 96), "LT", UseTopLeftTransparency=True,
                  PicNormal=page.folder.animated_gif(frames, "record", art.PLATE_TOP, 80), name="Spinning record")
     page.info("Sleeve", (x + 10, y + 8, 98, 98), ALBUM_PICTURE, page.folder.jpg(art.album(98), "sleeve"), SMALL, ICE,
               "LT", CaptionY=80)
-    left, space = x + 182, width - 182 - 216
-    lines = (("SongTitle", SONG, 8, 30, TITLE, ICE), ("ArtistName", ARTIST_NAME, 38, 22, ARTIST, TEAL),
-             ("AlbumName", ALBUM, 60, 18, SMALL, MIST))
+    left, right = x + 120 + peep, x + width - 200
+    space = right - 8 - left
+    lines = (("SongTitle", SONG, 6, 28, TITLE, ICE), ("ArtistName", ARTIST_NAME, 34, 22, ARTIST, TEAL),
+             ("AlbumName", ALBUM, 56, 16, SMALL, MIST), ("SongInfo", SONG_INFO, 72, 16, SMALL, MIST))
     for key, kind, top, part, font, colour in lines:
-        page.info(key, (left, y + top, space, part), kind, page.ground(height, top, part), font, colour, "LTR")
-    times = page.ground(height, 86, 20)
-    page.info("Elapsed", (left, y + 86, 46, 20), ELAPSED, times, DIGITS, GREEN, "LT")
-    seek_bar(page, (left + 50, y + 89, space - 100, 14), height, 89, "LTR")
-    page.info("Remaining", (left + space - 42, y + 86, 46, 20), REMAINING, times, DIGITS, MIST, "RT")
+        page.info(key, (left, y + top, space, part), kind, page.ground(height, top, part, WIDE), font, colour, "LTR")
+    seek_bar(page, (left, y + 91, space, 14), height, 91, "LTR")
     frames = [art.equaliser(90, 60, i) for i in range(16)]
-    page.picture("Equaliser", (x + width - 200, y + 12, 90, 60), "RT", UseTopLeftTransparency=False,
+    page.picture("Equaliser", (right, y + 12, 90, 60), "RT", UseTopLeftTransparency=False,
                  PicNormal=page.folder.animated_gif(frames, "equaliser", art.PLATE_BOTTOM, 90), name="Dancing bars")
-    page.info("SongInfo", (x + width - 200, y + 84, 92, 18), SONG_INFO, page.ground(height, 84, 18), SMALL, MIST, "RT",
-              CapScrollSpeed=1)
+    times = page.ground(height, 86, 20)
+    page.info("Elapsed", (right, y + 86, 44, 20), ELAPSED, times, DIGITS, GREEN, "RT")
+    page.info("Remaining", (right + 46, y + 86, 44, 20), REMAINING, times, DIGITS, MIST, "RT")
     page.picture("DialRing", (x + width - 102, y + 9, 96, 96), "RT", PicNormal=page.folder.png(art.dial_ring(96), "dial_ring"))
     page.add("Dial", VOLUME, (x + width - 98, y + 13, 88, 88), "RT", UseTransparency=True, ShowSmooth=True,
              PicNormal=page.folder.png(art.dial(88), "dial"), VolumeChangeable=True, name="Volume dial")
@@ -235,9 +240,9 @@ def standard(skin, folder):
     main_panel(page, (24, 264, 932, 376))
     scroller(page, 970, 256, 392)
     transport(page, 705)
-    small_buttons(page, 20, 674, (("Shuffle", SHUFFLE, "shuffle", TEAL), ("Repeat", REPEAT, "repeat", TEAL),
+    small_buttons(page, 20, 663, (("Shuffle", SHUFFLE, "shuffle", TEAL), ("Repeat", REPEAT, "repeat", TEAL),
                                   ("Delete", DELETE, "delete", ROSE), ("Favourites", 47, "heart", ROSE)), "LB")
-    volume_group(page, 802, 674)
+    volume_group(page, 894, 660)
     grip(page, 990, 718)
 
 
@@ -247,7 +252,7 @@ def kiosk(skin, folder):
     page.picture("Wordmark", (30, 28, 196, 42), "LT", PicNormal=folder.png(art.wordmark(196, 42), "wordmark_large"),
                  Dragger=True)
     page.plate("TitlePlate", (240, 16, 544, 52), "LTR", 12)
-    page.info("NowPlaying", (254, 25, 516, 34), FULL_TITLE, page.ground(52, 9, 34), TITLE, ICE, "LTR", CapScrollSpeed=3)
+    page.info("NowPlaying", (254, 25, 516, 34), FULL_TITLE, page.ground(52, 9, 34, WIDE), TITLE, ICE, "LTR", CapScrollSpeed=3)
     page.plate("ClockPlate", (800, 22, 106, 40), "RT")
     page.info("Clock", (810, 30, 88, 24), TIME, page.ground(40, 8, 24), CLOCK, GREEN, "RT", CaptionY=1)
     pictures = three_states(folder, "window_close", pane_button(34, 30, "close", 7, ROSE, 0.5))
@@ -260,21 +265,21 @@ def kiosk(skin, folder):
         page.button(key, (20, 114 + i * 89, 156, 76), action, pictures, "L", "H", captions.get(key, key),
                     Font("Tahoma", 13, True), CaptionX=48, CaptionY=26)
     main_panel(page, (200, 108, 752, 536))
-    page.picture("SearchField", (190, 694, 190, 38), "LB", "W", IsSearch=True,
-                 PicNormal=folder.png(art.search_field(190, 38), "search_field_kiosk"))
-    page.add("SearchBox", SEARCH, (224, 702, 140, 22), "LB", "W", TextColor=skin_colour(ICE), Font=ARTIST,
+    page.picture("SearchField", (20, 718, 170, 36), "LB", IsSearch=True,
+                 PicNormal=folder.png(art.search_field(170, 36), "search_field_kiosk"))
+    page.add("SearchBox", SEARCH, (54, 725, 122, 22), "LB", TextColor=skin_colour(ICE), Font=ARTIST,
              BackgroundColor=skin_colour("0a1730"), name="Search Box")
     scroller(page, 966, 100, 552, 40)
     big = (("Back", BACK, "back", TEAL), ("Keyboard", KEYBOARD, "keyboard", TEAL))
-    small_buttons(page, 24, 692, big, "LB", 8, 72)
+    small_buttons(page, 20, 678, big, "LB", 82, 6)
     for i, (key, action, symbol) in enumerate((("ListUp", UP, "up"), ("ListDown", DOWN, "down"))):
-        pictures = three_states(folder, "wide_" + symbol, pane_button(120, 72, symbol, 16, GREEN, 0.5))
-        page.button(key, (392 + i * 124, 682, 118, 70), action, pictures, "B")
-    page.plate("CreditPlate", (776, 686, 224, 62), "RB", 12)
-    page.picture("Coin", (786, 693, 48, 48), "RB", PicNormal=folder.png(coin(48), "coin"), Rotation=-12.5)
-    page.info("CreditLabel", (842, 693, 64, 22), LABEL, page.ground(62, 7, 22), TAB, MIST, "RB", InfoField="Credits")
-    page.info("Credits", (908, 693, 84, 46), CREDITS, page.ground(62, 7, 46), Font("Arial", 16, True), AMBER, "RB")
-    page.info("Found", (842, 716, 64, 20), FOUND, page.ground(62, 30, 20), SMALL, TEAL, "RB")
+        pictures = three_states(folder, "wide_" + symbol, pane_button(100, 70, symbol, 16, GREEN, 0.5))
+        page.button(key, (409 + i * 106, 681, 100, 70), action, pictures, "B")
+    page.plate("CreditPlate", (834, 685, 170, 62), "RB", 12)
+    page.picture("Coin", (840, 693, 46, 46), "RB", PicNormal=folder.png(coin(46), "coin"), Rotation=-12.5)
+    page.info("CreditLabel", (890, 692, 58, 22), LABEL, page.ground(62, 7, 22), TAB, MIST, "RB", InfoField="Credits")
+    page.info("Credits", (950, 692, 48, 46), CREDITS, page.ground(62, 7, 46), Font("Arial", 16, True), AMBER, "RB")
+    page.info("Found", (890, 715, 58, 20), FOUND, page.ground(62, 30, 20), SMALL, TEAL, "RB")
 
 
 def coin(size):
@@ -296,31 +301,31 @@ def admin(skin, folder):
     page.info("PlaylistName", (404, 19, 146, 22), LIST_NAME, page.ground(38, 8, 22), TAB, GREEN, "T")
     page.info("PlaylistDuration", (556, 19, 66, 22), LIST_DURATION, page.ground(38, 8, 22), DIGITS, ICE, "T")
     window_buttons(page, 15)
-    display(page, (160, 70, 848, 114))
+    display(page, (148, 70, 860, 114), 18)
     rows = (("LoadList", LOAD, "Load", "playlist"), ("SaveList", SAVE, "Save", "album"),
             ("Generator", GENERATOR, "Generate", "magic"), ("AutoPlay", AUTOPLAY, "Auto play", "play"),
             ("AutoStop", AUTOPLAY_STOP, "Auto stop", "stop"), ("Video", VIDEO, "Video", "video"),
             ("Lyrics", LYRICS, "Lyrics", "lyrics"), ("Equalizer", EQUALISER, "Equalizer", "equaliser"),
             ("Tempo", TEMPO, "Tempo", "tempo"), ("Script", SCRIPT, "Script", "script"))
     for i, (key, action, caption, symbol) in enumerate(rows):
-        pictures = three_states(folder, "tool_" + symbol, pane_button(132, 50, symbol, 11, VIOLET if i > 4 else TEAL, 0.5, 10))
+        pictures = three_states(folder, "tool_" + symbol, pane_button(120, 52, symbol, 11, VIOLET if i > 4 else TEAL, 0.5, 10))
         more = {"dbScript": "Tidy up"} if action == SCRIPT else {}
-        page.button(key, (16, 80 + i * 59, 132, 52), action, pictures, "L", "H", caption, CaptionX=26, CaptionY=16, **more)
+        page.button(key, (16, 80 + i * 59, 120, 52), action, pictures, "L", "H", caption, CaptionX=26, CaptionY=16, **more)
     page.plate("SidePlate", (948, 200, 60, 476), "RTB", 12)
     low, high = art.volume_column(40, False), art.volume_column(40, True)
     page.info("VolumeColumn", (958, 214, 40, 448), LOUDNESS, folder.png(low, "column_0"), SMALL, ICE, "RTB", Value=1,
               PicOn=folder.png(high, "column_100"), VolumeChangeable=True)
-    main_panel(page, (168, 208, 760, 460))
+    main_panel(page, (156, 208, 772, 460))
     page.add("SearchBox", SEARCH, (330, 85, 200, 25), "LT", Visible=False, BackgroundColor=0xFFFFFF, name="Search Box")
     page.add("Scrollbar", SCROLLBAR, (954, 200, 40, 450), "RTB", Visible=False, BackgroundColor=0x8000000F)
-    transport(page, 721, "B", 72)
-    page.plate("StatePlate", (24, 697, 190, 48), "LB", 10)
+    transport(page, 725, 72)
+    page.plate("StatePlate", (20, 701, 116, 48), "LB", 10)
     for i, (key, kind, label) in enumerate((("RepeatState", REPEATING, "Repeat"), ("ShuffleState", SHUFFLING, "Shuffle"))):
-        y = 702 + i * 19
+        y = 706 + i * 19
         ground = page.ground(48, 5 + i * 19, 19)
-        page.info(key + "Label", (36, y, 62, 19), LABEL, ground, SMALL, MIST, "LB", InfoField=label)
-        page.info(key, (100, y, 104, 19), kind, ground, SMALL, GREEN, "LB")
-    small_buttons(page, 804, 696, (("Rewind", REWIND, "rewind", TEAL), ("Forward", FORWARD, "forward", TEAL),
+        page.info(key + "Label", (30, y, 50, 19), LABEL, ground, SMALL, MIST, "LB", InfoField=label)
+        page.info(key, (82, y, 48, 19), kind, ground, SMALL, GREEN, "LB")
+    small_buttons(page, 882, 687, (("Rewind", REWIND, "rewind", TEAL), ("Forward", FORWARD, "forward", TEAL),
                                    ("AutoCue", AUTO_CUE, "clock", VIOLET), ("AutoMode", AUTO_MODE, "repeat", VIOLET)), "RB")
     for element in page.elements:
         if element["ActionType"] in (FORWARD, REWIND):

@@ -81,7 +81,7 @@ def frame(pen, width, height, radius):
     style.stroke(pen, WHITE, 0.05, 6)
 
 
-def plate_slice(height, top, part, width=1700):
+def plate_slice(height, top, part, width):
     """The ground of a text that starts `top` pixels below the edge of a plate."""
     image, pen = surface(width, part)
     pen.translate(0, -top)
@@ -99,9 +99,10 @@ def slices(folder, layout, name, picture, rect, cuts_x, cuts_y, locks_y=("T", "T
     for row in rows:
         for column in range(3):
             x, y, width, height = xs[column], ys[row], xs[column + 1] - xs[column], ys[row + 1] - ys[row]
-            part = folder.png(style.cut(picture, x, y, width, height), "%s_%d%d" % (name, row + 1, column + 1))
+            part = style.cut(picture, x, y, width, height)
+            file = folder.png(part, "%s_%d%d" % (name, row + 1, column + 1))
             layout.picture("%s%d%d" % (name, row + 1, column + 1), (rect[0] + x, rect[1] + y, width, height),
-                           across[column] + down[row], PicNormal=part)
+                           across[column] + down[row], PicNormal=file, UseTransparency=style.is_clear(part))
 
 
 # ---- moving things ------------------------------------------------------------------------------------------------------

@@ -211,7 +211,7 @@ def standard(skin, folder):
 def kiosk(skin, folder):
     page = Page(skin, "Kiosk-Mode", folder)
     ground(page, 64, 62)
-    page.info("NowPlaying", (16, 14, 560, 36), 1, TITLE, PAPER, "LTR", DARK_WOOD, CapScrollSpeed=3)
+    page.info("NowPlaying", (158, 14, 418, 36), 1, TITLE, PAPER, "LTR", DARK_WOOD, CapScrollSpeed=3)
     page.info("CreditLabel", (592, 14, 110, 36), 0, Font("Tahoma", 14, True), PAPER, "RT", DARK_WOOD, InfoField=" Credits")
     page.info("Credits", (702, 14, 82, 36), 15, Font("Tahoma", 16, True), "ffd98a", "RT", DARK_WOOD)
     faces = pictures(folder, "side", face(130, 60))
@@ -219,7 +219,7 @@ def kiosk(skin, folder):
         page.button(caption.replace(" ", ""), (12, 76 + i * 77, 130, 67), action, faces, "L", "H", caption, ShowShadow=False)
         page.elements[-1].update(Font=Font("Tahoma", 12, True), CaptionY=22)
     lists(page, (154, 76, 634, 452))
-    page.add("SearchBox", SEARCH, (130, 556, 120, 26), "LB", ShowBorder=True, TextColor=skin_colour(INK),
+    page.add("SearchBox", SEARCH, (12, 19, 130, 26), "LT", ShowBorder=True, TextColor=skin_colour(INK),
              BackgroundColor=0xFFFFFF, Font=TEXT, name="Search Box")
     transport(page, 547)
 

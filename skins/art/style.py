@@ -109,6 +109,11 @@ def to_image(picture):
     return image.convert("RGBA")
 
 
+def is_clear(picture):
+    """Whether one can see through a part of it."""
+    return to_image(picture).getextrema()[3][0] < 255
+
+
 def to_surface(image):
     data = bytearray(image.convert("RGBA").convert("RGBa").tobytes("raw", "BGRa"))
     return cairo.ImageSurface.create_for_data(data, cairo.FORMAT_ARGB32, *image.size)
