@@ -2,7 +2,6 @@
 // Checking the rich sample: the sizes of all its layouts, and everything.
 #include <QApplication>
 
-#include "base/files.h"
 #include "check/check.h"
 #include "check/sizes_check.h"
 #include "document/current_skin.h"
@@ -18,7 +17,7 @@ int main(int count, char** words) {
     objSkin->SetBasePath(SKINS);
     objSkin->SkinName = "Aurora";
     objSkin->LoadSkin();
-    const LoadedSkin loaded(*objSkin, ReadFile(objSkin->SkinFile()));
+    const LoadedSkin loaded(SKINS, "Aurora");
     const auto sizes = [&] { return bench::Cpu([&] { CheckSizes(loaded); }); };
     const auto all = [&] { return bench::Cpu([&] { CheckSkin(*objSkin); }); };
     return bench::Judge({{"every window size of the rich sample's layouts", sizes, "", {}, 100},

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "base/files.h"
 #include "base/lookup.h"
 #include "check/file_lines.h"
 #include "check/pictures_check.h"
@@ -17,7 +16,8 @@ namespace ornavo {
 
 Findings CheckSkin(const dbSkin& skin) {
     const LookupScope names;
-    const LoadedSkin loaded(skin, ReadFile(skin.SkinFile()));
+    const std::string name = skin.OldSkinName.empty() ? skin.SkinName : skin.OldSkinName;
+    const LoadedSkin loaded(skin.BasePath(), name);
     Findings findings = CheckLines(loaded);
     std::ranges::move(CheckPictures(loaded), std::back_inserter(findings));
     for (const auto part : {CheckUse, CheckSizes, CheckTargets, CheckTexts})

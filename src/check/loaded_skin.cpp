@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/loaded_skin.h"
 
+#include "base/files.h"
 #include "base/text.h"
 #include "document/skin_copy.h"
 #include "document/skin_packaging.h"
@@ -17,9 +18,9 @@ private:
     std::vector<LineReport>& lines_;
 };
 
-dbSkinRef SkinAt(const dbSkin& where, const std::string& name) {
+dbSkinRef SkinAt(std::string_view basePath, const std::string& name) {
     auto skin = std::make_shared<dbSkin>();
-    skin->SetBasePath(where.BasePath());
+    skin->SetBasePath(basePath);
     skin->SkinName = name;
     return skin;
 }
@@ -40,14 +41,18 @@ const void* AddressOf(const LoadedObject& object) {
         object);
 }
 
-LoadedSkin::LoadedSkin(const dbSkin& where, std::string bytes)
-    : bytes_(std::move(bytes)), skin_(SkinAt(where, where.SkinName)) {
+LoadedSkin::LoadedSkin(std::string_view basePath, const std::string& name)
+    : LoadedSkin(basePath, name, ReadFile(SkinAt(basePath, name)->SkinFile())) {}
+
+LoadedSkin::LoadedSkin(std::string_view basePath, const std::string& name, std::string bytes)
+    : bytes_(std::move(bytes)), skin_(SkinAt(basePath, name)) {
+    folder_ = skin_->SkinFolder();
     LineList observer(lines_);
     skin_->LoadBytes(bytes_, &observer);
     newPreferences_ = -skin_->dbSkinPrefs->Count();
     skin_->SetupSkinPrefs();
     newPreferences_ += skin_->dbSkinPrefs->Count();
-    after_ = SkinAt(where, skin_->SkinName);
+    after_ = SkinAt(basePath, skin_->SkinName);
     after_->LoadBytes(BytesOfSave(*skin_, false));
     Pair(*after_);
 }

@@ -19,8 +19,10 @@ const void* AddressOf(const LoadedObject& object);
 /// objects of both.
 class LoadedSkin {
 public:
-    /// `where` tells the folder and name of the skin.
-    LoadedSkin(const dbSkin& where, std::string bytes);
+    /// Reads the file in the folder of this name; Failure if it can't be read.
+    LoadedSkin(std::string_view basePath, const std::string& name);
+    /// The same for these bytes in place of the file's.
+    LoadedSkin(std::string_view basePath, const std::string& name, std::string bytes);
 
     /// An object that the skin has, where it is, and its counterpart after a save, if it has one.
     struct Part {
@@ -29,6 +31,8 @@ public:
     };
 
     const dbSkin& skin() const { return *skin_; }
+    /// Of the file, with a separator at its end; the next save may write into another.
+    const std::string& folder() const { return folder_; }
     const std::vector<LineReport>& lines() const { return lines_; }
     /// Null for an object that is no part of the skin.
     const Part* Find(const LoadedObject& object) const;
@@ -41,6 +45,7 @@ private:
     void PairLayout(const dbLayout& before, const dbLayoutRef& after);
     void Enter(const void* before, FindingPlace place, LoadedObject after);
 
+    std::string folder_;
     std::string bytes_;  // which the lines point into
     dbSkinRef skin_, after_;
     std::vector<LineReport> lines_;

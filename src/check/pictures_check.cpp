@@ -7,6 +7,7 @@
 #include <set>
 
 #include "base/colour.h"
+#include "base/failure.h"
 #include "base/find_row.h"
 #include "base/lookup.h"
 #include "base/paths.h"
@@ -35,11 +36,12 @@ std::int64_t PixelsOf(const QSize& size) {
 /// The largest size of an element in windows up to the largest screen: its extents are straight lines.
 QSize LargestPlace(const dbLayoutElement& element, const dbSkin& skin) {
     QSize largest(0, 0);
-    for (const Size& window : {LeastWindow, LargestScreen, Size{skin.SkinWidth, skin.SkinHeight}}) {
-        const Rect place =
-            GetElementRect(element, {window.width, window.height, skin.SkinWidth, skin.SkinHeight});
-        largest = largest.expandedTo({place.width, place.height});
-    }
+    for (const Size& window : {LeastWindow, LargestScreen, Size{skin.SkinWidth, skin.SkinHeight}})
+        Attempt([&] {
+            const Rect place =
+                GetElementRect(element, {window.width, window.height, skin.SkinWidth, skin.SkinHeight});
+            largest = largest.expandedTo({place.width, place.height});
+        });
     return largest;
 }
 
@@ -126,7 +128,7 @@ void PicturesCheck::CheckReference(const std::string& given, const Sheet& sheet)
             Quoted(given) +
                 " is called like the skin's settings: the next save can't "
                 "copy it into the folder.");
-    else if (reference.source != reference.target)
+    else if (NativePath(reference.source).parent_path() != OnDisk(loaded_.folder()))
         Add("outside-picture", sheet,
             Quoted(given) + " is outside of the skin's folder: the next save copies it there.");
     else if (GetFileName(reference.source) != GetFileName(given))
@@ -211,7 +213,7 @@ void PicturesCheck::CheckUnnamed() {
     std::set<std::string> named = {LowerText(SettingsFileName)};
     for (const auto& [given, sheet] : sheets_)
         if (!sheet.reference->source.empty()) named.insert(LowerText(GetFileName(sheet.reference->source)));
-    const auto folder = OnDisk(skin_.SkinFolder());
+    const auto folder = OnDisk(loaded_.folder());
     std::vector<std::string> names = NamesIn(folder);
     std::ranges::sort(names);
     constexpr std::string_view texts[] = {"txt", "md", "html", "ini", "xml", "rtf", "pdf"};

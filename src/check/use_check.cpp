@@ -84,7 +84,7 @@ Findings UseCheck::Run() {
     CheckFonts();
     if (!skin_.dbLayouts->Find(StandardLayout))
         Add("no-standard", {}, 0, "There is no layout \"Standard\", with which the jukebox starts.");
-    if (PreviewFiles(OnDisk(skin_.SkinFolder())).empty())
+    if (PreviewFiles(OnDisk(loaded_.folder())).empty())
         Add("no-preview", {"", "SP_PicPreview", ""}, 0,
             "The skin has no preview picture: lists of skins show an empty place.");
     return std::move(findings_);

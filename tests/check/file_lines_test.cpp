@@ -166,7 +166,7 @@ protected:
         objSkin = std::make_shared<dbSkin>();
         objSkin->SetBasePath((folder_ / "").string());
         objSkin->SkinName = "Blue";
-        Findings findings = CheckLines(LoadedSkin(*objSkin, Joined(lines)));
+        Findings findings = CheckLines(LoadedSkin(objSkin->BasePath(), "Blue", Joined(lines)));
         std::erase_if(findings,
                       [](const Finding& finding) { return finding.kind->severity == Severity::Hint; });
         return findings;

@@ -29,7 +29,7 @@ std::string Told(const TemporaryFolder& folder, void (*change)(E& play, E& next,
     };
     E &play = add("Play", TypeButton, 0, 60), &next = add("Next", TypeButton, 68, 60);
     change(play, next, add("Title", TypeInfo, 200, 300));
-    const LoadedSkin loaded(*skin, skin->FileBytes());
+    const LoadedSkin loaded(skin->BasePath(), skin->SkinName, skin->FileBytes());
     std::string told;
     for (const auto check : {CheckTargets, CheckTexts})
         for (const Finding& one : check(loaded)) told.append(one.kind->code).append(": " + one.text + "\n");

@@ -69,7 +69,8 @@ TEST(SizesCheck, TellsWhatComesToBe) {
             layout.dbLayoutElements->AddObject(std::make_shared<dbLayoutElement>(element));
         }
         std::string told;
-        for (const Finding& finding : CheckSizes(LoadedSkin(skin, skin.FileBytes()))) told += finding.text;
+        for (const Finding& finding : CheckSizes(LoadedSkin("none", "None", skin.FileBytes())))
+            told += finding.text;
         EXPECT_EQ(told.substr(0, told.find(" (tried")), text);
     }
 }
