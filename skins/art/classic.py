@@ -128,8 +128,8 @@ def name_plate(page, y):
                              UseTopLeftTransparency=False)
     for i, (key, action, symbol) in enumerate((("Close", 13, "close"), ("Maximise", 14, "maximise"),
                                                ("Minimise", 15, "minimise"))):
-        faces = pictures(page.folder, "window_" + symbol, face(28, 24, symbol, 4))
-        page.button(key, (762 - i * 32, y + 3, 28, 24), action, faces, "RT")
+        faces = pictures(page.folder, "window_" + symbol, face(34, 34, symbol, 4))
+        page.button(key, (754 - i * 42, y - 2, 34, 34), action, faces, "RT")
 
 
 def display(page, y):
@@ -141,8 +141,8 @@ def display(page, y):
     page.info("Seeker", (24, y + 60, 580, 12), 0, TEXT, INK, "LTR", SAND, Seeker=True, SeekerColor=skin_colour(BRICK),
               SeekTopOffset=2, SeekBottomOffset=2, SeekLeftOffset=2, SeekRightOffset=2, name="Seek bar")
     page.info("Elapsed", (616, y + 10, 78, 22), 8, DIGITS, INK, "RT")
-    page.info("Remaining", (616, y + 32, 78, 22), 9, DIGITS, WOOD, "RT")
-    page.info("Clock", (616, y + 57, 78, 18), 17, TEXT, WOOD, "RT")
+    page.info("Remaining", (616, y + 32, 78, 22), 9, DIGITS, DARK_WOOD, "RT")
+    page.info("Clock", (616, y + 57, 78, 18), 17, TEXT, DARK_WOOD, "RT")
     page.add("Knob", VOLUME, (712, y + 3, 76, 76), "RT", UseTransparency=True, ShowSmooth=True, VolumeChangeable=True,
              PicNormal=page.folder.png(knob(76), "knob"), name="Volume knob")
 
@@ -198,9 +198,9 @@ def standard(skin, folder):
     ground(page, 38, 62)
     name_plate(page, 4)
     display(page, 48)
-    faces = pictures(folder, "tab", face(96, 32))
+    faces = pictures(folder, "tab", face(92, 34))
     for i, (caption, action) in enumerate(TABS):
-        page.button(caption.replace(" ", ""), (12 + i * 100, 140, 96, 32), action, faces, "T", "W", caption)
+        page.button(caption.replace(" ", ""), (12 + i * 104, 139, 92, 34), action, faces, "T", "W", caption)
     page.add("SearchBox", SEARCH, (560, 144, 228, 24), "T", "W", ShowBorder=True, TextColor=skin_colour(INK),
              BackgroundColor=0xFFFFFF, Font=TEXT, name="Search Box")
     lists(page, (12, 182, 776, 346))

@@ -220,7 +220,7 @@ def _is_key(image):
 GLASS = {  # state: (dark body, light at the top, rim alpha, inner glow alpha, accent part of the body)
     "normal": (0.62, 0.20, 0.34, 0.00, 0.00),
     "over": (0.60, 0.28, 0.85, 0.55, 0.16),
-    "down": (0.74, 0.08, 0.95, 0.75, 0.34),
+    "down": (0.74, 0.08, 0.95, 0.75, 0.28),
     "selected": (0.62, 0.22, 0.95, 0.60, 0.38),
     "quiet": (0.42, 0.12, 0.20, 0.00, 0.00),
 }
