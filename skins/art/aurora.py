@@ -88,12 +88,12 @@ def window_buttons(page, y, right=1008):
     for i, (key, action, symbol, accent) in enumerate((("Close", CLOSE, "close", ROSE),
                                                        ("Maximise", MAXIMISE, "maximise", TEAL),
                                                        ("Minimise", MINIMISE, "minimise", TEAL))):
-        pictures = three_states(page.folder, "window_" + symbol, pane_button(34, 30, symbol, 7, accent, 0.5))
-        page.button(key, (right - 34 - i * 38, y, 34, 30), action, pictures, "RT")
+        pictures = three_states(page.folder, "window_" + symbol, pane_button(34, 34, symbol, 7, accent, 0.45))
+        page.button(key, (right - 34 - i * 42, y, 34, 34), action, pictures, "RT")
 
 
 def brand(page, y):
-    page.picture("Wordmark", (52, y + 4, 124, 27), "LT", PicNormal=page.folder.png(art.wordmark(124, 27), "wordmark"),
+    page.picture("Wordmark", (52, y, 124, 36), "LT", PicNormal=page.folder.png(art.wordmark(124, 36), "wordmark"),
                  Dragger=True)
     page.picture("Seal", (14, y - 1, 38, 38), "LT", PicNormal=page.folder.png(art.sticker(38), "seal"), Rotation=8,
                  name="Seal, turned by 8 degrees")
@@ -224,7 +224,7 @@ def standard(skin, folder):
     window(page, "standard", scene.Outline(SIZE, (24, 746), 30, (322, 702), (322, 702)), 74, 656)
     brand(page, 32)
     clock_plate(page, 18, STATUS)
-    window_buttons(page, 35)
+    window_buttons(page, 33)
     display(page, (16, 84, 992, 114))
     tabs(page, (("Albums", ALBUMS, "Albums"), ("Artists", ARTISTS, "Artists"), ("Songs", SONGS, "Songs"),
                 ("Special", SPECIAL, "Special"), ("Playlist", PLAYLIST, "Playlist"), ("Top100", TOP, "Top 100")),
@@ -233,7 +233,7 @@ def standard(skin, folder):
                  PicNormal=folder.png(art.search_field(204, 38), "search_field"))
     page.add("SearchBox", SEARCH, (756, 215, 152, 22), "T", "W", TextColor=skin_colour(ICE), Font=ARTIST,
              BackgroundColor=skin_colour("0a1730"), name="Search Box")
-    page.button("Magic", (660, 198, 56, 56), MAGIC, three_states(folder, "magic", art.diamond(56), folder.png), "T", "W",
+    page.button("Magic", (659, 197, 58, 58), MAGIC, three_states(folder, "magic", art.diamond(58), folder.png), "T", "W",
                 Rotation=45, name="Magic, turned by 45 degrees")
     pictures = three_states(folder, "keyboard", pane_button(76, 38, "keyboard"))
     page.button("Keyboard", (932, 206, 76, 40), KEYBOARD, pictures, "T", "W")
@@ -255,8 +255,8 @@ def kiosk(skin, folder):
     page.info("NowPlaying", (254, 25, 516, 34), FULL_TITLE, page.ground(52, 9, 34, WIDE), TITLE, ICE, "LTR", CapScrollSpeed=3)
     page.plate("ClockPlate", (800, 22, 106, 40), "RT")
     page.info("Clock", (810, 30, 88, 24), TIME, page.ground(40, 8, 24), CLOCK, GREEN, "RT", CaptionY=1)
-    pictures = three_states(folder, "window_close", pane_button(34, 30, "close", 7, ROSE, 0.5))
-    page.button("Close", (924, 27, 34, 30), CLOSE, pictures, "RT")
+    pictures = three_states(folder, "window_close", pane_button(34, 34, "close", 7, ROSE, 0.45))
+    page.button("Close", (924, 25, 34, 34), CLOSE, pictures, "RT")
     side = (("Albums", ALBUMS, "album"), ("Artists", ARTISTS, "artist"), ("Songs", SONGS, "song"),
             ("Top100", TOP, "trophy"), ("Special", SPECIAL, "special"), ("Playlist", PLAYLIST, "playlist"))
     captions = {"Top100": "Top 100"}
@@ -300,7 +300,7 @@ def admin(skin, folder):
     page.plate("ListPlate", (392, 11, 240, 38), "T")
     page.info("PlaylistName", (404, 19, 146, 22), LIST_NAME, page.ground(38, 8, 22), TAB, GREEN, "T")
     page.info("PlaylistDuration", (556, 19, 66, 22), LIST_DURATION, page.ground(38, 8, 22), DIGITS, ICE, "T")
-    window_buttons(page, 15)
+    window_buttons(page, 13)
     display(page, (148, 70, 860, 114), 18)
     rows = (("LoadList", LOAD, "Load", "playlist"), ("SaveList", SAVE, "Save", "album"),
             ("Generator", GENERATOR, "Generate", "magic"), ("AutoPlay", AUTOPLAY, "Auto play", "play"),

@@ -268,11 +268,11 @@ def _letter_paths(pen, unit):
 
 def wordmark(width, height):
     image, pen = surface(width, height)
-    unit = height - 14
+    unit = min(height - 14, (width - 16) * 7 / 45)
 
     def path():
         pen.save()
-        pen.translate(8, 7)
+        pen.translate(8, (height - unit) / 2)
         pen.new_path()
         _letter_paths(pen, unit)
         pen.restore()
