@@ -2,6 +2,7 @@
 #include "check/element_texts.h"
 
 #include <QFontMetrics>
+#include <algorithm>
 
 #include "document/codes.h"
 #include "platform/fonts.h"
@@ -11,6 +12,8 @@
 
 namespace ornavo {
 namespace {
+
+constexpr int FarFromBox = 1 << 24;  // pixels; nothing so far out is seen
 
 /// The control in the element's slot, if the element is seen there.
 template <class T>
@@ -32,9 +35,9 @@ void AddInfo(std::vector<ElementText>& texts, const dbLayoutElementRef& element,
     const std::string text = FirstText(*element);
     if (text.empty()) return;
     const int width = box.TextWidth(text), height = QFontMetrics(ScreenFont(box.Font)).height();
+    const int top = std::clamp(element->CaptionY, -FarFromBox, FarFromBox);
     const bool scrolls = element->InfoType != InfoUserLabel && element->CapScrollSpeed != 0;
-    texts.push_back(
-        {element, &box, text, box.Font, {0, element->CaptionY, width, height}, box.width(), scrolls});
+    texts.push_back({element, &box, text, box.Font, {0, top, width, height}, box.width(), scrolls});
 }
 
 }  // namespace

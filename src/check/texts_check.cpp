@@ -112,7 +112,7 @@ std::string CutOf(const ElementText& text) {
     const QRect ink = metrics.tightBoundingRect(ShownText(text.font, text.text))
                           .translated(0, text.line.top + metrics.ascent());
     const int lost = std::max(-ink.top(), ink.bottom() + 1 - text.control->height());
-    if (lost > 0) return "loses " + std::to_string(lost) + " pixels of its height";
+    if (lost > 0) return "loses " + std::to_string(std::min(lost, ink.height())) + " pixels of its height";
     if (text.scrolls || text.line.width <= text.room) return "";
     return "is " + std::to_string(text.line.width) + " pixels wide and has a room of " +
            std::to_string(text.room);

@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <utility>
 
+#include "base/failure.h"
 #include "document/current_skin.h"
 #include "document/skin_copy.h"
 #include "platform/prompts.h"
@@ -15,42 +16,42 @@
 #include "render/surface.h"
 
 namespace ornavo {
-namespace {
-
-/// Keeps messages and cancels all questions.
-class KeptPrompts : public Prompts {
-public:
-    std::vector<std::string> messages;
-    Answer Message(std::string_view text, std::string_view, Icon, Buttons) override {
-        messages.emplace_back(text);
-        return Answer::Ok;
-    }
-    std::optional<std::string> Input(std::string_view, std::string_view, std::string_view) override {
-        return std::nullopt;
-    }
-    std::optional<std::string> File(const FileQuestion&) override { return std::nullopt; }
-    std::optional<Colour> ColourOf(Colour, CustomColours&) override { return std::nullopt; }
-    std::optional<Font> FontOf(const Font&, const std::vector<std::string>&) override { return std::nullopt; }
-};
-
-/// Sets a variable, and restores it at its end.
-template <class T>
-class Exchanged {
-public:
-    Exchanged(T& variable, T now) : variable_(variable), before_(std::exchange(variable, std::move(now))) {}
-    ~Exchanged() { variable_ = std::move(before_); }
-    Exchanged(const Exchanged&) = delete;
-    Exchanged& operator=(const Exchanged&) = delete;
-
-private:
-    T& variable_;
-    T before_;
-};
-
-}  // namespace
 
 /// All that is current in the program.
 class LayoutPicture::Aside {
+    /// Keeps messages and cancels all questions.
+    class KeptPrompts : public Prompts {
+    public:
+        std::vector<std::string> messages;
+        Answer Message(std::string_view text, std::string_view, Icon, Buttons) override {
+            messages.emplace_back(text);
+            return Answer::Ok;
+        }
+        std::optional<std::string> Input(std::string_view, std::string_view, std::string_view) override {
+            return std::nullopt;
+        }
+        std::optional<std::string> File(const FileQuestion&) override { return std::nullopt; }
+        std::optional<Colour> ColourOf(Colour, CustomColours&) override { return std::nullopt; }
+        std::optional<Font> FontOf(const Font&, const std::vector<std::string>&) override {
+            return std::nullopt;
+        }
+    };
+
+    /// Sets a variable, and restores it at its end.
+    template <class T>
+    class Exchanged {
+    public:
+        Exchanged(T& variable, T now)
+            : variable_(variable), before_(std::exchange(variable, std::move(now))) {}
+        ~Exchanged() { variable_ = std::move(before_); }
+        Exchanged(const Exchanged&) = delete;
+        Exchanged& operator=(const Exchanged&) = delete;
+
+    private:
+        T& variable_;
+        T before_;
+    };
+
 public:
     Aside(dbSkinRef skin, std::string_view layoutKey)
         : layout_(objCurrentLayout, skin->dbLayouts->Item(layoutKey)), skin_(objSkin, std::move(skin)) {}
@@ -80,12 +81,12 @@ public:
     int ScaleHeight() const override { return height(); }
     LayoutHost& host() override { return host_; }
     void ShowGrid() override { surface_.ShowGrid(TargetFrame, 1); }
-    bool HasSurface = true;
+    bool IsBare = false;  // without the surface
 
 protected:
     void paintEvent(QPaintEvent* event) override {
         event->accept();
-        if (!HasSurface) return;
+        if (IsBare) return;
         QPainter painter(this);
         surface_.Paint(painter, rect());
     }
@@ -122,10 +123,11 @@ QImage LayoutPicture::Whole() {
 QImage LayoutPicture::Controls(const QRegion& part) {
     QImage picture(window_->size(), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
-    const QRegion shape = ShapeRegion(layout(), TargetFrame);
+    QRegion shape;
+    Attempt([&] { shape = ShapeRegion(layout(), TargetFrame); });
     const QRegion shown = part & (shape.isEmpty() ? window_->rect() : shape);
     if (shown.isEmpty()) return picture;
-    const Exchanged<bool> bare(window_->HasSurface, false);
+    const Raised bare(window_->IsBare);
     window_->render(&picture, shown.boundingRect().topLeft(), shown, QWidget::DrawChildren);
     return picture;
 }
