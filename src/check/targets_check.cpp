@@ -53,15 +53,34 @@ std::int64_t SpaceBetween(std::int64_t start, int length, std::int64_t otherStar
     return std::max(otherStart - (start + length), start - (otherStart + otherLength));
 }
 
+/// The same in both directions, at the skin's own size.
+struct Spaces {
+    std::int64_t across, down;
+};
+Spaces SpacesBetween(const Target& one, const Target& other) {
+    const Rect &a = one.places[0], &b = other.places[0];
+    return {SpaceBetween(a.left, a.width, b.left, b.width), SpaceBetween(a.top, a.height, b.top, b.height)};
+}
+
 /// The pixels between neighbours in a row or a column, at most LeastSpace, which is also for others. Nothing
 /// happens when the window's handle is pressed by mistake.
 std::int64_t SpaceBetween(const Target& one, const Target& other) {
-    if (one.element->Dragger || other.element->Dragger) return LeastSpace;
-    const Rect &a = one.places[0], &b = other.places[0];
-    const std::int64_t across = SpaceBetween(a.left, a.width, b.left, b.width);
-    const std::int64_t down = SpaceBetween(a.top, a.height, b.top, b.height);
-    const bool areNeighbours = (across < 0) != (down < 0);
-    return areNeighbours ? std::min<std::int64_t>(std::max(across, down), LeastSpace) : LeastSpace;
+    const auto [across, down] = SpacesBetween(one, other);
+    const bool areNeighbours = (across < 0) != (down < 0) && !one.element->Dragger && !other.element->Dragger;
+    return areNeighbours ? std::min(std::max(across, down), LeastSpace) : LeastSpace;
+}
+
+int ShorterSide(const Rect& place) {
+    return std::min(place.width, place.height);
+}
+
+/// Whether it is a piece of the window's handle that a large enough one touches.
+bool IsPieceOfHandle(const Target& piece, const std::vector<Target>& targets) {
+    return piece.element->Dragger && std::ranges::any_of(targets, [&](const Target& other) {
+               const auto [across, down] = SpacesBetween(piece, other);
+               return other.element->Dragger && ShorterSide(other.places[0]) >= LeastTarget && across <= 0 &&
+                      down <= 0;
+           });
 }
 
 /// Targets each of which is too close to another one, and the least space between two of them.
@@ -99,7 +118,8 @@ public:
         const dbSkin& skin = loaded_.skin();
         for (const dbLayoutRef& layout : *skin.dbLayouts) {
             const auto targets = TargetsOf(*layout, {skin.SkinWidth, skin.SkinHeight});
-            for (const Target& target : targets) CheckSize(*layout, target);
+            for (const Target& target : targets)
+                if (!IsPieceOfHandle(target, targets)) CheckSize(*layout, target);
             CheckSpaces(*layout, targets);
         }
         return std::move(findings_);
@@ -120,11 +140,10 @@ private:
 };
 
 void TargetsCheck::CheckSize(const dbLayout& layout, const Target& target) {
-    const auto shorter = [](const Rect& place) { return std::min(place.width, place.height); };
     const auto& [own, least] = target.places;
-    const bool isWorse = shorter(least) < shorter(own);
+    const bool isWorse = ShorterSide(least) < ShorterSide(own);
     const Rect& worst = isWorse ? least : own;
-    if (shorter(worst) < 1 || shorter(worst) >= LeastTarget) return;
+    if (ShorterSide(worst) < 1 || ShorterSide(worst) >= LeastTarget) return;
     Add("small-target", layout, target, worst.width < worst.height ? "WidthX" : "HeightY",
         NameOf(target) + " is " + std::to_string(worst.width) + " x " + std::to_string(worst.height) +
             " pixels" + (isWorse ? " in a window of 600 x 600" : "") +

@@ -45,6 +45,7 @@ TEST(FingersAndEyes, AreToldOfEachFaultAndOfNothingElse) {
     const std::pair<const char*, void (*)(E&, E&, E&)> rows[] = {
         {"small-target: \"Play\" is 33 x 40", [](E& play, E&, E&) { play.WidthX = 33; }},
         {"", [](E& play, E&, E&) { play.WidthX = 33, play.ActionType = 0; }},
+        {"", [](E& play, E& next, E&) { play.WidthX = 68, play.HeightY = 33, play.Dragger = next.Dragger = true; }},
         {"20 x 40 pixels in a window of 600", [](E&, E& next, E&) { next.LockRight = next.StretchWidth = true, next.Caption = ""; }},
         {"small-target: \"Title\"", [](E&, E&, E& title) { title.InfoType = InfoVolume, title.VolumeChangeable = true, title.HeightY = 33; }},
         {"\"Play\" and \"Next\" are 7 pixels", [](E&, E& next, E&) { next.LeftX = 67; }},
