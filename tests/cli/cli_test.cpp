@@ -167,6 +167,13 @@ TEST_F(ToolTest, CheckAndCompareTellWhatTheyFind) {
     EXPECT_EQ(QImage(Path("out/Standard-difference.png")).size(), QSize(100, 80));
 }
 
+TEST_F(ToolTest, TheSamplesAreRight) {
+    const QString skins = ORNAVO_SOURCE_DIR "/skins/";
+    for (const QString name : {"Aurora", "Classic"})
+        EXPECT_EQ(Run("check " + skins + name + " --strict --ignore " + skins + "art/" + name + ".check"), 0)
+            << out_.constData();
+}
+
 TEST_F(ToolTest, ASheetHasTheLayoutsAtAllSizes) {
     EXPECT_EQ(Run("sheet Blue --out x.html --sizes 90x80 --sizes 200x100 --states"), 0) << err_.constData();
     const QByteArray page = Read("x.html");
