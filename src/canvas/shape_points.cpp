@@ -69,13 +69,16 @@ void ShapePoints::HideShapePoints() {
 }
 
 void ShapePoints::ShowShapePoints() {
-    HideShapePoints();
-    if (!TargetLayout) return;
+    if (!TargetLayout) return HideShapePoints();
+    cPoint.Free();
+    cPointMover.Free();
     const std::vector<Corner> corners = CornersByOrder(*TargetLayout, TargetFrame);
     if (viewSwitches.ShowLines) ShowSides(corners);
     if (viewSwitches.ShowPoints)
         for (const Corner& corner : corners)
             cPointMover[GetFreeMover(corner.at.x, corner.at.y)].Tag = TagOfPoint(corner.order);
+    cPoint.HideFree();
+    cPointMover.HideFree();
 }
 
 void ShapePoints::ShowSides(const std::vector<Corner>& corners) {

@@ -39,6 +39,16 @@ public:
         }
         firstFree_ = 1;
     }
+    /// Frees all slots from 1, and leaves shown what will be handed out again: to hide and show a control
+    /// costs a question to the screen. HideFree must follow.
+    void Free() {
+        for (int i = 1; i <= Top(); ++i) (*this)[i].Tag.clear();
+        firstFree_ = 1;
+    }
+    void HideFree() {
+        for (int i = 1; i <= Top(); ++i)
+            if ((*this)[i].Tag.empty()) (*this)[i].setVisible(false);
+    }
     /// The caller has freed this slot by emptying its Tag.
     void Released(int index) {
         if (index < firstFree_) firstFree_ = index;
