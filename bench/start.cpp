@@ -76,18 +76,19 @@ int main(int count, char** words) {
     const Screen screen;
     const std::vector<std::string> empty, plain = {"--editor"}, rich = {"--editor", RICH_SKIN},
                                           second = {"--editor", RICH_SKIN, "--stay"};
-    const int code = Judge({{"start without a skin, to the first painting", Painted(plain),
-                             "an empty Qt window", Painted(empty), 1.5},
-                            {"start with the rich sample, to the first painting", Painted(rich),
-                             "an empty Qt window", Painted(empty), 3.1,
-                             "was 2.5: a fifth is decoding on two processors, a seventh libraries and "
-                             "Qt, 7 % fonts"},
-                            {"processor time of that start and a second more",
-                             [=] { return Run(second).cpu; },
-                             "",
-                             {},
-                             MostCpu}},
-                           count, words);
+    const int code =
+        Judge({{"start without a skin, to the first painting", Painted(plain), "an empty Qt window",
+                Painted(empty), 1.6, "was 1.5: loading fonts, of which an empty window has none, is 11 %"},
+               {"start with the rich sample, to the first painting", Painted(rich), "an empty Qt window",
+                Painted(empty), 3.1,
+                "was 2.5: a fifth is decoding on two processors, a seventh libraries and "
+                "Qt, 7 % fonts"},
+               {"processor time of that start and a second more",
+                [=] { return Run(second).cpu; },
+                "",
+                {},
+                MostCpu}},
+              count, words);
     if (count == 1)
         std::printf("\nPeak memory: empty window %.1f MB, no skin %.1f MB, rich sample %.1f MB\n",
                     Run(empty).megabytes, Run(plain).megabytes, Run(rich).megabytes);

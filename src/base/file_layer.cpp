@@ -242,8 +242,9 @@ std::string FileLayer::Read(const fs::path& path) {
     std::error_code error;
     const std::uintmax_t expected = fs::file_size(path, error);  // only a hint: the file may be growing
     std::string bytes;
+    bytes.reserve(error ? Chunk : static_cast<std::size_t>(expected) + 1);  // one more to see the end
     for (std::size_t size = 0, count = 1; count > 0; bytes.resize(size += count)) {
-        bytes.resize(size > 0 || error ? size + Chunk : static_cast<std::size_t>(expected) + 1);
+        bytes.resize(size < bytes.capacity() ? bytes.capacity() : size + Chunk);
         count = file.Read(bytes.data() + size, bytes.size() - size);
     }
     return bytes;

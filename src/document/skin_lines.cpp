@@ -90,13 +90,16 @@ TagLine GetTag(std::string_view line) {
 
 std::optional<TagLine> PlainLine(std::string_view line) {
     if (line.ends_with('\r')) line.remove_suffix(1);
-    const std::size_t open = line.find_first_not_of('\t');
-    if (open == None || line[open] != '<') return std::nullopt;
-    const std::size_t close = line.find('>', open);
-    if (close == None) return std::nullopt;
+    std::size_t open = 0;
+    while (open < line.size() && line[open] == '\t') ++open;
+    if (open == line.size() || line[open] != '<') return std::nullopt;
+    // A tag is short: a loop finds its end sooner than a search does.
+    std::size_t close = open + 1;
+    while (close < line.size() && line[close] != '>' && line[close] != '<') ++close;
+    if (close == line.size() || line[close] == '<') return std::nullopt;
     const std::string_view tag = line.substr(open + 1, close - open - 1);
     const std::string_view rest = line.substr(close + 1);
-    if (rest.size() < tag.size() + 3 || tag.find('<') != None) return std::nullopt;
+    if (rest.size() < tag.size() + 3) return std::nullopt;
     const std::string_view end = rest.substr(rest.size() - tag.size() - 3);
     if (!end.starts_with("</") || !end.ends_with('>') || end.substr(2, tag.size()) != tag)
         return std::nullopt;
