@@ -36,7 +36,7 @@ struct Option {
     std::string_view name;
     std::string_view value;  // what the usage calls its value; "" for a switch
     bool isNeeded = false;
-    bool isRepeated = false;  // otherwise it may be there once
+    bool isRepeated = false;  // otherwise the last one counts
 };
 
 struct Command {
